@@ -1,0 +1,46 @@
+# Compiler settings shared by every target. The result of every routine is fixed to the bit, so nothing here may
+# let the compiler contract a product and a sum, or reorder floating-point arithmetic.
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_C_VISIBILITY_PRESET hidden)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+find_program(KORVEL_CCACHE ccache)
+if(KORVEL_CCACHE)
+    set(CMAKE_C_COMPILER_LAUNCHER ${KORVEL_CCACHE})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${KORVEL_CCACHE})
+endif()
+
+add_compile_options(-ffp-contract=off)
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(KORVEL_WERROR)
+    add_compile_options(-Werror)
+endif()
+if(WIN32)
+    # The Windows stack is not aligned for 32-byte moves, so the assembler must use the unaligned form.
+    add_compile_options(-Wa,-muse-unaligned-vector-move)
+    add_compile_definitions(NOMINMAX WIN32_LEAN_AND_MEAN UNICODE _UNICODE)
+endif()
+if(KORVEL_SANITIZE)
+    add_compile_options(-fsanitize=${KORVEL_SANITIZE} -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${KORVEL_SANITIZE})
+    if(KORVEL_SANITIZE MATCHES "undefined")
+        add_compile_options(-fno-sanitize-recover=undefined)
+    endif()
+endif()
+
+# Header-only libraries of the build machine reach a cross build through links in the build folder: the machine's
+# whole include folder would bring in headers of the wrong system.
+add_library(korvel_header_libraries INTERFACE)
+if(CMAKE_CROSSCOMPILING)
+    set(host_headers ${CMAKE_BINARY_DIR}/host_headers)
+    file(MAKE_DIRECTORY ${host_headers})
+    foreach(library boost rapidjson)
+        file(CREATE_LINK /usr/include/${library} ${host_headers}/${library} SYMBOLIC)
+    endforeach()
+    target_include_directories(korvel_header_libraries SYSTEM INTERFACE ${host_headers})
+endif()

@@ -1,0 +1,50 @@
+/**
+ * @file
+ * Host arrays: reading their shape and resizing them with their own allocator.
+ */
+#ifndef KORVEL_CONTAINERS_HOST_ARRAY_H
+#define KORVEL_CONTAINERS_HOST_ARRAY_H
+
+#include "platform/automation.h"
+
+#include <cstdint>
+#include <span>
+
+namespace korvel
+{
+
+/** Rows and columns as a matrix sees them. */
+struct table_shape {
+    int rows;
+    int cols;
+
+    friend bool operator==(const table_shape&, const table_shape&) = default;
+};
+
+/**
+ * Shape of a host array: its leftmost dimension gives the rows, the next one the columns. A dimension that is
+ * not there counts as 1; further dimensions and all lower bounds are ignored.
+ * @throws boost::numeric::positive_overflow when one of the two counts is above 0x7FFFFFFF
+ */
+[[nodiscard]] table_shape hostArrayShape(const SAFEARRAY& array);
+
+/** Number of elements over all dimensions; an array of no dimensions has 1, the one that a matrix sees. */
+[[nodiscard]] std::uint64_t hostArrayLength(const SAFEARRAY& array);
+
+/**
+ * Gives a host array a new shape in place. The old contents are not kept in order: a block that is large
+ * enough stays as it is, a larger one comes fresh from the task allocator. The texts of a text array are
+ * freed first.
+ *
+ * @param array  the array; its lower bounds stay
+ * @param counts new element counts, the leftmost dimension first; after a count of 0 all later ones are 0
+ * @param clear  whether to fill the block with zero bytes
+ * @return false, with the array as it was, when the array has a fixed size, when `counts` is empty, has a
+ * negative entry or another length than the array has dimensions. When the larger block cannot be had, also
+ * false; the texts are freed by then, and their places are null.
+ */
+bool resizeHostArray(SAFEARRAY& array, std::span<const int> counts, bool clear);
+
+} // namespace korvel
+
+#endif

@@ -1,0 +1,11 @@
+/**
+ * @file
+ * All flat functions of KORVELMathTools, for C and everything that can call C.
+ */
+#ifndef KORVELMATHTOOLS_H
+#define KORVELMATHTOOLS_H
+
+#include "frames/containers.h"
+#include "frames/vector_sums.h"
+
+#endif

@@ -1,0 +1,44 @@
+/**
+ * @file
+ * Flat functions: missing cells, host arrays, diagnostics.
+ */
+#ifndef KORVEL_FRAMES_CONTAINERS_H
+#define KORVEL_FRAMES_CONTAINERS_H
+
+#include "frames/types.h"
+
+/**
+ * Tells whether a number is missing: whether it is at or below the sentinel -1.79769313486231e308.
+ *
+ * @param x a number; a NaN is not missing
+ * @return -1 when missing, otherwise 0
+ */
+KORVEL_FLAT short int VB_IsMissingValueDbl(double x);
+
+/**
+ * Tells whether a cell, rendered as text, is empty.
+ *
+ * @param cell [in] a cell of any type, or a reference to one. A text is missing when it has no characters
+ * before its first NUL; a number, a date or a Boolean never is; an empty cell always is
+ * @return -1 when missing, otherwise 0
+ */
+KORVEL_FLAT short int VB_IsMissingValueStr(VARIANT* cell);
+
+/**
+ * The block of texts behind a host array, for functions that take such a block.
+ *
+ * @param sa [in] reference to the array's descriptor, which may be null
+ * @return the array's data, or null when there is no array or it holds none
+ */
+KORVEL_FLAT OLECHAR** ExtractBSTR(SAFEARRAY** sa);
+
+/**
+ * Sends a line to the debugger: the label, a blank, the value with 16 decimals in a field of 36, a line end.
+ * A line of more than 999 bytes is cut.
+ *
+ * @param value the number
+ * @param label [in] narrow text, NUL-terminated
+ */
+KORVEL_FLAT void dprint(double value, const char* label);
+
+#endif

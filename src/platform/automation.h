@@ -1,0 +1,160 @@
+/**
+ * @file
+ * The automation types that callers hand over: texts (BSTR), arrays (SAFEARRAY) and cells (VARIANT), with the
+ * calls that make and free them.
+ *
+ * On Windows these are the system's own. Elsewhere this header declares the same names with the same memory
+ * layout, and the library KORVELAutomation implements what callers and this library need of them. The header
+ * is plain C.
+ */
+#ifndef KORVEL_PLATFORM_AUTOMATION_H
+#define KORVEL_PLATFORM_AUTOMATION_H
+
+#if defined(_WIN32)
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#else
+
+#include <stddef.h>
+#include <stdint.h>
+#if !defined(__cplusplus)
+#include <uchar.h>
+#endif
+
+#define KORVEL_AUTOMATION_API __attribute__((visibility("default")))
+
+#if defined(__cplusplus)
+extern "C" {
+#endif
+
+typedef char16_t OLECHAR;
+typedef OLECHAR* BSTR;
+typedef uint16_t USHORT;
+typedef int32_t LONG;
+typedef uint32_t ULONG;
+typedef uint32_t UINT;
+typedef int32_t HRESULT;
+typedef uint16_t VARTYPE;
+typedef int16_t VARIANT_BOOL;
+
+#define S_OK ((HRESULT)0)
+#define E_INVALIDARG ((HRESULT)0x80070057)
+#define DISP_E_ARRAYISLOCKED ((HRESULT)0x8002000D)
+#define VARIANT_TRUE ((VARIANT_BOOL)-1)
+#define VARIANT_FALSE ((VARIANT_BOOL)0)
+
+/** One dimension of a host array. */
+typedef struct tagSAFEARRAYBOUND {
+    ULONG cElements; /**< Number of elements. */
+    LONG lLbound;    /**< Number of the first one. */
+} SAFEARRAYBOUND;
+
+/** Descriptor of a host array. The bounds stand in reverse: the rightmost dimension is `rgsabound[0]`. */
+typedef struct tagSAFEARRAY {
+    USHORT cDims;
+    USHORT fFeatures;
+    ULONG cbElements;
+    ULONG cLocks;
+    void* pvData;
+    SAFEARRAYBOUND rgsabound[1];
+} SAFEARRAY;
+
+enum {
+    FADF_AUTO = 0x0001,
+    FADF_STATIC = 0x0002,
+    FADF_EMBEDDED = 0x0004,
+    FADF_FIXEDSIZE = 0x0010,
+    FADF_HAVEVARTYPE = 0x0080,
+    FADF_BSTR = 0x0100,
+    FADF_VARIANT = 0x0800
+};
+
+enum VARENUM {
+    VT_EMPTY = 0,
+    VT_NULL = 1,
+    VT_I2 = 2,
+    VT_I4 = 3,
+    VT_R4 = 4,
+    VT_R8 = 5,
+    VT_CY = 6,
+    VT_DATE = 7,
+    VT_BSTR = 8,
+    VT_ERROR = 10,
+    VT_BOOL = 11,
+    VT_VARIANT = 12,
+    VT_I1 = 16,
+    VT_UI1 = 17,
+    VT_UI2 = 18,
+    VT_UI4 = 19,
+    VT_I8 = 20,
+    VT_UI8 = 21,
+    VT_INT = 22,
+    VT_UINT = 23,
+    VT_RECORD = 36,
+    VT_BYREF = 0x4000
+};
+
+/** A record of the caller's, with its description; nothing here reads one, but it makes a cell 24 bytes long.
+ */
+typedef struct tagRECORDREFERENCE {
+    void* pvRecord;
+    void* pRecInfo;
+} RECORDREFERENCE;
+
+/** A cell of any type; `vt` tells which member of the union holds it. */
+typedef struct tagVARIANT {
+    VARTYPE vt;
+    uint16_t wReserved1;
+    uint16_t wReserved2;
+    uint16_t wReserved3;
+    union {
+        int64_t llVal;
+        LONG lVal;
+        int16_t iVal;
+        VARIANT_BOOL boolVal;
+        float fltVal;
+        double dblVal;
+        BSTR bstrVal;
+        BSTR* pbstrVal;
+        struct tagVARIANT* pvarVal;
+        SAFEARRAY* parray;
+        void* byref;
+        RECORDREFERENCE record;
+    };
+} VARIANT;
+
+/** Allocates a copy of a text that ends at its first NUL; null for a null text or when memory is short. */
+KORVEL_AUTOMATION_API BSTR SysAllocString(const OLECHAR* text);
+/** Allocates room for `length` characters and a NUL, filled from `text` unless that is null. */
+KORVEL_AUTOMATION_API BSTR SysAllocStringLen(const OLECHAR* text, UINT length);
+/** Frees a BSTR; a null pointer is ignored. */
+KORVEL_AUTOMATION_API void SysFreeString(BSTR text);
+/** Characters before the closing NUL; 0 for a null pointer. */
+KORVEL_AUTOMATION_API UINT SysStringLen(BSTR text);
+/** Bytes before the closing NUL; 0 for a null pointer. */
+KORVEL_AUTOMATION_API UINT SysStringByteLen(BSTR text);
+
+/** Allocates from the allocator that host arrays use; null when memory is short. */
+KORVEL_AUTOMATION_API void* CoTaskMemAlloc(size_t bytes);
+/** Frees such a block; a null pointer is ignored. */
+KORVEL_AUTOMATION_API void CoTaskMemFree(void* block);
+
+/** Makes a zeroed array; `bounds` has the leftmost dimension first. Null when a type is unknown or memory is
+ * short. */
+KORVEL_AUTOMATION_API SAFEARRAY* SafeArrayCreate(VARTYPE type, UINT dimensions, SAFEARRAYBOUND* bounds);
+/** Frees an array with all that it holds. A locked array is left alone and reported. */
+KORVEL_AUTOMATION_API HRESULT SafeArrayDestroy(SAFEARRAY* array);
+
+/** Sends a line to the debugger. Off Windows there is none to listen: the line is only counted and
+ * remembered. */
+KORVEL_AUTOMATION_API void OutputDebugStringA(const char* line);
+
+#if defined(__cplusplus)
+}
+#endif
+
+#endif
+#endif
