@@ -15,7 +15,8 @@ namespace korvel
 {
 
 /** Reads a matrix by linear index as `matrix::operator[]` does: a position outside reads `oobValue`. */
-template <class T> class checked_cells
+template <class T>
+class checked_cells
 {
 public:
     explicit checked_cells(const matrix<T>& source) : source_(&source) {}
@@ -27,7 +28,8 @@ private:
 };
 
 /** Whether the first `n` cells all lie inside the block. */
-template <class T> [[nodiscard]] bool holds(const matrix<T>& m, std::int64_t n)
+template <class T>
+[[nodiscard]] bool holds(const matrix<T>& m, std::int64_t n)
 {
     return n <= 0 || static_cast<std::uint64_t>(n) <= m.nbElem;
 }

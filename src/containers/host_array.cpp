@@ -13,7 +13,8 @@ namespace
 {
 
 /** The bound of a dimension counted from the left; the descriptor keeps them from the right. */
-template <class Array> auto& boundFromLeft(Array& array, std::size_t dimension)
+template <class Array>
+auto& boundFromLeft(Array& array, std::size_t dimension)
 {
     auto* bounds = &array.rgsabound[0];
     return bounds[array.cDims - 1u - dimension];

@@ -18,7 +18,8 @@ void readTexts(matrix<text>& target, const BSTR* source, std::uint64_t count)
 
 } // namespace
 
-template <class T> matrix<T>::matrix(SAFEARRAY* sa)
+template <class T>
+matrix<T>::matrix(SAFEARRAY* sa)
 {
     if (sa == nullptr) {
         return;
@@ -34,7 +35,8 @@ template <class T> matrix<T>::matrix(SAFEARRAY* sa)
     }
 }
 
-template <class T> matrix<T>::matrix(int rows, int cols, SAFEARRAY* sa) requires korvel::is_text<T>
+template <class T>
+matrix<T>::matrix(int rows, int cols, SAFEARRAY* sa) requires korvel::is_text<T>
 {
     allocate(rows, cols, false);
     if (sa != nullptr && sa->pvData != nullptr) {
@@ -51,7 +53,8 @@ matrix<T>::matrix(int rows, int cols, OLECHAR** bstrs, int srcRows, int srcCols)
               korvel::elementCount(srcRows != 0 ? srcRows : nbrows, srcCols != 0 ? srcCols : nbcols));
 }
 
-template <class T> void matrix<T>::growBlock()
+template <class T>
+void matrix<T>::growBlock()
 {
     if (capacity < nbElem) {
         releaseBlock();
@@ -62,7 +65,8 @@ template <class T> void matrix<T>::growBlock()
     }
 }
 
-template <class T> void matrix<T>::Redim(int rows, int cols)
+template <class T>
+void matrix<T>::Redim(int rows, int cols)
 {
     cols = std::max(cols, 1);
     if (safeArray != nullptr) {
@@ -86,27 +90,26 @@ template <class T> void matrix<T>::Redim(int rows, int cols)
     }
 }
 
-template <class T> void matrix<T>::writeBackToHostArray() noexcept
+template <class T>
+void matrix<T>::writeBackToHostArray() noexcept requires korvel::is_text<T>
 {
-    if constexpr (korvel::is_text<T>) {
-        // There is no block when memory ran out on the way to a new shape.
-        if (safeArray == nullptr || safeArray->pvData == nullptr || data == nullptr) {
-            return;
-        }
-        auto* places = static_cast<BSTR*>(safeArray->pvData);
-        // A host array that refused to be resized may be smaller than this table.
-        const std::uint64_t count = std::min(nbElem, korvel::hostArrayLength(*safeArray));
-        try {
-            for (auto k = static_cast<std::uint64_t>(firstElem); k < count; ++k) {
-                if (places[k] == nullptr) {
-                    places[k] = korvel::makeBstr(data[k]);
-                } else {
-                    korvel::replaceIfDifferent(places[k], data[k]);
-                }
+    // There is no block when memory ran out on the way to a new shape.
+    if (safeArray == nullptr || safeArray->pvData == nullptr || data == nullptr) {
+        return;
+    }
+    auto* places = static_cast<BSTR*>(safeArray->pvData);
+    // A host array that refused to be resized may be smaller than this table.
+    const std::uint64_t count = std::min(nbElem, korvel::hostArrayLength(*safeArray));
+    try {
+        for (auto k = static_cast<std::uint64_t>(firstElem); k < count; ++k) {
+            if (places[k] == nullptr) {
+                places[k] = korvel::makeBstr(data[k]);
+            } else {
+                korvel::replaceIfDifferent(places[k], data[k]);
             }
-        } catch (...) {
-            // A destructor has no one to tell; the texts that were not reached keep their old value.
         }
+    } catch (...) {
+        // A destructor has no one to tell; the texts that were not reached keep their old value.
     }
 }
 

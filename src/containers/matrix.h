@@ -19,13 +19,15 @@
 namespace korvel
 {
 
-template <class T> inline constexpr bool is_text = std::same_as<T, text>;
+template <class T>
+inline constexpr bool is_text = std::same_as<T, text>;
 
 template <class T>
 concept numeric_element = std::same_as<T, double> || std::same_as<T, int> || std::same_as<T, short int>;
 
 /** What an index outside a fresh matrix reads: -1 for numbers, 0 for flags, the empty text. */
-template <class T> [[nodiscard]] T initialOutOfBoundsValue()
+template <class T>
+[[nodiscard]] T initialOutOfBoundsValue()
 {
     if constexpr (std::same_as<T, double> || std::same_as<T, int>) {
         return T{-1};
@@ -51,7 +53,8 @@ template <class T> [[nodiscard]] T initialOutOfBoundsValue()
  * No access raises an error. An index outside reads and writes `oobValue`, which every `setElement` also
  * sets. Core loops are 0-based (`operator[]`, `getElement`, `setElement`); `vbget` and `vbset` are 1-based.
  */
-template <class T> class matrix
+template <class T>
+class matrix
 {
 public:
     T oobValue = korvel::initialOutOfBoundsValue<T>(); ///< What an index outside the block reaches.
@@ -272,7 +275,8 @@ private:
  * A `matrix` with seven spare buffers for a column's statistics. Nothing in this library fills them; the
  * destructor frees them with `delete[]`.
  */
-template <class T> class statistics_matrix : public matrix<T>
+template <class T>
+class statistics_matrix : public matrix<T>
 {
 public:
     double* buffer1 = nullptr;

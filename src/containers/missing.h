@@ -32,7 +32,8 @@ KORVEL_API short int IsMissingValue(const std::basic_string<char16_t>& value);
  */
 KORVEL_API short int IsMissingValue(OLECHAR* const& value);
 
-template <class T> class matrix;
+template <class T>
+class matrix;
 
 /**
  * Combines the two sources of missingness of a vector.

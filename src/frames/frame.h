@@ -26,31 +26,36 @@ namespace korvel::frame
 }
 
 /** The caller's array as it stands: read or changed in place, never freed. Allocates nothing. */
-template <class T> [[nodiscard]] matrix<T> borrow(T* array, int rows, int cols = 1)
+template <class T>
+[[nodiscard]] matrix<T> borrow(T* array, int rows, int cols = 1)
 {
     return matrix<T>(rows, cols, array, true);
 }
 
 /** An owned copy of the caller's array. */
-template <class T> [[nodiscard]] matrix<T> copyIn(T* array, int rows, int cols = 1)
+template <class T>
+[[nodiscard]] matrix<T> copyIn(T* array, int rows, int cols = 1)
 {
     return matrix<T>(rows, cols, array, false);
 }
 
 /** An owned copy on the heap, for core routines that take over or overwrite a table of their own. */
-template <class T> [[nodiscard]] std::unique_ptr<matrix<T>> copyToHeap(T* array, int rows, int cols = 1)
+template <class T>
+[[nodiscard]] std::unique_ptr<matrix<T>> copyToHeap(T* array, int rows, int cols = 1)
 {
     return std::make_unique<matrix<T>>(rows, cols, array, false);
 }
 
 /** An owned table of zeros (of empty texts) for a result. */
-template <class T> [[nodiscard]] matrix<T> blank(int rows, int cols = 1)
+template <class T>
+[[nodiscard]] matrix<T> blank(int rows, int cols = 1)
 {
     return matrix<T>(rows, cols, T{});
 }
 
 /** Copies all elements of a result over the caller's array, which must have room for them. */
-template <class T> void copyOut(const matrix<T>& result, T* array)
+template <class T>
+void copyOut(const matrix<T>& result, T* array)
 {
     if (result.nbElem != 0) {
         std::memmove(array, result.data, result.nbElem * sizeof(T));
@@ -71,7 +76,8 @@ inline void writeTexts(const matrix<text>& result, OLECHAR** block)
 
 /** The caller's host array, in the shape of its descriptor. Numbers stay in place; texts return on
  * destruction. */
-template <class T> [[nodiscard]] matrix<T> attach(SAFEARRAY** array)
+template <class T>
+[[nodiscard]] matrix<T> attach(SAFEARRAY** array)
 {
     return matrix<T>(*array);
 }

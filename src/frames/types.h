@@ -12,6 +12,7 @@
 #ifndef KORVEL_FRAMES_TYPES_H
 #define KORVEL_FRAMES_TYPES_H
 
+#include "containers/caller_records.h"
 #include "platform/automation.h"
 #include "platform/export.h"
 

@@ -20,7 +20,8 @@ struct unit_weights {
 };
 
 /** Calls `loop` with the caller's flags, or with `no_flags` for a null pointer. */
-template <class Loop> decltype(auto) withFlags(const short int* iMissing, Loop&& loop)
+template <class Loop>
+decltype(auto) withFlags(const short int* iMissing, Loop&& loop)
 {
     return iMissing != nullptr ? loop(iMissing) : loop(no_flags{});
 }
