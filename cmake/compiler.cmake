@@ -44,3 +44,14 @@ if(CMAKE_CROSSCOMPILING)
     endforeach()
     target_include_directories(korvel_header_libraries SYSTEM INTERFACE ${host_headers})
 endif()
+
+# OpenMP shares work among threads inside a call. On Windows its runtime is linked in statically, by the plain flag:
+# the package's target would bring in a runtime DLL.
+add_library(korvel_threads INTERFACE)
+if(WIN32)
+    target_compile_options(korvel_threads INTERFACE -fopenmp)
+    target_link_options(korvel_threads INTERFACE -fopenmp -static)
+else()
+    find_package(OpenMP REQUIRED COMPONENTS CXX)
+    target_link_libraries(korvel_threads INTERFACE OpenMP::OpenMP_CXX)
+endif()

@@ -1,0 +1,56 @@
+/**
+ * @file
+ * Stable sorting of number keys in linear time, on an image of the key that orders as the key does.
+ */
+#ifndef KORVEL_ORDERING_RADIX_SORT_H
+#define KORVEL_ORDERING_RADIX_SORT_H
+
+#include <bit>
+#include <cstdint>
+#include <span>
+
+namespace korvel
+{
+
+/** A key's image, the position it came from, and what the image cannot tell: that a zero was negative. */
+struct image_pair {
+    std::uint64_t image;
+    std::int32_t position;
+    std::uint32_t negativeZero;
+};
+
+inline constexpr std::uint64_t signBit = std::uint64_t{1} << 63;
+
+/** Unsigned integers that order as the doubles do. Both zeros have one image; a NaN has none of use. */
+[[nodiscard]] constexpr std::uint64_t orderImage(double key) noexcept
+{
+    const auto bits = std::bit_cast<std::uint64_t>(key + 0.0);
+    return (bits & signBit) != 0 ? ~bits : bits | signBit;
+}
+
+[[nodiscard]] constexpr std::uint64_t orderImage(int key) noexcept
+{
+    return static_cast<std::uint32_t>(key) ^ 0x80000000u;
+}
+
+/** The key of an image, up to the sign of a zero. */
+[[nodiscard]] constexpr double keyOfImage(std::uint64_t image) noexcept
+{
+    return std::bit_cast<double>((image & signBit) != 0 ? image & ~signBit : ~image);
+}
+
+/**
+ * Sorts by ascending image; pairs of one image keep their order. The result does not depend on the number of
+ * threads. Above `parallelFrom` pairs the work is shared among the threads that OpenMP grants.
+ *
+ * @param pairs   the pairs
+ * @param scratch as many pairs, overwritten
+ */
+void radixSort(std::span<image_pair> pairs, std::span<image_pair> scratch);
+
+/** From this many pairs on, `radixSort` shares the work among threads. */
+inline constexpr std::size_t parallelFrom = 100'000;
+
+} // namespace korvel
+
+#endif

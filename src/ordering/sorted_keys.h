@@ -1,0 +1,196 @@
+/**
+ * @file
+ * The sort engine. What is sorted is a list of pairs of key and position; rows of any width are moved
+ * afterwards, once. Every sort is stable in both directions: equal keys keep their order of position, also
+ * when descending.
+ */
+#ifndef KORVEL_ORDERING_SORTED_KEYS_H
+#define KORVEL_ORDERING_SORTED_KEYS_H
+
+#include "containers/missing.h"
+#include "ordering/radix_sort.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <type_traits>
+
+namespace korvel
+{
+
+/** Lists up to this length are sorted in place by insertion and live inside their object: they allocate
+ * nothing. */
+inline constexpr std::size_t smallSort = 32;
+
+/** A key that is compared where it stands: a text, or a number among which there is a NaN. */
+template <class Key>
+struct key_pair {
+    const Key* key;
+    std::int32_t position;
+};
+
+/** Stable comparison sort, `a < b` ascending and `a > b` descending. Shared among threads when that pays. */
+void comparisonSort(std::span<key_pair<text>> pairs, bool descending);
+/** The same on one thread: with a NaN the outcome follows from the steps of the merge, which must not vary.
+ */
+void comparisonSort(std::span<key_pair<double>> pairs, bool descending);
+
+/** Sorts `pairs` by image, by insertion when they are few, with scratch of its own otherwise. */
+void imageSort(std::span<image_pair> pairs);
+
+/** An array that is part of its object while it is small. */
+template <class T>
+class small_array
+{
+public:
+    explicit small_array(std::size_t count)
+        : heap_(count > smallSort ? std::make_unique_for_overwrite<T[]>(count) : nullptr), count_(count)
+    {
+    }
+
+    [[nodiscard]] std::span<T> cells() { return {heap_ ? heap_.get() : inside_.data(), count_}; }
+    [[nodiscard]] std::span<const T> cells() const { return {heap_ ? heap_.get() : inside_.data(), count_}; }
+
+private:
+    std::array<T, smallSort> inside_;
+    std::unique_ptr<T[]> heap_;
+    std::size_t count_;
+};
+
+/**
+ * Number keys (`double`, `int`) in sorted order. `keyAt(k)` gives the key at position k, 0-based, and is
+ * called once for each, from several threads at a time when there are many.
+ */
+template <class Key>
+requires(std::same_as<Key, double> || std::same_as<Key, int>) class sorted_numbers
+{
+public:
+    template <class KeyAt>
+    sorted_numbers(int count, bool descending, KeyAt keyAt)
+        : pairs_(static_cast<std::size_t>(std::max(count, 0))), flip_(descending ? ~std::uint64_t{0} : 0)
+    {
+        const bool unordered = readKeys(keyAt);
+        if constexpr (std::same_as<Key, double>) {
+            if (unordered) {
+                sortUnordered(descending, keyAt);
+                return;
+            }
+        }
+        imageSort(pairs_.cells());
+    }
+
+    [[nodiscard]] std::size_t size() const { return pairs_.cells().size(); }
+
+    /** Where the key that now stands at rank `k`, 0-based, came from. */
+    [[nodiscard]] int position(std::size_t k) const { return pairs_.cells()[k].position; }
+
+    /** The key at rank `k`, with the bits that it had. */
+    [[nodiscard]] Key key(std::size_t k) const
+    {
+        const image_pair& pair = pairs_.cells()[k];
+        if constexpr (std::same_as<Key, double>) {
+            if (raw_) {
+                return std::bit_cast<double>(pair.image);
+            }
+            return pair.negativeZero != 0 ? -0.0 : keyOfImage(pair.image ^ flip_);
+        } else {
+            return static_cast<int>(static_cast<std::uint32_t>(pair.image ^ flip_) ^ 0x80000000u);
+        }
+    }
+
+private:
+    /** Fills the pairs; true when there was a NaN, for which the images do not serve. */
+    template <class KeyAt>
+    bool readKeys(KeyAt& keyAt)
+    {
+        const std::span<image_pair> pairs = pairs_.cells();
+        const auto count = static_cast<std::int32_t>(pairs.size());
+        int unordered = 0;
+        if (pairs.size() < parallelFrom) {
+            for (std::int32_t k = 0; k < count; ++k) {
+                unordered |= readKey(pairs, k, keyAt);
+            }
+        } else {
+#pragma omp parallel for schedule(static) reduction(| : unordered)
+            for (std::int32_t k = 0; k < count; ++k) {
+                unordered |= readKey(pairs, k, keyAt);
+            }
+        }
+        return unordered != 0;
+    }
+
+    template <class KeyAt>
+    int readKey(std::span<image_pair> pairs, std::int32_t k, KeyAt& keyAt) const
+    {
+        const Key key = keyAt(k);
+        std::uint32_t negativeZero = 0;
+        int unordered = 0;
+        if constexpr (std::same_as<Key, double>) {
+            unordered = std::isnan(key) ? 1 : 0;
+            negativeZero = std::bit_cast<std::uint64_t>(key) == signBit ? 1 : 0;
+        }
+        pairs[static_cast<std::size_t>(k)] = {orderImage(key) ^ flip_, k, negativeZero};
+        return unordered;
+    }
+
+    template <class KeyAt>
+    void sortUnordered(bool descending, KeyAt& keyAt)
+    {
+        const std::span<image_pair> pairs = pairs_.cells();
+        const auto keys = std::make_unique_for_overwrite<double[]>(pairs.size());
+        const auto list = std::make_unique_for_overwrite<key_pair<double>[]>(pairs.size());
+        for (std::size_t k = 0; k < pairs.size(); ++k) {
+            keys[k] = keyAt(static_cast<std::int32_t>(k));
+            list[k] = {&keys[k], static_cast<std::int32_t>(k)};
+        }
+        comparisonSort({list.get(), pairs.size()}, descending);
+        for (std::size_t k = 0; k < pairs.size(); ++k) {
+            pairs[k] = {std::bit_cast<std::uint64_t>(*list[k].key), list[k].position, 0};
+        }
+        raw_ = true;
+    }
+
+    small_array<image_pair> pairs_;
+    std::uint64_t flip_;
+    bool raw_ = false;
+};
+
+/** Text keys in sorted order, by 16-bit code units. `keyAt(k)` refers to the key, which must outlive this
+ * object. */
+class sorted_texts
+{
+public:
+    template <class KeyAt>
+    sorted_texts(int count, bool descending, KeyAt keyAt)
+        : pairs_(static_cast<std::size_t>(std::max(count, 0)))
+    {
+        const std::span<key_pair<text>> pairs = pairs_.cells();
+        for (std::size_t k = 0; k < pairs.size(); ++k) {
+            const text& key = keyAt(static_cast<std::int32_t>(k));
+            pairs[k] = {&key, static_cast<std::int32_t>(k)};
+        }
+        comparisonSort(pairs, descending);
+    }
+
+    [[nodiscard]] std::size_t size() const { return pairs_.cells().size(); }
+    [[nodiscard]] int position(std::size_t k) const { return pairs_.cells()[k].position; }
+    [[nodiscard]] const text& key(std::size_t k) const { return *pairs_.cells()[k].key; }
+
+private:
+    small_array<key_pair<text>> pairs_;
+};
+
+/** Keys of type `Key` in sorted order; positions count from 0. */
+template <class Key>
+using sorted_keys =
+    std::conditional_t<std::same_as<Key, text>, sorted_texts,
+                       sorted_numbers<std::conditional_t<std::same_as<Key, text>, double, Key>>>;
+
+} // namespace korvel
+
+#endif

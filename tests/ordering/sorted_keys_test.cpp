@@ -1,0 +1,169 @@
+#include "ordering/sorted_keys.h"
+
+#include "support/bits.h"
+
+#include <limits>
+#include <numeric>
+#include <omp.h>
+#include <random>
+#include <string>
+#include <vector>
+
+using korvel::test::sameBits;
+
+namespace
+{
+
+/** The order by the standard library's stable sort, on positions. */
+template <class Key>
+std::vector<int> expectedOrder(const std::vector<Key>& keys, bool descending)
+{
+    std::vector<int> order(keys.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
+        const auto& x = keys[static_cast<std::size_t>(a)];
+        const auto& y = keys[static_cast<std::size_t>(b)];
+        return descending ? x > y : x < y;
+    });
+    return order;
+}
+
+template <class Key>
+void expectSortsLikeTheStandardLibrary(const std::vector<Key>& keys, bool descending)
+{
+    const std::vector<int> expected = expectedOrder(keys, descending);
+    const korvel::sorted_keys<Key> sorted(
+        static_cast<int>(keys.size()), descending,
+        [&](std::int32_t k) -> const Key& { return keys[static_cast<std::size_t>(k)]; });
+    ASSERT_EQ(sorted.size(), keys.size());
+    for (std::size_t k = 0; k < keys.size(); ++k) {
+        ASSERT_EQ(sorted.position(k), expected[k]) << "rank " << k << " of " << keys.size();
+        if constexpr (std::same_as<Key, double>) {
+            ASSERT_TRUE(sameBits(sorted.key(k), keys[static_cast<std::size_t>(expected[k])]));
+        } else {
+            ASSERT_EQ(sorted.key(k), keys[static_cast<std::size_t>(expected[k])]);
+        }
+    }
+}
+
+/** Doubles of many shapes: few distinct values, both zeros, infinities, denormals, the missing value, any
+ * exponent. */
+std::vector<double> randomDoubles(std::size_t count, int shape, std::mt19937_64& random)
+{
+    const double oddities[] = {0.0,
+                               -0.0,
+                               MISSING_DBL,
+                               std::numeric_limits<double>::infinity(),
+                               -std::numeric_limits<double>::infinity(),
+                               std::numeric_limits<double>::denorm_min(),
+                               -std::numeric_limits<double>::denorm_min(),
+                               std::numeric_limits<double>::lowest()};
+    std::vector<double> keys(count);
+    for (double& key : keys) {
+        switch (shape) {
+        case 0:
+            key = static_cast<double>(random() % 7) - 3.0;
+            break;
+        case 1:
+            key = std::ldexp(static_cast<double>(random() >> 11), -53);
+            break;
+        case 2:
+            key = oddities[random() % std::size(oddities)];
+            break;
+        case 3:
+            do {
+                key = std::bit_cast<double>(random());
+            } while (std::isnan(key));
+            break;
+        default:
+            key = 1.0 + std::ldexp(static_cast<double>(random() % 3), -52);
+            break;
+        }
+    }
+    return keys;
+}
+
+constexpr std::size_t counts[] = {0,   1,    2,    3,    31,   32,   33,    63,    64,     65,
+                                  500, 1023, 1024, 1025, 4095, 4096, 10000, 99999, 100000, 250001};
+
+class SortedKeys : public ::testing::TestWithParam<int>
+{
+protected:
+    void SetUp() override { omp_set_num_threads(GetParam()); }
+    void TearDown() override { omp_set_num_threads(threads_); }
+
+private:
+    int threads_ = omp_get_max_threads();
+};
+
+} // namespace
+
+TEST_P(SortedKeys, DoublesComeOutAsFromAStableSort)
+{
+    std::mt19937_64 random(1);
+    for (const std::size_t count : counts) {
+        for (int shape = 0; shape < 5; ++shape) {
+            const std::vector<double> keys = randomDoubles(count, shape, random);
+            expectSortsLikeTheStandardLibrary(keys, false);
+            expectSortsLikeTheStandardLibrary(keys, true);
+        }
+    }
+}
+
+TEST_P(SortedKeys, IntegersComeOutAsFromAStableSort)
+{
+    std::mt19937_64 random(2);
+    for (const std::size_t count : counts) {
+        for (const std::uint64_t modulus : {std::uint64_t{3}, std::uint64_t{1} << 32}) {
+            std::vector<int> keys(count);
+            for (int& key : keys) {
+                key = static_cast<int>(static_cast<std::uint32_t>(random() % modulus + 0x7FFFFFFFu));
+            }
+            expectSortsLikeTheStandardLibrary(keys, false);
+            expectSortsLikeTheStandardLibrary(keys, true);
+        }
+    }
+}
+
+TEST_P(SortedKeys, TextsComeOutAsFromAStableSort)
+{
+    std::mt19937_64 random(3);
+    for (const std::size_t count : counts) {
+        std::vector<text> keys(std::min<std::size_t>(count, 20000));
+        for (text& key : keys) {
+            key.resize(random() % 4);
+            for (char16_t& unit : key) {
+                unit = u"aBb\uFFFF"[random() % 4];
+            }
+        }
+        expectSortsLikeTheStandardLibrary(keys, false);
+        expectSortsLikeTheStandardLibrary(keys, true);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Threads, SortedKeys, ::testing::Values(1, 2, 3, 7));
+
+TEST(SortedKeysWithNaN, KeepEveryKeyAndTheSameOrderOnAnyNumberOfThreads)
+{
+    std::mt19937_64 random(4);
+    std::vector<double> keys = randomDoubles(150000, 0, random);
+    for (std::size_t k = 0; k < keys.size(); k += 97) {
+        keys[k] = std::numeric_limits<double>::quiet_NaN();
+    }
+    const auto keyAt = [&](std::int32_t k) { return keys[static_cast<std::size_t>(k)]; };
+    const int threads = omp_get_max_threads();
+    omp_set_num_threads(1);
+    const korvel::sorted_keys<double> one(static_cast<int>(keys.size()), false, keyAt);
+    omp_set_num_threads(3);
+    const korvel::sorted_keys<double> three(static_cast<int>(keys.size()), false, keyAt);
+    omp_set_num_threads(threads);
+
+    std::vector<bool> seen(keys.size());
+    for (std::size_t k = 0; k < keys.size(); ++k) {
+        ASSERT_EQ(one.position(k), three.position(k));
+        const auto position = static_cast<std::size_t>(one.position(k));
+        ASSERT_FALSE(seen[position]);
+        seen[position] = true;
+        ASSERT_TRUE(sameBits(one.key(k), keys[position]));
+    }
+}
