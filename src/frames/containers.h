@@ -27,7 +27,7 @@ KORVEL_FLAT short int VB_IsMissingValueStr(VARIANT* cell);
 /**
  * The block of texts behind a host array, for functions that take such a block.
  *
- * @param sa [in] reference to the array's descriptor, which may be null
+ * @param sa [in] host array of String; its descriptor may be null
  * @return the array's data, or null when there is no array or it holds none
  */
 KORVEL_FLAT OLECHAR** ExtractBSTR(SAFEARRAY** sa);

@@ -1,0 +1,313 @@
+"""Reads the plain-C headers of the flat functions. Whatever it cannot read is an error: nothing is skipped."""
+
+import re
+from dataclasses import dataclass, field
+
+SCALARS = ("double", "int", "short int")
+ARRAYS = ("double*", "int*", "short int*")
+RECORDS = ("ST_Vect*", "ST_MVect*", "ST_QualiInfo*")
+POINTERS = ARRAYS + RECORDS + ("OLECHAR*", "OLECHAR**", "SAFEARRAY**", "Hostarray**", "VARIANT*", "const char*")
+RESULTS = SCALARS + ("void", "OLECHAR**")
+HOST_ARRAY_ELEMENTS = ("Double", "Long", "Boolean", "String")
+
+UMBRELLA = "KORVELMathTools.h"
+COMMON = "types.h"
+DIRECTION = re.compile(r"\[(in|out|inout)\](\s+|$)")
+
+
+@dataclass(frozen=True)
+class Problem:
+    path: str
+    line: int
+    message: str
+
+    def __str__(self):
+        return f"{self.path}:{self.line}: {self.message}"
+
+
+class Unreadable(Exception):
+    """What follows in the file has no meaning any more."""
+
+    def __init__(self, line, message):
+        super().__init__(message)
+        self.line = line
+        self.message = message
+
+
+@dataclass
+class Tag:
+    """A `@param`, `@return` or `@throws`, with its text as lines."""
+
+    kind: str
+    name: str
+    line: int
+    text: list
+
+
+@dataclass
+class Doc:
+    line: int
+    is_file: bool = False
+    text: list = field(default_factory=list)
+    tags: list = field(default_factory=list)
+
+    def tagged(self, kind):
+        return [tag for tag in self.tags if tag.kind == kind]
+
+
+@dataclass
+class Parameter:
+    name: str
+    type: str
+    direction: str = ""
+    text: list = field(default_factory=list)
+
+    @property
+    def nullable(self):
+        return any(re.search(r"\bNull:", line) for line in self.text)
+
+    @property
+    def host_element(self):
+        found = re.search(r"\bhost array of (\w+)", " ".join(self.text))
+        return found.group(1) if found else None
+
+
+@dataclass
+class Function:
+    name: str
+    result: str
+    parameters: list
+    doc: Doc
+    line: int
+
+    @property
+    def prototype(self):
+        parameters = ", ".join(spell(p.type, p.name) for p in self.parameters)
+        return f"{spell(self.result, self.name)}({parameters or 'void'});"
+
+
+@dataclass
+class Header:
+    name: str
+    title: list
+    functions: list
+
+
+def spell(type_, name):
+    return f"{type_} {name}"
+
+
+def one_line(lines):
+    return " ".join(line.strip() for line in lines if line.strip())
+
+
+def read_comment(lines, start):
+    """The lines inside the comment that opens at index `start`, as (line number, text), and the next index."""
+    inside = []
+    for index in range(start, len(lines)):
+        line = lines[index].strip()
+        text, closed, rest = line.partition("*/")
+        if rest.strip():
+            raise Unreadable(index + 1, "text behind the end of a comment")
+        text = text.removeprefix("/**").removeprefix("/*") if index == start else text.removeprefix("*")
+        inside.append((index + 1, text.removeprefix(" ").rstrip()))
+        if closed:
+            return inside, index + 1
+    raise Unreadable(start + 1, "a comment that does not end")
+
+
+def read_doc(comment):
+    """Sorts a doc comment into its text and its tags. A blank line ends a tag."""
+    doc = Doc(comment[0][0])
+    target = doc.text
+    for number, text in comment:
+        opening = re.match(r"\s*@(\w+)\s*(.*)", text)
+        if not opening:
+            if not text.strip():
+                target = doc.text
+            target.append(text)
+            continue
+        kind, rest = opening.groups()
+        if kind == "file":
+            doc.is_file = True
+            continue
+        name = ""
+        if kind == "param":
+            name, _, rest = rest.partition(" ")
+        elif kind not in ("return", "throws"):
+            raise Unreadable(number, f"@{kind} is not known here")
+        target = [rest.strip()]
+        doc.tags.append(Tag(kind, name, number, target))
+    while doc.text and not doc.text[0].strip():
+        doc.text.pop(0)
+    while doc.text and not doc.text[-1].strip():
+        doc.text.pop()
+    return doc
+
+
+def normal_type(words):
+    return re.sub(r"\s*\*", "*", " ".join(words.split()))
+
+
+def read_prototype(text, line, doc):
+    """A function from `KORVEL_FLAT result name(parameters);` on one line."""
+    found = re.fullmatch(r"KORVEL_FLAT\s+(.*?)\b(\w+)\s*\(([^()]*)\)\s*;", text)
+    if not found:
+        raise Unreadable(line, "cannot read this prototype")
+    result, name, inside = normal_type(found.group(1)), found.group(2), found.group(3).strip()
+    if result not in RESULTS:
+        raise Unreadable(line, f"{name}: unknown result type '{result}'")
+    if not inside:
+        raise Unreadable(line, f"{name}: an empty parameter list is written (void)")
+    parameters = []
+    for piece in inside.split(",") if inside != "void" else []:
+        split = re.fullmatch(r"(.*[\s*])(\w+)", piece.strip())
+        if not split:
+            raise Unreadable(line, f"{name}: cannot read the parameter '{piece.strip()}'")
+        type_ = normal_type(split.group(1))
+        if type_ not in SCALARS + POINTERS:
+            raise Unreadable(line, f"{name}: unknown type '{type_}' of parameter {split.group(2)}")
+        parameters.append(Parameter(split.group(2), type_))
+    return Function(name, result, parameters, doc, line)
+
+
+def describe(function, problem):
+    """Gives each parameter its `@param` text, and calls `problem(line, message)` for whatever does not fit."""
+    doc = function.doc
+    by_name = {p.name: p for p in function.parameters}
+    described = []
+    if not doc.text:
+        problem(doc.line, f"{function.name}: the doc comment has no text")
+    for tag in doc.tagged("param"):
+        parameter = by_name.get(tag.name)
+        if parameter is None:
+            problem(tag.line, f"{function.name}: @param {tag.name} names no parameter")
+            continue
+        if tag.name in described:
+            problem(tag.line, f"{function.name}: a second @param {tag.name}")
+            continue
+        described.append(tag.name)
+        direction = DIRECTION.match(tag.text[0])
+        if direction:
+            parameter.direction = direction.group(1)
+            tag.text[0] = tag.text[0][direction.end():]
+        parameter.text = tag.text
+        if parameter.type in POINTERS and not direction:
+            problem(tag.line, f"{function.name}: @param {tag.name} needs [in], [out] or [inout]")
+        if parameter.type in SCALARS and direction:
+            problem(tag.line, f"{function.name}: @param {tag.name} is passed by value and has no direction")
+        if not one_line(tag.text):
+            problem(tag.line, f"{function.name}: @param {tag.name} has no text")
+        if parameter.type == "SAFEARRAY**" and parameter.host_element not in HOST_ARRAY_ELEMENTS:
+            elements = ", ".join(HOST_ARRAY_ELEMENTS)
+            problem(tag.line, f"{function.name}: @param {tag.name} must say 'host array of' one of {elements}")
+    for parameter in function.parameters:
+        if parameter.name not in described:
+            problem(function.line, f"{function.name}: parameter {parameter.name} has no @param line")
+    if set(described) == set(by_name) and described != list(by_name):
+        problem(doc.line, f"{function.name}: the @param lines are not in the order of the parameters")
+    returns = doc.tagged("return")
+    if function.result == "void" and returns:
+        problem(returns[0].line, f"{function.name}: @return, but there is no result")
+    if function.result != "void" and not any(one_line(tag.text) for tag in returns):
+        problem(function.line, f"{function.name}: no @return")
+    if len(returns) > 1:
+        problem(returns[1].line, f"{function.name}: a second @return")
+
+
+def read_header(name, path, text, problems):
+    """One header; what is wrong with it is added to `problems`."""
+
+    def problem(line, message):
+        problems.append(Problem(path, line, message))
+
+    header = Header(name, [], [])
+    lines = text.splitlines()
+    for number, line in enumerate(lines, 1):
+        if not line.isascii():
+            problem(number, "a character outside ASCII")
+    doc = None
+    index = 0
+    try:
+        while index < len(lines):
+            line = lines[index].strip()
+            if line.startswith("/**"):
+                if doc:
+                    raise Unreadable(doc.line, "a doc comment that belongs to no prototype")
+                comment, index = read_comment(lines, index)
+                doc = read_doc(comment)
+                if doc.is_file:
+                    header.title, doc = doc.text, None
+            elif line.startswith("/*"):
+                _, index = read_comment(lines, index)
+            elif line.startswith("KORVEL_FLAT"):
+                first, pieces = index, []
+                while not pieces or ";" not in pieces[-1]:
+                    if index == len(lines):
+                        raise Unreadable(first + 1, "a prototype that does not end")
+                    pieces.append(lines[index].strip())
+                    index += 1
+                if not doc:
+                    problem(first + 1, "a prototype without a doc comment before it")
+                    doc = Doc(first + 1)
+                    header.functions.append(read_prototype(" ".join(pieces), first + 1, doc))
+                else:
+                    header.functions.append(read_prototype(" ".join(pieces), first + 1, doc))
+                    describe(header.functions[-1], problem)
+                doc = None
+            elif not line or re.fullmatch(r'#(ifndef \w+|define \w+|include "[^"]+"|endif)', line):
+                index += 1
+            else:
+                raise Unreadable(index + 1, "cannot read this line")
+        if doc:
+            raise Unreadable(doc.line, "a doc comment that belongs to no prototype")
+        if not header.title:
+            raise Unreadable(1, "no @file comment that says what the header is about")
+    except Unreadable as error:
+        problem(error.line, error.message)
+    return header
+
+
+def included_by_umbrella(folder, root, problems):
+    """Names of the flat headers, in the order in which the umbrella header includes them."""
+    path = folder / UMBRELLA
+    names = []
+    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        found = re.fullmatch(r'\s*#\s*include\s+"(.+)"\s*', line)
+        if not found:
+            continue
+        name = found.group(1).removeprefix("frames/")
+        where = path.relative_to(root).as_posix()
+        if name == found.group(1) or not (folder / name).is_file():
+            problems.append(Problem(where, number, f"{found.group(1)} is no header of src/frames"))
+        elif name in names:
+            problems.append(Problem(where, number, f"{found.group(1)} is included twice"))
+        else:
+            names.append(name)
+    return names
+
+
+def read_all(root):
+    """All flat headers below `root`/src/frames, sorted by name, and the problems found."""
+    folder = root / "src" / "frames"
+    problems = []
+    umbrella = included_by_umbrella(folder, root, problems)
+    headers = []
+    for path in sorted(folder.rglob("*.h")):
+        name = path.relative_to(folder).as_posix()
+        where = path.relative_to(root).as_posix()
+        text = path.read_text(encoding="utf-8")
+        if name in umbrella and name != COMMON:
+            headers.append(read_header(name, where, text, problems))
+        elif re.search(r"^\s*KORVEL_FLAT\b", text, re.MULTILINE):
+            line = text[: text.index("KORVEL_FLAT")].count("\n") + 1
+            problems.append(Problem(where, line, f"flat functions in a header that {UMBRELLA} does not include"))
+    first = {}
+    for header in headers:
+        for function in header.functions:
+            where = f"src/frames/{header.name}"
+            if function.name in first:
+                message = f"{function.name} is declared already at {first[function.name]}"
+                problems.append(Problem(where, function.line, message))
+            first.setdefault(function.name, f"{where}:{function.line}")
+    return headers, problems
