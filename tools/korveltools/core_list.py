@@ -6,7 +6,9 @@ NAME = "exports/core.txt"
 
 
 def read(root):
-    return (root / NAME).read_text(encoding="ascii").splitlines()
+    """The names on the list; none when there is no list yet."""
+    path = root / NAME
+    return path.read_text(encoding="ascii").splitlines() if path.is_file() else []
 
 
 def in_order(names):

@@ -89,8 +89,9 @@ class Function:
 @dataclass
 class Header:
     name: str
-    title: list
-    functions: list
+    path: str
+    title: list = field(default_factory=list)
+    functions: list = field(default_factory=list)
 
 
 def spell(type_, name):
@@ -211,6 +212,9 @@ def describe(function, problem):
         problem(returns[0].line, f"{function.name}: @return, but there is no result")
     if function.result != "void" and not any(one_line(tag.text) for tag in returns):
         problem(function.line, f"{function.name}: no @return")
+    for tag in doc.tagged("throws"):
+        if not one_line(tag.text):
+            problem(tag.line, f"{function.name}: @throws has no text")
     if len(returns) > 1:
         problem(returns[1].line, f"{function.name}: a second @return")
 
@@ -221,7 +225,7 @@ def read_header(name, path, text, problems):
     def problem(line, message):
         problems.append(Problem(path, line, message))
 
-    header = Header(name, [], [])
+    header = Header(name, path)
     lines = text.splitlines()
     for number, line in enumerate(lines, 1):
         if not line.isascii():
@@ -287,8 +291,18 @@ def included_by_umbrella(folder, root, problems):
     return names
 
 
+def find_duplicates(headers, problems):
+    first = {}
+    for header in headers:
+        for function in header.functions:
+            if function.name in first:
+                message = f"{function.name} is declared already at {first[function.name]}"
+                problems.append(Problem(header.path, function.line, message))
+            first.setdefault(function.name, f"{header.path}:{function.line}")
+
+
 def read_all(root):
-    """All flat headers below `root`/src/frames, sorted by name, and the problems found."""
+    """All flat headers below `root`/src/frames sorted by name, the header common to them, the problems found."""
     folder = root / "src" / "frames"
     problems = []
     umbrella = included_by_umbrella(folder, root, problems)
@@ -297,17 +311,11 @@ def read_all(root):
         name = path.relative_to(folder).as_posix()
         where = path.relative_to(root).as_posix()
         text = path.read_text(encoding="utf-8")
-        if name in umbrella and name != COMMON:
+        if name in umbrella or name == COMMON:
             headers.append(read_header(name, where, text, problems))
         elif re.search(r"^\s*KORVEL_FLAT\b", text, re.MULTILINE):
             line = text[: text.index("KORVEL_FLAT")].count("\n") + 1
             problems.append(Problem(where, line, f"flat functions in a header that {UMBRELLA} does not include"))
-    first = {}
-    for header in headers:
-        for function in header.functions:
-            where = f"src/frames/{header.name}"
-            if function.name in first:
-                message = f"{function.name} is declared already at {first[function.name]}"
-                problems.append(Problem(where, function.line, message))
-            first.setdefault(function.name, f"{where}:{function.line}")
-    return headers, problems
+    find_duplicates(headers, problems)
+    common = next((header for header in headers if header.name == COMMON), Header(COMMON, ""))
+    return headers, common, problems
