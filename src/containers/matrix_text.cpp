@@ -1,0 +1,64 @@
+// The members that only tables of texts have. They stand apart from the explicit instantiations of the whole
+// class, because Clang 14 makes a constrained member for every element type when it sees its definition
+// there.
+#include "containers/matrix.h"
+
+#include "containers/bstr.h"
+#include "containers/host_array.h"
+
+namespace
+{
+
+void readTexts(matrix<text>& target, const BSTR* source, std::uint64_t count)
+{
+    for (std::uint64_t k = 0; k < std::min(count, target.nbElem); ++k) {
+        target.data[k] = korvel::readBstr(source[k]);
+    }
+}
+
+} // namespace
+
+template <class T>
+matrix<T>::matrix(int rows, int cols, SAFEARRAY* sa) requires korvel::is_text<T>
+{
+    allocate(rows, cols, false);
+    if (sa != nullptr && sa->pvData != nullptr) {
+        readTexts(*this, static_cast<const BSTR*>(sa->pvData), korvel::hostArrayLength(*sa));
+    }
+    safeArray = sa;
+}
+
+template <class T>
+matrix<T>::matrix(int rows, int cols, OLECHAR** bstrs, int srcRows, int srcCols) requires korvel::is_text<T>
+{
+    allocate(rows, cols, false);
+    readTexts(*this, bstrs,
+              korvel::elementCount(srcRows != 0 ? srcRows : nbrows, srcCols != 0 ? srcCols : nbcols));
+}
+
+template <class T>
+void matrix<T>::writeBackToHostArray() noexcept requires korvel::is_text<T>
+{
+    // There is no block when memory ran out on the way to a new shape.
+    if (safeArray == nullptr || safeArray->pvData == nullptr || data == nullptr) {
+        return;
+    }
+    auto* places = static_cast<BSTR*>(safeArray->pvData);
+    // A host array that refused to be resized may be smaller than this table.
+    const std::uint64_t count = std::min(nbElem, korvel::hostArrayLength(*safeArray));
+    try {
+        for (auto k = static_cast<std::uint64_t>(firstElem); k < count; ++k) {
+            if (places[k] == nullptr) {
+                places[k] = korvel::makeBstr(data[k]);
+            } else {
+                korvel::replaceIfDifferent(places[k], data[k]);
+            }
+        }
+    } catch (...) {
+        // A destructor has no one to tell; the texts that were not reached keep their old value.
+    }
+}
+
+template matrix<text>::matrix(int, int, SAFEARRAY*);
+template matrix<text>::matrix(int, int, OLECHAR**, int, int);
+template void matrix<text>::writeBackToHostArray() noexcept;
