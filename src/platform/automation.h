@@ -33,6 +33,7 @@ extern "C" {
 typedef char16_t OLECHAR;
 typedef OLECHAR* BSTR;
 typedef uint16_t USHORT;
+typedef uint16_t WORD;
 typedef int32_t LONG;
 typedef uint32_t ULONG;
 typedef uint32_t UINT;
@@ -147,6 +148,32 @@ KORVEL_AUTOMATION_API void CoTaskMemFree(void* block);
 KORVEL_AUTOMATION_API SAFEARRAY* SafeArrayCreate(VARTYPE type, UINT dimensions, SAFEARRAYBOUND* bounds);
 /** Frees an array with all that it holds. A locked array is left alone and reported. */
 KORVEL_AUTOMATION_API HRESULT SafeArrayDestroy(SAFEARRAY* array);
+
+/** A moment in the calendar, as a clock shows it. */
+typedef struct tagSYSTEMTIME {
+    WORD wYear;
+    WORD wMonth;     /**< 1 to 12. */
+    WORD wDayOfWeek; /**< 0 for Sunday; only written. */
+    WORD wDay;       /**< 1 to 31. */
+    WORD wHour;
+    WORD wMinute;
+    WORD wSecond;
+    WORD wMilliseconds; /**< Never read, always written as 0. */
+} SYSTEMTIME;
+
+/**
+ * Converts a moment to an automation date: days since 30 December 1899, with the time of day as the fraction.
+ * Before that day the count is negative and the fraction still counts forward, away from zero: -1.25 is 6:00
+ * on 29 December 1899. A year below 50 belongs to 2000, one from 50 to 99 to 1900; day 0 is the last day of
+ * the month before, and a day that the month does not have (up to 31) falls into the next one.
+ * @return 1, or 0 with `date` untouched when a field is out of its range
+ */
+KORVEL_AUTOMATION_API int SystemTimeToVariantTime(SYSTEMTIME* moment, double* date);
+/**
+ * Converts an automation date to the moment that it means, rounded to the nearest second, halves up.
+ * @return 1, or 0 with `moment` untouched when the date is not of the years 100 to 9999
+ */
+KORVEL_AUTOMATION_API int VariantTimeToSystemTime(double date, SYSTEMTIME* moment);
 
 /** Sends a line to the debugger. Off Windows there is none to listen: the line is only counted and
  * remembered. */
