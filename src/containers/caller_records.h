@@ -1,12 +1,15 @@
 /**
  * @file
- * Layouts of the records that callers keep in their own memory. They are fixed: the macro layer fills them. The
- * header is plain C; gaps between fields are reserved and keep the natural alignment.
+ * Layouts of the records that callers keep in their own memory. They are fixed: the macro layer fills them.
+ * The header is plain C; gaps between fields are reserved and keep the natural alignment.
  */
 #ifndef KORVEL_CONTAINERS_CALLER_RECORDS_H
 #define KORVEL_CONTAINERS_CALLER_RECORDS_H
 
 #include "platform/automation.h"
+
+#include <assert.h>
+#include <stddef.h>
 
 /** One column of a chunked table, 16 bytes. */
 typedef struct Hostarray {
@@ -53,5 +56,50 @@ typedef struct ST_QualiInfo {
     short int withLongLabels;
     int CheckType;
 } ST_QualiInfo;
+
+/* Every offset and size, for whoever compiles this header. */
+#define KORVEL_FIELD_AT(record, field, offset, size)                                                         \
+    static_assert(offsetof(record, field) == (offset) && sizeof(((record*)0)->field) == (size),              \
+                  #record "." #field " is out of place")
+
+static_assert(sizeof(Hostarray) == 16, "size of Hostarray");
+KORVEL_FIELD_AT(Hostarray, numbers, 0, 8);
+KORVEL_FIELD_AT(Hostarray, texts, 8, 8);
+
+static_assert(sizeof(ST_Vect) == 24, "size of ST_Vect");
+KORVEL_FIELD_AT(ST_Vect, Count, 0, 4);
+KORVEL_FIELD_AT(ST_Vect, Label, 8, 8);
+KORVEL_FIELD_AT(ST_Vect, Vect, 16, 8);
+
+static_assert(sizeof(ST_MVect) == 40, "size of ST_MVect");
+KORVEL_FIELD_AT(ST_MVect, nbcols, 0, 4);
+KORVEL_FIELD_AT(ST_MVect, samenbrows, 4, 2);
+KORVEL_FIELD_AT(ST_MVect, nbrowsmax, 8, 4);
+KORVEL_FIELD_AT(ST_MVect, nbrows, 16, 8);
+KORVEL_FIELD_AT(ST_MVect, Vectors, 24, 8);
+KORVEL_FIELD_AT(ST_MVect, CLabels, 32, 8);
+
+static_assert(sizeof(ST_QualiInfo) == 208, "size of ST_QualiInfo");
+KORVEL_FIELD_AT(ST_QualiInfo, Count, 0, 4);
+KORVEL_FIELD_AT(ST_QualiInfo, SumW, 8, 8);
+KORVEL_FIELD_AT(ST_QualiInfo, MaxNbCat, 16, 4);
+KORVEL_FIELD_AT(ST_QualiInfo, NbCat, 24, 8);
+KORVEL_FIELD_AT(ST_QualiInfo, NbCatTotal, 32, 4);
+KORVEL_FIELD_AT(ST_QualiInfo, CatNames, 40, 40);
+KORVEL_FIELD_AT(ST_QualiInfo, CatFreq, 80, 40);
+KORVEL_FIELD_AT(ST_QualiInfo, CatFreqW, 120, 40);
+KORVEL_FIELD_AT(ST_QualiInfo, FreqMax, 160, 8);
+KORVEL_FIELD_AT(ST_QualiInfo, VarLabels, 168, 8);
+KORVEL_FIELD_AT(ST_QualiInfo, IgnoreNewCategoryInPred, 176, 2);
+KORVEL_FIELD_AT(ST_QualiInfo, withRecode, 178, 2);
+KORVEL_FIELD_AT(ST_QualiInfo, codeStart, 180, 4);
+KORVEL_FIELD_AT(ST_QualiInfo, Codes, 184, 8);
+KORVEL_FIELD_AT(ST_QualiInfo, nCodes, 192, 4);
+KORVEL_FIELD_AT(ST_QualiInfo, withSort, 196, 2);
+KORVEL_FIELD_AT(ST_QualiInfo, noWeights, 198, 2);
+KORVEL_FIELD_AT(ST_QualiInfo, withLongLabels, 200, 2);
+KORVEL_FIELD_AT(ST_QualiInfo, CheckType, 204, 4);
+
+#undef KORVEL_FIELD_AT
 
 #endif

@@ -132,11 +132,14 @@ public:
         std::copy_n(src.data, std::min(nbElem, src.nbElem), data);
     }
 
-    /** A deep copy in a block of its own, attached to nothing, with the initial `oobValue`. */
+    /** A deep copy in a block of its own, attached to nothing, with the initial `oobValue`. What `src` has no
+     * block for is 0. */
     matrix(const matrix& src)
     {
-        allocate(src.nbrows, src.nbcols, src.nbcols < 1);
-        std::copy_n(src.data, src.nbElem, data);
+        allocate(src.nbrows, src.nbcols, src.nbcols < 1 || src.data == nullptr);
+        if (src.data != nullptr) {
+            std::copy_n(src.data, src.nbElem, data);
+        }
     }
 
     /** Takes over everything that `src` has; see the move assignment. */
