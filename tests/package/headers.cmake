@@ -1,0 +1,43 @@
+# Every header compiles alone: as C++, and those of the flat functions as strict C too. A header with a source of its
+# own is shown to by that source, which includes it first (tools/check_includes sees to that); each other one gets a
+# source here. They are built by a test, and again only where something has changed.
+set(header_root ${PROJECT_SOURCE_DIR}/src)
+
+# korvel_include_alone(TARGET SUFFIX HEADERS...): a library with a source for each header, which includes it and no
+# more.
+function(korvel_include_alone target suffix)
+    set(sources "")
+    foreach(header ${ARGN})
+        set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}/${header}.${suffix})
+        file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${header}\"\n")
+        list(APPEND sources ${source})
+    endforeach()
+    add_library(${target} OBJECT EXCLUDE_FROM_ALL ${sources})
+    target_link_libraries(${target} PRIVATE korvel_objects)
+    target_compile_options(${target} PRIVATE -Werror)
+    set_target_properties(${target} PROPERTIES C_EXTENSIONS OFF)
+    add_test(NAME package.${target} COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target ${target} -j 2)
+    # Two builds at once in one folder would trip over each other.
+    set_tests_properties(package.${target} PROPERTIES RESOURCE_LOCK build_folder)
+endfunction()
+
+set(umbrella frames/KORVELMathTools.h)
+set(c_headers ${umbrella})
+# For Windows the system's own header takes seconds to read each time, and the one source that has them all will do.
+if(NOT WIN32)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${header_root}/${umbrella})
+    file(STRINGS ${header_root}/${umbrella} flat_headers REGEX "^#include \"frames/")
+    list(TRANSFORM flat_headers REPLACE "^#include \"(.*)\"" "\\1")
+    list(APPEND c_headers ${flat_headers} frames/types.h containers/caller_records.h platform/automation.h)
+
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${header_root} ${header_root}/*.h)
+    set(lone_headers "")
+    foreach(header ${headers})
+        string(REGEX REPLACE "\\.h$" ".cpp" twin ${header_root}/${header})
+        if(NOT EXISTS ${twin})
+            list(APPEND lone_headers ${header})
+        endif()
+    endforeach()
+    korvel_include_alone(headers_are_cxx cpp ${lone_headers})
+endif()
+korvel_include_alone(flat_headers_are_c c ${c_headers})
