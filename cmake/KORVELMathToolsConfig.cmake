@@ -1,0 +1,2 @@
+# find_package(KORVELMathTools) gives the target KORVELMathTools::KORVELMathTools.
+include(${CMAKE_CURRENT_LIST_DIR}/KORVELMathToolsTargets.cmake)
