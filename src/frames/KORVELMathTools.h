@@ -6,6 +6,8 @@
 #define KORVELMATHTOOLS_H
 
 #include "frames/containers.h"
+#include "frames/sort_table.h"
+#include "frames/sort_vector.h"
 #include "frames/vector_sums.h"
 
 #endif

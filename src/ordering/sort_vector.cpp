@@ -30,7 +30,8 @@ void sortRange(matrix<T>& x, const korvel::row_range& range, bool descending, La
             elements[k] = std::move(moved[static_cast<std::size_t>(sorted.position(k))]);
         }
     } else {
-        const korvel::sorted_numbers<T> sorted(range.count, descending, [&](std::int32_t k) { return elements[k]; });
+        const korvel::sorted_numbers<T> sorted(range.count, descending,
+                                               [&](std::int32_t k) { return elements[k]; });
         for (std::size_t k = 0; k < count; ++k) {
             landed(k, sorted.position(k));
             elements[k] = sorted.key(k);

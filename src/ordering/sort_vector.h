@@ -1,7 +1,7 @@
 /**
  * @file
- * Sorting a vector in place. Equal elements keep their order in both directions. Missing values have no special
- * treatment: the missing number is smaller than every other finite number.
+ * Sorting a vector in place. Equal elements keep their order in both directions. Missing values have no
+ * special treatment: the missing number is smaller than every other finite number.
  */
 #ifndef KORVEL_ORDERING_SORT_VECTOR_H
 #define KORVEL_ORDERING_SORT_VECTOR_H
@@ -18,8 +18,8 @@
  * @param to    last position to sort, included
  * @param bDesc descending when true
  *
- * Positions outside `from..to` are neither read nor moved. `from > to`, or a range that is not inside the vector,
- * changes nothing. The place of a NaN is not defined.
+ * Positions outside `from..to` are neither read nor moved. `from > to`, or a range that is not inside the
+ * vector, changes nothing. The place of a NaN is not defined.
  */
 KORVEL_API void SortQVector(matrix<double>* x, int n, int from, int to, bool bDesc);
 KORVEL_API void SortQVector(matrix<int>* x, int n, int from, int to, bool bDesc);
@@ -28,8 +28,8 @@ KORVEL_API void SortQVector(matrix<text>* x, int n, int from, int to, bool bDesc
 /**
  * `SortQVector` on texts, which also tells where each text came from.
  *
- * @param index receives `n` numbers: at each position of `from..to` the 1-based original position of the text that
- *              now stands there, elsewhere the position itself
+ * @param index receives `n` numbers: at each position of `from..to` the 1-based original position of the text
+ * that now stands there, elsewhere the position itself
  */
 KORVEL_API void SortQVector2(matrix<text>* x, int n, int from, int to, bool bDesc, matrix<int>* index);
 

@@ -1,0 +1,156 @@
+#include "frames/sort_table.h"
+
+#include "frames/frame.h"
+#include "ordering/sort_by_column.h"
+#include "ordering/sort_table.h"
+
+using namespace korvel;
+
+int VB_SortQDbl(double* x, int rows, int cols, int from, int to, double* key, double* aux, int auxCols,
+                short int bDesc, short int bSortKey)
+{
+    auto table = frame::copyIn(x, rows, frame::columns(cols));
+    auto keys = frame::copyIn(key, rows);
+    auto companion = frame::copyIn(aux, rows, frame::columns(auxCols));
+    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
+          bDesc != 0, bSortKey != 0);
+    frame::copyOut(keys, key);
+    frame::copyOut(companion, aux);
+    frame::copyOut(table, x);
+    return 0;
+}
+
+int VB_SortQDbl2(double* x, int rows, int cols, int from, int to, double* key, double* aux, int auxCols,
+                 short int bDesc, short int bSortKey)
+{
+    auto table = frame::borrow(x, rows, frame::columns(cols));
+    auto keys = frame::borrow(key, rows);
+    auto companion = frame::borrow(aux, rows, frame::columns(auxCols));
+    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
+          bDesc != 0, bSortKey != 0);
+    return 0;
+}
+
+int VB_SortQByColDbl(double* x, int rows, int cols, int from, int to, double* key, double* aux, int auxRows,
+                     short int bDesc, short int bSortKey)
+{
+    auto table = frame::copyIn(x, frame::columns(rows), cols);
+    auto keys = frame::copyIn(key, cols);
+    auto companion = frame::copyIn(aux, frame::columns(auxRows), cols);
+    SortQByCol(&table, frame::columns(rows), cols, from, to, &keys, &companion, frame::columns(auxRows),
+               bDesc != 0, bSortKey != 0);
+    frame::copyOut(keys, key);
+    frame::copyOut(companion, aux);
+    frame::copyOut(table, x);
+    return 0;
+}
+
+int VB_SortQLng(int* x, int rows, int cols, int from, int to, int* key, int* aux, int auxCols,
+                short int bDesc, short int bSortKey)
+{
+    auto table = frame::borrow(x, rows, frame::columns(cols));
+    auto keys = frame::borrow(key, rows);
+    auto companion = frame::borrow(aux, rows, frame::columns(auxCols));
+    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
+          bDesc != 0, bSortKey != 0);
+    return 0;
+}
+
+int VB_SortQBool(short int* x, int rows, int cols, int from, int to, double* key, short int* aux, int auxCols,
+                 short int bDesc, short int bSortKey)
+{
+    auto table = frame::borrow(x, rows, frame::columns(cols));
+    auto keys = frame::borrow(key, rows);
+    auto companion = frame::borrow(aux, rows, frame::columns(auxCols));
+    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
+          bDesc != 0, bSortKey != 0);
+    return 0;
+}
+
+int VB_SortQStr(OLECHAR** x, int rows, int cols, int from, int to, double* key, OLECHAR** aux, int auxCols,
+                short int bDesc, short int bSortKey)
+{
+    auto table = frame::readTexts(x, rows, frame::columns(cols));
+    auto keys = frame::borrow(key, rows);
+    auto companion = frame::readTexts(aux, rows, frame::columns(auxCols));
+    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
+          bDesc != 0, bSortKey != 0);
+    frame::writeTexts(table, x);
+    frame::writeTexts(companion, aux);
+    return 0;
+}
+
+int VB_SortDataBy01(double* x, int rows, int cols, double* key)
+{
+    auto table = frame::borrow(x, rows, frame::columns(cols));
+    auto keys = frame::borrow(key, rows);
+    SortDataBy01(&table, rows, frame::columns(cols), &keys);
+    return 0;
+}
+
+int VB_SortDataBy01Bool(short int* x, int rows, int cols, double* key)
+{
+    auto table = frame::borrow(x, rows, frame::columns(cols));
+    auto keys = frame::borrow(key, rows);
+    SortDataBy01(&table, rows, frame::columns(cols), &keys);
+    return 0;
+}
+
+int VB_SortDataBy01Str(OLECHAR** x, int rows, int cols, double* key)
+{
+    auto table = frame::readTexts(x, rows, frame::columns(cols));
+    auto keys = frame::borrow(key, rows);
+    SortDataBy01(&table, rows, frame::columns(cols), &keys);
+    frame::writeTexts(table, x);
+    return 0;
+}
+
+int Cpp_SortQMatrixCol(double* x, int rows, int cols, int keyCol, int from, int to, short int bDesc)
+{
+    auto table = frame::borrow(x, rows, cols);
+    SortQMatrixCol(&table, rows, cols, keyCol, from, to, bDesc != 0);
+    return 0;
+}
+
+int Cpp_SortQMatrixColLng(int* x, int rows, int cols, int keyCol, int from, int to, short int bDesc)
+{
+    auto table = frame::borrow(x, rows, cols);
+    SortQMatrixCol(&table, rows, cols, keyCol, from, to, bDesc != 0);
+    return 0;
+}
+
+int Cpp_SortQMatrixColStr(OLECHAR** x, int rows, int cols, int keyCol, int from, int to, short int bDesc)
+{
+    auto table = frame::readTexts(x, rows, cols);
+    SortQMatrixCol(&table, rows, cols, keyCol, from, to, bDesc != 0);
+    frame::writeTexts(table, x);
+    return 0;
+}
+
+int VB_SortMatrixSeqQDbl(double* x, int rows, int cols)
+{
+    auto table = frame::borrow(x, rows, cols);
+    SortMatrixSeqQ(&table, rows, cols);
+    return 0;
+}
+
+int VB_SortMatrixSeqQLng(int* x, int rows, int cols)
+{
+    auto table = frame::borrow(x, rows, cols);
+    SortMatrixSeqQ(&table, rows, cols);
+    return 0;
+}
+
+int VB_SortMatrixSeqQP1toP2Dbl(double* x, int rows, int cols, int p1, int p2)
+{
+    auto table = frame::borrow(x, rows, cols);
+    SortMatrixSeqQP1toP2(&table, rows, cols, p1, p2);
+    return 0;
+}
+
+int VB_SortMatrixSeqQP1toP2Lng(int* x, int rows, int cols, int p1, int p2)
+{
+    auto table = frame::borrow(x, rows, cols);
+    SortMatrixSeqQP1toP2(&table, rows, cols, p1, p2);
+    return 0;
+}

@@ -1,0 +1,80 @@
+/**
+ * @file
+ * Moving the payload of a sort: rows, column by column, through a scratch column.
+ */
+#ifndef KORVEL_ORDERING_MOVE_ROWS_H
+#define KORVEL_ORDERING_MOVE_ROWS_H
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <omp.h>
+#include <utility>
+
+namespace korvel
+{
+
+/** From this many cells on, moving them is shared among threads. */
+inline constexpr std::int64_t parallelCellsFrom = 500'000;
+
+/**
+ * Moves rows into sorted order: rank k goes to place k.
+ *
+ * @param sorted   the order, with `size()` and `position(k)`
+ * @param columns  number of columns
+ * @param columnAt `columnAt(j)` points at the first of the rows that move, in column j
+ */
+template <class T, class Sorted, class ColumnAt>
+void moveRows(const Sorted& sorted, int columns, ColumnAt columnAt)
+{
+    const std::size_t rows = sorted.size();
+    if (rows == 0 || columns <= 0) {
+        return;
+    }
+    const bool shared = static_cast<std::int64_t>(rows) * columns >= parallelCellsFrom;
+    const int threads = shared ? omp_get_max_threads() : 1;
+    if (columns < threads) {
+        // Few long columns: each is cut among the threads.
+        const auto scratch = std::make_unique<T[]>(rows);
+        const auto last = static_cast<std::int64_t>(rows);
+        for (int j = 0; j < columns; ++j) {
+            T* column = columnAt(j);
+#pragma omp parallel num_threads(threads)
+            {
+#pragma omp for schedule(static)
+                for (std::int64_t k = 0; k < last; ++k) {
+                    scratch[static_cast<std::size_t>(k)] =
+                        std::move(column[sorted.position(static_cast<std::size_t>(k))]);
+                }
+#pragma omp for schedule(static)
+                for (std::int64_t k = 0; k < last; ++k) {
+                    column[k] = std::move(scratch[static_cast<std::size_t>(k)]);
+                }
+            }
+        }
+        return;
+    }
+    const auto scratch = std::make_unique<T[]>(rows * static_cast<std::size_t>(threads));
+    const auto moveColumn = [&](int j, T* spare) {
+        T* column = columnAt(j);
+        for (std::size_t k = 0; k < rows; ++k) {
+            spare[k] = std::move(column[sorted.position(k)]);
+        }
+        std::move(spare, spare + rows, column);
+    };
+    if (threads == 1) {
+        for (int j = 0; j < columns; ++j) {
+            moveColumn(j, scratch.get());
+        }
+        return;
+    }
+#pragma omp parallel for schedule(static) num_threads(threads)
+    for (int j = 0; j < columns; ++j) {
+        moveColumn(j, scratch.get() + rows * static_cast<std::size_t>(omp_get_thread_num()));
+    }
+}
+
+} // namespace korvel
+
+#endif
