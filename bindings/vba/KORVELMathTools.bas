@@ -43,6 +43,137 @@ Public Declare PtrSafe Function ExtractBSTR Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Sub dprint Lib "KORVELMathTools.dll" ( _
     ByVal value As Double, ByVal label As String)
 
+' ---- sort_table.h
+
+' Orders the rows of a table of numbers by a key, on copies that then replace the caller's arrays.
+Public Declare PtrSafe Function VB_SortQDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxCols As Long, _
+    ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
+
+' Orders the rows of a table of numbers by a key, in the caller's arrays.
+Public Declare PtrSafe Function VB_SortQDbl2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxCols As Long, _
+    ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
+
+' Orders the columns of a table of numbers by a key with one entry a column: the column of rank k,
+' from 0, goes to column from + k.
+Public Declare PtrSafe Function VB_SortQByColDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxRows As Long, _
+    ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
+
+' Orders the rows of a table of integers by a key of integers.
+Public Declare PtrSafe Function VB_SortQLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef key As Long, ByRef aux As Long, ByVal auxCols As Long, _
+    ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
+
+' Orders the rows of a table of flags by a key of numbers.
+Public Declare PtrSafe Function VB_SortQBool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Integer, ByVal auxCols As Long, _
+    ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
+
+' Orders the rows of a table of texts by a key of numbers.
+Public Declare PtrSafe Function VB_SortQStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByVal aux As LongPtr, ByVal auxCols As Long, _
+    ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
+
+' Orders the rows of a record of labelled columns of numbers by a key.
+Public Declare PtrSafe Function Cpp_SortQDbl_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxCols As Long, _
+    ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
+
+' Orders the rows of a table of integers, a single array that comes out of a record, by a key of
+' integers.
+Public Declare PtrSafe Function Cpp_SortQLng_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Long, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef key As Long, ByRef aux As Long, ByVal auxCols As Long, _
+    ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
+
+' Orders the rows of a record of labelled columns of texts by a key.
+Public Declare PtrSafe Function Cpp_SortQStr_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByVal aux As LongPtr, ByVal auxCols As Long, _
+    ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
+
+' Puts the rows of a table of numbers with key 0 first, in their order, then those with key 1.
+Public Declare PtrSafe Function VB_SortDataBy01 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef key As Double) As Long
+
+' Puts the rows of a table of flags with key 0 first, in their order, then those with key 1.
+Public Declare PtrSafe Function VB_SortDataBy01Bool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByRef key As Double) As Long
+
+' Puts the rows of a table of texts with key 0 first, in their order, then those with key 1.
+Public Declare PtrSafe Function VB_SortDataBy01Str Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef key As Double) As Long
+
+' Orders rows from..to of a table of numbers by one of its columns, all columns moving.
+Public Declare PtrSafe Function Cpp_SortQMatrixCol Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal keyCol As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByVal bDesc As Integer) As Long
+
+' Orders rows from..to of a table of integers by one of its columns, all columns moving.
+Public Declare PtrSafe Function Cpp_SortQMatrixColLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal keyCol As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByVal bDesc As Integer) As Long
+
+' Orders rows from..to of a table of texts by one of its columns, by 16-bit code units, all columns
+' moving.
+Public Declare PtrSafe Function Cpp_SortQMatrixColStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal keyCol As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByVal bDesc As Integer) As Long
+
+' Orders all rows of a table of numbers, ascending, by column 1, then column 2, and so on.
+Public Declare PtrSafe Function VB_SortMatrixSeqQDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Orders all rows of a table of integers, ascending, by column 1, then column 2, and so on.
+Public Declare PtrSafe Function VB_SortMatrixSeqQLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Sorts all rows of a table of numbers, ascending, by column p1, then again by the next, up to p2:
+' column p2 orders first, then the one before it.
+Public Declare PtrSafe Function VB_SortMatrixSeqQP1toP2Dbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal p1 As Long, ByVal p2 As Long) As Long
+
+' Sorts all rows of a table of integers, ascending, by column p1, then again by the next, up to p2:
+' column p2 orders first, then the one before it.
+Public Declare PtrSafe Function VB_SortMatrixSeqQP1toP2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal p1 As Long, ByVal p2 As Long) As Long
+
+' ---- sort_vector.h
+
+' Sorts positions `from..to` of a vector of numbers.
+Public Declare PtrSafe Function VB_SortQVectorDbl Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Double, ByVal ignored As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByVal bDesc As Integer) As Long
+
+' Sorts positions `from..to` of a vector of integers.
+Public Declare PtrSafe Function VB_SortQVectorLng Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Long, ByVal ignored As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByVal bDesc As Integer) As Long
+
+' Sorts positions `from..to` of a vector of texts by 16-bit code units, a prefix before its
+' extensions.
+Public Declare PtrSafe Function VB_SortQVectorStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByVal bDesc As Integer) As Long
+
+' Sorts positions `from..to` of a vector of texts, and tells where each text came from.
+Public Declare PtrSafe Function Cpp_SortQVector2Str Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByVal bDesc As Integer, ByRef index As Long) As Long
+
+' Tells whether a vector is in ascending order.
+Public Declare PtrSafe Function VB_V_IsSorted Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bStrict As Integer) As Integer
+
 ' ---- vector_sums.h
 
 ' Weighted sum of a vector: the sum of w[i] * x[i] in ascending order. iMissing (Integer) may be

@@ -1,5 +1,6 @@
 #include "frames/sort_table.h"
 
+#include "containers/records.h"
 #include "frames/frame.h"
 #include "ordering/sort_by_column.h"
 #include "ordering/sort_table.h"
@@ -76,6 +77,40 @@ int VB_SortQStr(OLECHAR** x, int rows, int cols, int from, int to, double* key, 
     SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
           bDesc != 0, bSortKey != 0);
     frame::writeTexts(table, x);
+    frame::writeTexts(companion, aux);
+    return 0;
+}
+
+int Cpp_SortQDbl_ST(ST_MVect* x, int rows, int cols, int from, int to, double* key, double* aux, int auxCols,
+                    short int bDesc, short int bSortKey)
+{
+    cST_MVect<double> table(x);
+    auto keys = frame::borrow(key, rows);
+    auto companion = frame::borrow(aux, rows, frame::columns(auxCols));
+    SortQ(table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols), bDesc != 0,
+          bSortKey != 0);
+    return 0;
+}
+
+int Cpp_SortQLng_ST(SAFEARRAY** x, int rows, int cols, int from, int to, int* key, int* aux, int auxCols,
+                    short int bDesc, short int bSortKey)
+{
+    auto table = frame::attach<int>(x);
+    auto keys = frame::borrow(key, rows);
+    auto companion = frame::borrow(aux, rows, frame::columns(auxCols));
+    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
+          bDesc != 0, bSortKey != 0);
+    return 0;
+}
+
+int Cpp_SortQStr_ST(ST_MVect* x, int rows, int cols, int from, int to, double* key, OLECHAR** aux,
+                    int auxCols, short int bDesc, short int bSortKey)
+{
+    cST_MVect<text> table(x);
+    auto keys = frame::borrow(key, rows);
+    auto companion = frame::readTexts(aux, rows, frame::columns(auxCols));
+    SortQ(table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols), bDesc != 0,
+          bSortKey != 0);
     frame::writeTexts(companion, aux);
     return 0;
 }

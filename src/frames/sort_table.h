@@ -129,6 +129,65 @@ KORVEL_FLAT int VB_SortQStr(OLECHAR** x, int rows, int cols, int from, int to, d
                             int auxCols, short int bDesc, short int bSortKey);
 
 /**
+ * Orders the rows of a record of labelled columns of numbers by a key. A column shorter than `to` is left
+ * alone.
+ *
+ * @param x        [inout] the record; its columns are changed in place
+ * @param rows     rows of the table
+ * @param cols     columns of the table; 0 counts as 1
+ * @param from     first row to sort, from 1
+ * @param to       last row to sort, included
+ * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
+ * set
+ * @param aux      [inout] rows by auxCols numbers, a second table that moves along
+ * @param auxCols  columns of aux; 0 counts as 1
+ * @param bDesc    not 0: descending
+ * @param bSortKey not 0: the key is rewritten in sorted order
+ * @return 0
+ */
+KORVEL_FLAT int Cpp_SortQDbl_ST(ST_MVect* x, int rows, int cols, int from, int to, double* key, double* aux,
+                                int auxCols, short int bDesc, short int bSortKey);
+
+/**
+ * Orders the rows of a table of integers, a single array that comes out of a record, by a key of integers.
+ *
+ * @param x        [inout] host array of Long, rows by cols
+ * @param rows     rows of the table
+ * @param cols     columns of the table; 0 counts as 1
+ * @param from     first row to sort, from 1
+ * @param to       last row to sort, included
+ * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
+ * set
+ * @param aux      [inout] rows by auxCols integers, a second table that moves along
+ * @param auxCols  columns of aux; 0 counts as 1
+ * @param bDesc    not 0: descending
+ * @param bSortKey not 0: the key is rewritten in sorted order
+ * @return 0
+ */
+KORVEL_FLAT int Cpp_SortQLng_ST(SAFEARRAY** x, int rows, int cols, int from, int to, int* key, int* aux,
+                                int auxCols, short int bDesc, short int bSortKey);
+
+/**
+ * Orders the rows of a record of labelled columns of texts by a key. A column shorter than `to` is left
+ * alone.
+ *
+ * @param x        [inout] the record; the texts of its columns are put back where they changed
+ * @param rows     rows of the table
+ * @param cols     columns of the table; 0 counts as 1
+ * @param from     first row to sort, from 1
+ * @param to       last row to sort, included
+ * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
+ * set
+ * @param aux      [inout] rows by auxCols texts, a second table that moves along
+ * @param auxCols  columns of aux; 0 counts as 1
+ * @param bDesc    not 0: descending
+ * @param bSortKey not 0: the key is rewritten in sorted order
+ * @return 0
+ */
+KORVEL_FLAT int Cpp_SortQStr_ST(ST_MVect* x, int rows, int cols, int from, int to, double* key, OLECHAR** aux,
+                                int auxCols, short int bDesc, short int bSortKey);
+
+/**
  * Puts the rows of a table of numbers with key 0 first, in their order, then those with key 1.
  *
  * @param x    [inout] rows by cols numbers

@@ -23,7 +23,8 @@ inline constexpr std::int64_t parallelCellsFrom = 500'000;
  *
  * @param sorted   the order, with `size()` and `position(k)`
  * @param columns  number of columns
- * @param columnAt `columnAt(j)` points at the first of the rows that move, in column j
+ * @param columnAt `columnAt(j)` points at the first of the rows that move, in column j; null for a column
+ * that is left alone
  */
 template <class T, class Sorted, class ColumnAt>
 void moveRows(const Sorted& sorted, int columns, ColumnAt columnAt)
@@ -39,7 +40,10 @@ void moveRows(const Sorted& sorted, int columns, ColumnAt columnAt)
         const auto scratch = std::make_unique<T[]>(rows);
         const auto last = static_cast<std::int64_t>(rows);
         for (int j = 0; j < columns; ++j) {
-            T* column = columnAt(j);
+            T* const column = columnAt(j);
+            if (column == nullptr) {
+                continue;
+            }
 #pragma omp parallel num_threads(threads)
             {
 #pragma omp for schedule(static)
@@ -57,7 +61,10 @@ void moveRows(const Sorted& sorted, int columns, ColumnAt columnAt)
     }
     const auto scratch = std::make_unique<T[]>(rows * static_cast<std::size_t>(threads));
     const auto moveColumn = [&](int j, T* spare) {
-        T* column = columnAt(j);
+        T* const column = columnAt(j);
+        if (column == nullptr) {
+            return;
+        }
         for (std::size_t k = 0; k < rows; ++k) {
             spare[k] = std::move(column[sorted.position(k)]);
         }

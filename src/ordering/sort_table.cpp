@@ -24,37 +24,52 @@ void writeKeys(const korvel::sorted_numbers<Key>& sorted, const korvel::row_rang
     }
 }
 
+/** First cell of the range in column j; null when the column does not hold the whole range. */
 template <class T>
-bool holdsRows(const matrix<T>& table, const korvel::row_range& range)
+T* rangeInColumn(matrix<T>& table, int j, const korvel::row_range& range)
 {
-    return range.first + range.count <= table.nbrows;
+    const bool inside = range.first + range.count <= table.nbrows && j < table.nbcols;
+    return inside ? table.data + range.first + static_cast<std::ptrdiff_t>(table.nbrows) * j : nullptr;
+}
+
+template <class T>
+T* rangeInColumn(cST_MVect<T>& table, int j, const korvel::row_range& range)
+{
+    return static_cast<std::size_t>(j) < table.Vectors.size()
+               ? rangeInColumn(table.Vectors[static_cast<std::size_t>(j)].Vect, 0, range)
+               : nullptr;
+}
+
+template <class T>
+const void* storageOf(const matrix<T>& table)
+{
+    return table.data;
+}
+
+template <class T>
+const void* storageOf(const cST_MVect<T>& table)
+{
+    return table.Vectors.empty() ? nullptr : table.Vectors.front().Vect.data;
 }
 
 /** Moves the rows of the range in columns `firstColumn` to `cols - 1`, as far as the table has them. */
-template <class T, class Sorted>
-void moveRowsOf(matrix<T>& table, int firstColumn, int cols, const korvel::row_range& range,
-                const Sorted& sorted)
+template <class T, class Table, class Sorted>
+void moveRowsOf(Table& table, int firstColumn, int cols, const korvel::row_range& range, const Sorted& sorted)
 {
-    if (holdsRows(table, range)) {
-        korvel::moveRows<T>(sorted, std::min(cols, table.nbcols) - firstColumn, [&](int j) {
-            return table.data + range.first + static_cast<std::ptrdiff_t>(table.nbrows) * (firstColumn + j);
-        });
-    }
+    korvel::moveRows<T>(sorted, cols - firstColumn,
+                        [&](int j) { return rangeInColumn(table, firstColumn + j, range); });
 }
 
-template <class T, class Key>
-void sortTable(matrix<T>& table, int rows, int cols, int from, int to, matrix<Key>& key, matrix<T>* aux,
+template <class Table, class T, class Key>
+void sortTable(Table& table, int rows, int cols, int from, int to, matrix<Key>& key, matrix<T>* aux,
                int auxCols, bool descending, bool sortKey)
 {
     const korvel::row_range range(from, to, rows);
-    const auto isStorageOf = [](const auto& a, const auto& b) {
-        return static_cast<const void*>(a.data) == static_cast<const void*>(b.data);
-    };
-    const bool keyIsFirstColumn = sortKey && isStorageOf(key, table);
+    const bool keyIsFirstColumn = sortKey && storageOf(key) == storageOf(table);
     const auto sorted = sortKeys(key, range, descending);
-    moveRowsOf(table, keyIsFirstColumn ? 1 : 0, cols, range, sorted);
-    if (auxCols > 0 && !isStorageOf(*aux, key) && !isStorageOf(*aux, table)) {
-        moveRowsOf(*aux, 0, auxCols, range, sorted);
+    moveRowsOf<T>(table, keyIsFirstColumn ? 1 : 0, cols, range, sorted);
+    if (auxCols > 0 && storageOf(*aux) != storageOf(key) && storageOf(*aux) != storageOf(table)) {
+        moveRowsOf<T>(*aux, 0, auxCols, range, sorted);
     }
     if (sortKey) {
         writeKeys(sorted, range, key);
@@ -106,6 +121,18 @@ void SortQ(matrix<text>* table, int rows, int cols, int from, int to, matrix<dou
            int auxCols, bool bDesc, bool bSortKey)
 {
     sortTable(*table, rows, cols, from, to, *key, aux, auxCols, bDesc, bSortKey);
+}
+
+void SortQ(cST_MVect<double>& table, int rows, int cols, int from, int to, matrix<double>* key,
+           matrix<double>* aux, int auxCols, bool bDesc, bool bSortKey)
+{
+    sortTable(table, rows, cols, from, to, *key, aux, auxCols, bDesc, bSortKey);
+}
+
+void SortQ(cST_MVect<text>& table, int rows, int cols, int from, int to, matrix<double>* key,
+           matrix<text>* aux, int auxCols, bool bDesc, bool bSortKey)
+{
+    sortTable(table, rows, cols, from, to, *key, aux, auxCols, bDesc, bSortKey);
 }
 
 void SortQByCol(matrix<double>* table, int rows, int cols, int from, int to, matrix<double>* key,

@@ -11,6 +11,7 @@
 #define KORVEL_ORDERING_SORT_TABLE_H
 
 #include "containers/matrix.h"
+#include "containers/records.h"
 #include "platform/export.h"
 
 /**
@@ -36,6 +37,14 @@ KORVEL_API void SortQ(matrix<int>* table, int rows, int cols, int from, int to, 
 KORVEL_API void SortQ(matrix<short int>* table, int rows, int cols, int from, int to, matrix<double>* key,
                       matrix<short int>* aux, int auxCols, bool bDesc, bool bSortKey);
 KORVEL_API void SortQ(matrix<text>* table, int rows, int cols, int from, int to, matrix<double>* key,
+                      matrix<text>* aux, int auxCols, bool bDesc, bool bSortKey);
+
+/**
+ * The same on a record of labelled columns. A column that is shorter than the range is left alone.
+ */
+KORVEL_API void SortQ(cST_MVect<double>& table, int rows, int cols, int from, int to, matrix<double>* key,
+                      matrix<double>* aux, int auxCols, bool bDesc, bool bSortKey);
+KORVEL_API void SortQ(cST_MVect<text>& table, int rows, int cols, int from, int to, matrix<double>* key,
                       matrix<text>* aux, int auxCols, bool bDesc, bool bSortKey);
 
 /**
