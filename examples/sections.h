@@ -1,0 +1,38 @@
+/**
+ * @file
+ * What a report consists of. A further section is a function that asks the library and fills a table, and a
+ * line in the list of sections.cpp.
+ */
+#ifndef KORVEL_EXAMPLES_SECTIONS_H
+#define KORVEL_EXAMPLES_SECTIONS_H
+
+#include "data_set.h"
+#include "text_table.h"
+
+#include <span>
+
+namespace report
+{
+
+/** A section: its title, and the function that makes its table; a table without rows is left out. The flat
+ * functions take arrays that they might change, hence a data set that is not const. */
+struct section {
+    const char* title;
+    text_table (*make)(data_set& data);
+};
+
+/** All sections in the order of the report. */
+std::span<const section> sections();
+
+/** Where the numbers of each column lie: count, mean, spread, extremes with their rows, sum. */
+text_table location(data_set& data);
+
+/** The shape of each column's distribution, and the means other than the arithmetic one. */
+text_table shape(data_set& data);
+
+/** The most frequent values of each column of texts. */
+text_table frequencies(data_set& data);
+
+} // namespace report
+
+#endif

@@ -1,0 +1,50 @@
+/**
+ * @file
+ * A table of texts printed with aligned columns.
+ */
+#ifndef KORVEL_EXAMPLES_TEXT_TABLE_H
+#define KORVEL_EXAMPLES_TEXT_TABLE_H
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace report
+{
+
+/** How the cells of a column stand: at its left edge, or with their decimal points one below the other. */
+enum class alignment { left, point };
+
+/** Rows of cells below a line of headings. */
+class text_table
+{
+public:
+    struct heading {
+        std::string title;
+        alignment cells;
+    };
+
+    explicit text_table(std::vector<heading> headings) : headings_(std::move(headings)) {}
+
+    /** Adds a row; it has as many cells as there are headings. */
+    void add(std::vector<std::string> cells) { rows_.push_back(std::move(cells)); }
+
+    [[nodiscard]] bool empty() const { return rows_.empty(); }
+
+    /** Prints headings and rows, each line indented by two blanks. */
+    void print(std::ostream& out) const;
+
+private:
+    std::vector<heading> headings_;
+    std::vector<std::vector<std::string>> rows_;
+};
+
+/** A number with `decimals` digits after its point, in powers of ten when that would not show it; "-" when it
+ * is missing. */
+std::string shown(double number, int decimals);
+
+std::string shown(int count);
+
+} // namespace report
+
+#endif
