@@ -1,0 +1,612 @@
+"""The scripts in tools/: what they make of good headers, and that each kind of mistake stops them."""
+
+import functools
+import importlib.machinery
+import importlib.util
+import io
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import textwrap
+import unittest
+from contextlib import redirect_stderr, redirect_stdout
+from pathlib import Path
+from unittest import mock
+
+TOOLS = Path(__file__).resolve().parent.parent.parent / "tools"
+sys.path.insert(0, str(TOOLS))
+COMPILER = os.environ.get("KORVEL_CXX", "g++")
+
+UMBRELLA = """\
+/**
+ * @file
+ * All of them.
+ */
+#ifndef KORVELMATHTOOLS_H
+#define KORVELMATHTOOLS_H
+
+#include "frames/sample.h"
+
+#endif
+"""
+
+COMMON = """\
+/**
+ * @file
+ * What is common to all.
+ */
+#ifndef KORVEL_FRAMES_TYPES_H
+#define KORVEL_FRAMES_TYPES_H
+#endif
+"""
+
+OPENING = """\
+/**
+ * @file
+ * Flat functions: samples.
+ */
+#ifndef KORVEL_FRAMES_SAMPLE_H
+#define KORVEL_FRAMES_SAMPLE_H
+
+#include "frames/types.h"
+
+"""
+FIRST_LINE = OPENING.count("\n") + 1
+
+SUM = """\
+/**
+ * Sums a vector, e.g. of weights. Adds upwards.
+ *
+ * @param x [in] n numbers
+ * @param n their number
+ * @param flags [in] n flags;
+ *              Null: none is set
+ * @return the sum
+ */
+KORVEL_FLAT double VB_Sum(double* x, int n,
+                          short int* flags);
+
+"""
+
+
+@functools.cache
+def load(name):
+    """A script of tools/ as a module."""
+    loader = importlib.machinery.SourceFileLoader(name, str(TOOLS / name))
+    module = importlib.util.module_from_spec(importlib.util.spec_from_loader(name, loader))
+    loader.exec_module(module)
+    return module
+
+
+class Tree(unittest.TestCase):
+    """A test with a source tree of its own."""
+
+    def setUp(self):
+        self.root = Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.root)
+        self.write("src/frames/KORVELMathTools.h", UMBRELLA)
+        self.write("src/frames/types.h", COMMON)
+
+    def write(self, name, text):
+        path = self.root / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8", newline="\n")
+
+    def read(self, name):
+        return (self.root / name).read_bytes().decode("ascii")
+
+    def functions(self, text):
+        self.write("src/frames/sample.h", OPENING + text + "#endif\n")
+
+    def run_tool(self, name, *arguments):
+        """(exit code, lines on the error stream)"""
+        script = load(name)
+        errors = io.StringIO()
+        command = [name, "--root", str(self.root), *map(str, arguments)]
+        with mock.patch("sys.argv", command), redirect_stderr(errors), redirect_stdout(io.StringIO()):
+            code = script.main()
+        return code, errors.getvalue().splitlines()
+
+
+class MadeFiles(Tree):
+    def make(self):
+        self.assertEqual(self.run_tool("generate"), (0, []))
+
+    def declarations(self):
+        """The Visual Basic module from its first section on, with its lines' ends taken off."""
+        module = self.read("bindings/vba/KORVELMathTools.bas")
+        self.assertEqual(module.count("\n"), module.count("\r\n"))
+        lines = module.split("\r\n")
+        return lines[lines.index("' ---- sample.h") + 2 : -1]
+
+    def test_lists_are_sorted_by_byte(self):
+        names = ("zeta", "Beta", "VB_A", "alpha")
+        self.functions("".join(f"/** Does it. */\nKORVEL_FLAT void {name}(void);\n" for name in names))
+        self.make()
+        self.assertEqual(self.read("exports/flat.txt"), "Beta\nVB_A\nalpha\nzeta\n")
+        self.assertEqual(
+            self.read("bindings/KORVELMathTools.def"),
+            "LIBRARY KORVELMathTools\nEXPORTS\n    Beta\n    VB_A\n    alpha\n    zeta\n",
+        )
+
+    def test_declares_arrays_and_scalars(self):
+        self.functions(SUM)
+        self.make()
+        self.assertEqual(
+            self.declarations(),
+            [
+                "' Sums a vector, e.g. of weights. flags (Integer) may be null.",
+                'Public Declare PtrSafe Function VB_Sum Lib "KORVELMathTools.dll" ( _',
+                "    ByRef x As Double, ByVal n As Long, ByRef flags As Any) As Double",
+            ],
+        )
+
+    def test_declares_every_type(self):
+        self.functions(
+            """\
+/**
+ * Takes all.
+ *
+ * @param a a
+ * @param b [in] b
+ * @param c [out] c
+ * @param d [inout] block
+ * @param e [in] one text
+ * @param f [in] host array of Double
+ * @param g [in] host array of Boolean
+ * @param h [inout] host array of String
+ * @param i [in] chunks
+ * @param j [in] record
+ * @param k [in] record
+ * @param l [in] record
+ * @param m [in] cell
+ * @param n [in] label
+ */
+KORVEL_FLAT void VB_All(short int a, int* b, short int* c, OLECHAR** d, OLECHAR* e, SAFEARRAY** f, SAFEARRAY** g,
+                        SAFEARRAY** h, Hostarray** i, ST_Vect* j, ST_MVect* k, ST_QualiInfo* l, VARIANT* m,
+                        const char* n);
+"""
+        )
+        self.make()
+        self.assertEqual(
+            " ".join(line.strip(" _") for line in self.declarations()[1:]),
+            'Public Declare PtrSafe Sub VB_All Lib "KORVELMathTools.dll" ( ByVal a As Integer, ByRef b As Long, '
+            "ByRef c As Integer, ByVal d As LongPtr, ByVal e As LongPtr, ByRef f() As Double, ByRef g() As Boolean, "
+            "ByVal h As LongPtr, ByVal i As LongPtr, ByVal j As LongPtr, ByVal k As LongPtr, ByVal l As LongPtr, "
+            "ByRef m As Variant, ByVal n As String)",
+        )
+
+    def test_renames_what_visual_basic_cannot_say(self):
+        self.functions(
+            """\
+/**
+ * Names.
+ *
+ * @param next a word of the language
+ * @param k a name
+ * @param K the same name, cases being the same
+ * @return a block
+ */
+KORVEL_FLAT OLECHAR** Open(int next, int k, int K);
+/** The same name, cases being the same. */
+KORVEL_FLAT void openValue(void);
+"""
+        )
+        self.make()
+        self.assertEqual(
+            self.declarations(),
+            [
+                "' Names.",
+                'Public Declare PtrSafe Function OpenValue Lib "KORVELMathTools.dll" Alias "Open" ( _',
+                "    ByVal nextValue As Long, ByVal k As Long, ByVal K2 As Long) As LongPtr",
+                "",
+                "' The same name, cases being the same.",
+                'Public Declare PtrSafe Sub openValue2 Lib "KORVELMathTools.dll" Alias "openValue" ()',
+            ],
+        )
+
+    def many_parameters(self, count):
+        names = [f"parameter_with_a_long_name_{k}" for k in range(count)]
+        described = "".join(f" * @param {name} a number\n" for name in names)
+        declared = ",\n    ".join(f"int {name}" for name in names)
+        self.functions(f"/**\n * Many.\n *\n{described} */\nKORVEL_FLAT void VB_Many({declared});\n")
+
+    def test_keeps_to_the_limits_of_visual_basic(self):
+        self.many_parameters(40)
+        self.make()
+        lines = self.declarations()[1:]
+        self.assertLessEqual(len(lines), 25)
+        self.assertTrue(all(line.endswith(" _") for line in lines[:-1]))
+        self.assertLessEqual(max(map(len, lines)), 1023)
+
+    def test_says_what_visual_basic_cannot_declare(self):
+        self.many_parameters(61)
+        code, errors = self.run_tool("generate")
+        self.assertEqual(code, 1)
+        self.assertIn("VB_Many: more than 60 parameters", errors[0])
+
+    def test_reference_page(self):
+        self.functions(SUM.replace("Adds upwards.", "Adds x[0] * `x[1]`.\n *\n * Rounds:\n * - up\n * - down"))
+        self.make()
+        page = self.read("docs/reference.md")
+        self.assertIn("\nWhat is common to all.\n", page)
+        self.assertIn("\n- [sample.h](#sampleh): Flat functions: samples.\n", page)
+        self.assertTrue(
+            page.endswith(
+                textwrap.dedent(
+                    """\
+                    ## sample.h
+
+                    Flat functions: samples.
+
+                    ### VB_Sum
+
+                    ```c
+                    double VB_Sum(double* x, int n, short int* flags);
+                    ```
+
+                    Sums a vector, e.g. of weights. Adds x\\[0\\] \\* `x[1]`.
+
+                    Rounds:
+
+                    - up
+                    - down
+
+                    - `x` [in]: n numbers
+                    - `n`: their number
+                    - `flags` [in]: n flags; Null: none is set
+                    - Result: the sum
+                    """
+                )
+            ),
+            page,
+        )
+
+    def test_check_names_each_file_that_differs(self):
+        self.functions(SUM)
+        self.assertEqual(self.run_tool("generate", "--check")[0], 1)
+        self.make()
+        self.assertEqual(self.run_tool("generate", "--check"), (0, []))
+        self.functions(SUM.replace("VB_Sum", "VB_Total"))
+        code, errors = self.run_tool("generate", "--check")
+        self.assertEqual(code, 1)
+        self.assertEqual(
+            errors,
+            [
+                f"{name}: differs from what the headers say; run tools/generate"
+                for name in (
+                    "exports/flat.txt",
+                    "bindings/KORVELMathTools.def",
+                    "bindings/vba/KORVELMathTools.bas",
+                    "docs/reference.md",
+                )
+            ],
+        )
+        self.assertEqual(self.read("exports/flat.txt"), "VB_Sum\n")
+
+    def test_puts_the_core_list_in_order(self):
+        self.functions(SUM)
+        self.write("exports/core.txt", "b()\na()\nb()\n")
+        self.make()
+        self.assertEqual(self.read("exports/core.txt"), "a()\nb()\n")
+
+
+class BrokenHeaders(Tree):
+    def expect(self, line, message, name="src/frames/sample.h"):
+        """`line` counts from the first line behind the opening of the header."""
+        code, errors = self.run_tool("generate")
+        self.assertEqual(code, 1)
+        number = line + FIRST_LINE - 1 if name.endswith("sample.h") else line
+        self.assertEqual(errors, [f"{name}:{number}: {message}"])
+        self.assertFalse((self.root / "exports").exists())
+
+    def broken(self, old, new, line, message):
+        self.assertEqual(SUM.count(old), 1)
+        self.functions(SUM.replace(old, new))
+        self.expect(line, message)
+
+    def test_unknown_parameter_type(self):
+        self.broken("int n,", "long n,", 10, "VB_Sum: unknown type 'long' of parameter n")
+
+    def test_const_array(self):
+        self.broken("double* x", "const double* x", 10, "VB_Sum: unknown type 'const double*' of parameter x")
+
+    def test_unknown_result_type(self):
+        self.broken("FLAT double", "FLAT float", 10, "VB_Sum: unknown result type 'float'")
+
+    def test_no_result_type(self):
+        self.broken("FLAT double VB", "FLAT VB", 10, "VB_Sum: unknown result type ''")
+
+    def test_parameter_without_name(self):
+        self.broken("int n,", "int,", 10, "VB_Sum: cannot read the parameter 'int'")
+
+    def test_array_brackets(self):
+        self.broken("double* x", "double x[]", 10, "VB_Sum: cannot read the parameter 'double x[]'")
+
+    def test_empty_parameter_list(self):
+        self.functions("/** Does it. */\nKORVEL_FLAT void VB_A();\n")
+        self.expect(2, "VB_A: an empty parameter list is written (void)")
+
+    def test_prototype_that_does_not_end(self):
+        self.broken("flags);", "flags)", 10, "a prototype that does not end")
+
+    def test_parenthesis_in_prototype(self):
+        self.broken("flags);", "flags(int));", 10, "cannot read this prototype")
+
+    def test_no_doc_comment(self):
+        self.functions(SUM[SUM.index("KORVEL_FLAT") :])
+        self.expect(1, "a prototype without a doc comment before it")
+
+    def test_plain_comment_is_no_doc_comment(self):
+        self.broken("/**", "/*", 10, "a prototype without a doc comment before it")
+
+    def test_doc_comment_without_prototype(self):
+        self.functions("/** Lost. */\n" + SUM)
+        self.expect(1, "a doc comment that belongs to no prototype")
+
+    def test_doc_comment_at_the_end(self):
+        self.functions("/** Lost. */\n")
+        self.expect(1, "a doc comment that belongs to no prototype")
+
+    def test_doc_comment_without_text(self):
+        self.functions("/** @return 0 */\nKORVEL_FLAT int VB_A(void);\n")
+        self.expect(1, "VB_A: the doc comment has no text")
+
+    def test_comment_that_does_not_end(self):
+        self.broken(" */\n", "\n", 1, "a comment that does not end")
+
+    def test_code_behind_a_comment(self):
+        self.broken(" */\n", " */ int a;\n", 9, "text behind the end of a comment")
+
+    def test_missing_param_line(self):
+        self.broken(" * @param n their number\n", "", 9, "VB_Sum: parameter n has no @param line")
+
+    def test_param_line_for_nothing(self):
+        self.broken(" * @return", " * @param m nothing\n * @return", 8, "VB_Sum: @param m names no parameter")
+
+    def test_second_param_line(self):
+        self.broken(" * @return", " * @param n again\n * @return", 8, "VB_Sum: a second @param n")
+
+    def test_param_without_text(self):
+        self.broken("n their number", "n", 5, "VB_Sum: @param n has no text")
+
+    def test_param_lines_in_another_order(self):
+        self.functions(SUM.replace(" * @param n their number\n", "").replace(" * @ret", " * @param n number\n * @ret"))
+        self.expect(1, "VB_Sum: the @param lines are not in the order of the parameters")
+
+    def test_pointer_without_direction(self):
+        self.broken("x [in]", "x", 4, "VB_Sum: @param x needs [in], [out] or [inout]")
+
+    def test_wrong_direction(self):
+        self.broken("x [in]", "x [both]", 4, "VB_Sum: @param x needs [in], [out] or [inout]")
+
+    def test_scalar_with_direction(self):
+        self.broken("n their", "n [in] their", 5, "VB_Sum: @param n is passed by value and has no direction")
+
+    def test_missing_return(self):
+        self.broken(" * @return the sum\n", "", 9, "VB_Sum: no @return")
+
+    def test_return_without_text(self):
+        self.broken("@return the sum", "@return", 10, "VB_Sum: no @return")
+
+    def test_second_return(self):
+        self.broken(" * @return", " * @return 0\n * @return", 9, "VB_Sum: a second @return")
+
+    def test_return_of_nothing(self):
+        self.broken("FLAT double", "FLAT void", 8, "VB_Sum: @return, but there is no result")
+
+    def test_throws_without_text(self):
+        self.broken(" * @return", " * @throws\n * @return", 8, "VB_Sum: @throws has no text")
+
+    def test_unknown_tag(self):
+        self.broken("@return the sum", "@retrun the sum", 8, "@retrun is not known here")
+
+    def test_host_array_without_element(self):
+        self.functions(
+            "/**\n * Does it.\n * @param a [in] an array\n * @return 0\n */\nKORVEL_FLAT int VB_A(SAFEARRAY** a);\n"
+        )
+        self.expect(3, "VB_A: @param a must say 'host array of' one of Double, Long, Boolean, String")
+
+    def test_unreadable_line(self):
+        self.functions("typedef int number;\n" + SUM)
+        self.expect(1, "cannot read this line")
+
+    def test_conditional(self):
+        self.functions("#if defined(_WIN32)\n" + SUM + "#endif\n")
+        self.expect(1, "cannot read this line")
+
+    def test_character_outside_ascii(self):
+        self.broken("Adds upwards", "\u03a3", 2, "a character outside ASCII")
+
+    def test_no_file_comment(self):
+        self.write("src/frames/sample.h", SUM)
+        self.expect(1 - FIRST_LINE + 1, "no @file comment that says what the header is about")
+
+    def test_header_that_the_umbrella_lacks(self):
+        self.functions(SUM)
+        self.write("src/frames/other.h", OPENING + SUM.replace("VB_Sum", "VB_Other") + "#endif\n")
+        message = "flat functions in a header that KORVELMathTools.h does not include"
+        self.expect(FIRST_LINE + 9, message, "src/frames/other.h")
+
+    def test_umbrella_includes_what_is_not_there(self):
+        self.functions(SUM)
+        self.write("src/frames/KORVELMathTools.h", UMBRELLA.replace("#endif", '#include "frames/none.h"\n#endif'))
+        self.expect(10, "frames/none.h is no header of src/frames", "src/frames/KORVELMathTools.h")
+
+    def test_umbrella_includes_twice(self):
+        self.functions(SUM)
+        self.write("src/frames/KORVELMathTools.h", UMBRELLA.replace("#endif", '#include "frames/sample.h"\n#endif'))
+        self.expect(10, "frames/sample.h is included twice", "src/frames/KORVELMathTools.h")
+
+    def test_duplicate_name(self):
+        self.functions(SUM + SUM)
+        lines = SUM.count("\n")
+        self.expect(lines + 10, f"VB_Sum is declared already at src/frames/sample.h:{FIRST_LINE + 9}")
+
+
+class Exports(Tree):
+    SOURCE = """\
+        #include <string>
+        #if defined(_WIN32)
+        #define FLAT extern "C" __declspec(dllexport)
+        #define CORE __declspec(dllexport)
+        typedef wchar_t character;
+        typedef unsigned long long count;
+        #else
+        #define FLAT extern "C"
+        #define CORE
+        typedef char16_t character;
+        typedef unsigned long count;
+        #endif
+        FLAT int VB_One(void);
+        int VB_One(void) { return 1; }
+        struct CORE Table {
+            explicit Table(count rows);
+            count rows;
+        };
+        Table::Table(count rows) : rows(rows) {}
+        CORE int V_Length(const Table*, character*, const std::basic_string<char16_t>&);
+        int V_Length(const Table*, character*, const std::basic_string<char16_t>&) { return 0; }
+        """
+    CORE = ["Table::Table(unsigned long)", "V_Length(Table const*, char16_t*, text const&)"]
+
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = Path(tempfile.mkdtemp())
+        cls.addClassCleanup(shutil.rmtree, cls.folder)
+        source = cls.folder / "library.cpp"
+        source.write_text(textwrap.dedent(cls.SOURCE), encoding="ascii")
+        cls.library = cls.folder / "library.bin"
+        command = [COMPILER, "-shared", "-fPIC", "-static-libgcc", "-o", str(cls.library), str(source)]
+        subprocess.run(command, check=True)
+
+    def lists(self, flat, core):
+        self.write("exports/flat.txt", "".join(f"{name}\n" for name in flat))
+        self.write("exports/core.txt", "".join(f"{name}\n" for name in core))
+
+    def differences(self):
+        code, errors = self.run_tool("check_exports", self.library)
+        found = [error for error in errors if error.startswith("exports/")]
+        self.assertEqual(code, 1 if errors else 0)
+        return found
+
+    def test_lists_that_fit(self):
+        self.lists(["VB_One"], self.CORE)
+        self.assertEqual(self.run_tool("check_exports", self.library), (0, []))
+
+    def test_missing_flat_function(self):
+        self.lists(["VB_One", "VB_Two"], self.CORE)
+        self.assertEqual(self.differences(), ["exports/flat.txt: listed, not exported: VB_Two"])
+
+    def test_flat_function_too_many(self):
+        self.lists([], self.CORE)
+        self.assertEqual(self.differences(), ["exports/flat.txt: exported, not listed: VB_One"])
+
+    def test_missing_core_routine(self):
+        self.lists(["VB_One"], [*self.CORE, "V_Sum(int)"])
+        self.assertEqual(self.differences(), ["exports/core.txt: listed, not exported: V_Sum(int)"])
+
+    def test_core_routine_too_many(self):
+        self.lists(["VB_One"], self.CORE[:1])
+        self.assertEqual(self.differences(), [f"exports/core.txt: exported, not listed: {self.CORE[1]}"])
+
+    def test_windows_library_that_needs_more_than_the_system(self):
+        self.lists(["VB_One"], self.CORE)
+        symbols = load("check_exports").symbols
+        needed = ["KERNEL32.dll", "api-ms-win-crt-math-l1-1-0.dll", "libstdc++-6.dll"]
+        exported = ({"VB_One"}, set(self.CORE))
+        with mock.patch.multiple(symbols, exports=lambda _: exported, is_windows=lambda _: True,
+                                 imported_libraries=lambda _: needed):
+            self.assertEqual(
+                self.run_tool("check_exports", self.library),
+                (1, ["needs a library that is not the system's: libstdc++-6.dll"]),
+            )
+
+    def test_generate_reads_the_core_list_from_the_release_build(self):
+        self.functions(SUM)
+        library = self.root / "build" / "release" / "src" / "libKORVELMathTools.so"
+        code, errors = self.run_tool("generate", "--core")
+        self.assertEqual((code, errors), (1, [f"{library} is not there: build the release preset first"]))
+        library.parent.mkdir(parents=True)
+        shutil.copy(self.library, library)
+        self.assertEqual(self.run_tool("generate", "--core"), (0, []))
+        self.assertEqual(self.read("exports/core.txt").splitlines(), self.CORE)
+
+    def test_update(self):
+        self.lists(["VB_One"], [])
+        self.assertEqual(self.run_tool("check_exports", "--update", self.library), (0, []))
+        self.assertEqual(self.read("exports/core.txt").splitlines(), self.CORE)
+
+
+class Includes(Tree):
+    def expect(self, *lines):
+        code, errors = self.run_tool("check_includes")
+        self.assertEqual(errors, list(lines))
+        self.assertEqual(code, 1 if lines else 0)
+
+    def include(self, name, *targets):
+        self.write(f"src/{name}", "".join(f'#include "{target}"\n' for target in targets))
+
+    def setUp(self):
+        super().setUp()
+        self.write("src/frames/KORVELMathTools.h", "")
+        for name in ("platform/a", "containers/a", "tables/a", "statistics/a", "linalg/a", "fitting/a", "frames/a"):
+            self.write(f"src/{name}.h", "")
+            self.include(f"{name}.cpp", f"{name}.h")
+
+    def test_downward_includes(self):
+        self.include("frames/a.h", "fitting/a.h", "containers/a.h")
+        self.include("linalg/a.h", "statistics/a.h", "tables/a.h")
+        self.write("src/platform/a.cpp", '#include "platform/a.h"\n#include <vector>\n')
+        self.expect()
+
+    def test_upward_include(self):
+        self.include("containers/a.cpp", "containers/a.h", "tables/a.h")
+        self.expect("src/containers/a.cpp:2: containers/a must not include tables/a.h, which stands higher")
+
+    def test_frames_from_the_core(self):
+        self.include("fitting/a.h", "frames/a.h")
+        self.expect("src/fitting/a.h:1: fitting/a must not include frames/a.h, which stands higher")
+
+    def test_topic_that_stands_lower_than_its_folder(self):
+        self.write("src/statistics/vector_sums.h", "")
+        self.include("tables/a.h", "statistics/vector_sums.h")
+        self.expect()
+        self.include("statistics/vector_sums.h", "tables/a.h")
+        self.include("tables/a.h")
+        self.expect("src/statistics/vector_sums.h:1: statistics/vector_sums must not include tables/a.h, "
+                    "which stands higher")
+
+    def test_circle_between_folders_through_sources(self):
+        self.include("statistics/a.cpp", "statistics/a.h", "linalg/a.h")
+        self.include("linalg/a.cpp", "linalg/a.h", "statistics/a.h")
+        self.expect(
+            "a circle of includes: linalg/a -> statistics/a -> linalg/a",
+            "a circle of includes: statistics/a -> linalg/a -> statistics/a",
+        )
+
+    def test_circle_of_headers(self):
+        self.include("tables/a.h", "tables/b.h")
+        self.include("tables/b.h", "tables/a.h")
+        self.expect(
+            "a circle of includes: tables/a.h -> tables/b.h -> tables/a.h",
+            "a circle of includes: tables/b.h -> tables/a.h -> tables/b.h",
+        )
+
+    def test_own_header_comes_first(self):
+        self.write("src/linalg/a.cpp", '#include <vector>\n#include "linalg/a.h"\n')
+        self.expect("src/linalg/a.cpp:1: linalg/a.cpp must include its own header first")
+
+    def test_unknown_folder(self):
+        self.include("extras/a.h", "tables/a.h")
+        self.expect("src/extras/a.h:1: extras/a stands in a folder that has no layer")
+
+    def test_include_of_nothing(self):
+        self.include("tables/a.h", "tables/none.h")
+        self.expect('src/tables/a.h:1: "tables/none.h" is no file below src')
+
+
+if __name__ == "__main__":
+    unittest.main()
