@@ -4,7 +4,6 @@
 #include <boost/numeric/conversion/cast.hpp>
 #include <cstring>
 #include <limits>
-#include <vector>
 
 namespace korvel
 {
@@ -62,12 +61,15 @@ bool resizeHostArray(SAFEARRAY& array, std::span<const int> counts, bool clear)
         return false;
     }
 
-    std::vector<ULONG> newCounts(counts.begin(), counts.end());
-    std::fill(std::find(newCounts.begin(), newCounts.end(), ULONG{0}), newCounts.end(), ULONG{0});
+    const auto firstZero =
+        static_cast<std::size_t>(std::find(counts.begin(), counts.end(), 0) - counts.begin());
+    const auto newCount = [&](std::size_t dimension) {
+        return dimension < firstZero ? static_cast<ULONG>(counts[dimension]) : ULONG{0};
+    };
     const std::uint64_t oldLength = hostArrayLength(array);
     std::uint64_t newLength = 1;
-    for (const ULONG count : newCounts) {
-        newLength = product(newLength, count);
+    for (std::size_t dimension = 0; dimension < counts.size(); ++dimension) {
+        newLength = product(newLength, newCount(dimension));
     }
 
     if ((array.fFeatures & FADF_BSTR) != 0 && array.pvData != nullptr) {
@@ -87,8 +89,8 @@ bool resizeHostArray(SAFEARRAY& array, std::span<const int> counts, bool clear)
     } else if (clear && array.pvData != nullptr) {
         std::memset(array.pvData, 0, bytes);
     }
-    for (std::size_t dimension = 0; dimension < newCounts.size(); ++dimension) {
-        boundFromLeft(array, dimension).cElements = newCounts[dimension];
+    for (std::size_t dimension = 0; dimension < counts.size(); ++dimension) {
+        boundFromLeft(array, dimension).cElements = newCount(dimension);
     }
     return true;
 }

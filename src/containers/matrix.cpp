@@ -6,7 +6,7 @@
 #include <span>
 
 template <class T>
-matrix<T>::matrix(SAFEARRAY* sa)
+matrix<T>::matrix(SAFEARRAY* sa) : matrix()
 {
     if (sa == nullptr) {
         return;

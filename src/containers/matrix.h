@@ -71,41 +71,44 @@ public:
     /** No rows, no columns, no block. */
     matrix() = default;
 
+    // A constructor that may fail half-way hands over to the one above first, so that the destructor frees
+    // what there is by then.
+
     /** An owned table with every element `value`. Like all owned tables it has at least one column. */
-    matrix(int rows, int cols, const T& value)
+    matrix(int rows, int cols, const T& value) : matrix()
     {
         allocate(rows, cols, false);
         std::fill_n(data, nbElem, value);
     }
 
     /** An owned table, zero-filled when `noInit` is 0 and left as allocated otherwise. */
-    matrix(int rows, int cols, int noInit) requires std::same_as<T, double>
+    matrix(int rows, int cols, int noInit) requires std::same_as<T, double> : matrix()
     {
         allocate(rows, cols, noInit == 0);
     }
 
     /** An owned table of zeros. */
-    matrix(int rows, int cols) requires(std::same_as<T, int> || std::same_as<T, short int>)
+    matrix(int rows, int cols) requires(std::same_as<T, int> || std::same_as<T, short int>) : matrix()
     {
         allocate(rows, cols, true);
     }
 
     /**
-     * With `borrow` true, a view of the `rows` by `cols` elements at `ptr`, both counts taken as they are;
-     * otherwise an owned copy of them.
+     * With `borrow` true, a view of the `rows` by `cols` elements at `ptr`, both counts taken as they are,
+     * also a column count of 0; otherwise an owned copy of `rows` by `cols` elements, of at least one column.
      */
-    matrix(int rows, int cols, T* ptr, bool borrow) requires korvel::numeric_element<T>
+    matrix(int rows, int cols, T* ptr, bool borrow) requires korvel::numeric_element<T> : matrix()
     {
         if (borrow) {
             view(rows, cols, ptr);
         } else {
             allocate(rows, cols, false);
-            std::copy_n(ptr, korvel::elementCount(rows, cols), data);
+            std::copy_n(ptr, nbElem, data);
         }
     }
 
     /** A view of an existing block of texts. */
-    matrix(int rows, int cols, T* ptr) requires korvel::is_text<T> { view(rows, cols, ptr); }
+    matrix(int rows, int cols, T* ptr) requires korvel::is_text<T> : matrix() { view(rows, cols, ptr); }
 
     /**
      * Numbers: attached to the array's own block without a copy, in the array's shape. Texts: an owned copy,
@@ -126,7 +129,7 @@ public:
 
     /** An owned table of `rows` rows that takes the first `rows * src.nbcols` elements of `src` in linear
      * order; what `src` does not have is 0. */
-    matrix(int rows, const matrix<double>& src) requires std::same_as<T, double>
+    matrix(int rows, const matrix<double>& src) requires std::same_as<T, double> : matrix()
     {
         allocate(rows, src.nbcols, true);
         std::copy_n(src.data, std::min(nbElem, src.nbElem), data);
@@ -134,11 +137,11 @@ public:
 
     /** A deep copy in a block of its own, attached to nothing, with the initial `oobValue`. What `src` has no
      * block for is 0. */
-    matrix(const matrix& src)
+    matrix(const matrix& src) : matrix()
     {
         allocate(src.nbrows, src.nbcols, src.nbcols < 1 || src.data == nullptr);
         if (src.data != nullptr) {
-            std::copy_n(src.data, src.nbElem, data);
+            std::copy_n(src.data, std::min(nbElem, src.nbElem), data);
         }
     }
 

@@ -19,7 +19,7 @@ void readTexts(matrix<text>& target, const BSTR* source, std::uint64_t count)
 } // namespace
 
 template <class T>
-matrix<T>::matrix(int rows, int cols, SAFEARRAY* sa) requires korvel::is_text<T>
+matrix<T>::matrix(int rows, int cols, SAFEARRAY* sa) requires korvel::is_text<T> : matrix()
 {
     allocate(rows, cols, false);
     if (sa != nullptr && sa->pvData != nullptr) {
@@ -30,6 +30,7 @@ matrix<T>::matrix(int rows, int cols, SAFEARRAY* sa) requires korvel::is_text<T>
 
 template <class T>
 matrix<T>::matrix(int rows, int cols, OLECHAR** bstrs, int srcRows, int srcCols) requires korvel::is_text<T>
+    : matrix()
 {
     allocate(rows, cols, false);
     readTexts(*this, bstrs,

@@ -54,7 +54,7 @@ template <class T>
 }
 
 /** Copies all elements of a result over the caller's array, which must have room for them. */
-template <class T>
+template <numeric_element T>
 void copyOut(const matrix<T>& result, T* array)
 {
     if (result.nbElem != 0) {

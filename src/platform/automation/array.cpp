@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <new>
+#include <limits>
 
 using korvel::automation::theLedger;
 
@@ -84,7 +84,8 @@ static_assert(sizeof(VARIANT) == 24 && offsetof(VARIANT, dblVal) == 8);
 
 extern "C" void* CoTaskMemAlloc(size_t bytes)
 {
-    if (!theLedger().permits()) {
+    constexpr auto largest = static_cast<size_t>(std::numeric_limits<std::ptrdiff_t>::max());
+    if (bytes > largest || !theLedger().permits()) {
         return nullptr;
     }
     // A request for nothing still gets a block of its own, as on Windows.

@@ -1,0 +1,172 @@
+#include "frames/frame.h"
+
+#include "containers/element_types.h"
+#include "support/automation_watch.h"
+#include "support/host_arrays.h"
+
+#include <boost/numeric/conversion/cast.hpp>
+#include <type_traits>
+
+using namespace korvel;
+using namespace korvel::test;
+
+namespace
+{
+
+template <class T>
+class NumericFrame : public ::testing::Test
+{
+};
+TYPED_TEST_SUITE(NumericFrame, numeric_elements);
+
+const place null = std::nullopt;
+
+} // namespace
+
+TEST(Frame, NoColumnsStandForOne)
+{
+    EXPECT_EQ(frame::columns(0), 1);
+    EXPECT_EQ(frame::columns(1), 1);
+    EXPECT_EQ(frame::columns(7), 7);
+    EXPECT_EQ(frame::columns(-1), -1);
+}
+
+TYPED_TEST(NumericFrame, BorrowReachesTheCallersArray)
+{
+    auto values = elements<TypeParam>(6);
+    {
+        auto vector = frame::borrow(values.data(), 6);
+        expectShape(vector, 6, 1, 6);
+        EXPECT_EQ(vector.data, values.data());
+        EXPECT_FALSE(vector.bOwner);
+        EXPECT_EQ(vector.capacity, 6u);
+        EXPECT_EQ(vector.safeArray, nullptr);
+        auto table = frame::borrow(values.data(), 2, 3);
+        expectShape(table, 2, 3, 6);
+        table.setElement(1, 2, element<TypeParam>(9));
+    }
+    EXPECT_EQ(values[5], element<TypeParam>(9));
+}
+
+TYPED_TEST(NumericFrame, BorrowTakesANullPointerWithItsCount)
+{
+    const auto none = frame::borrow(static_cast<TypeParam*>(nullptr), 3);
+    expectShape(none, 3, 1, 3);
+    EXPECT_EQ(none.data, nullptr);
+}
+
+TYPED_TEST(NumericFrame, CopyInLeavesTheCallersArray)
+{
+    auto values = elements<TypeParam>(6);
+    auto copy = frame::copyIn(values.data(), 3, 2);
+    expectShape(copy, 3, 2, 6);
+    EXPECT_TRUE(copy.bOwner);
+    copy.setElement(0, 0, element<TypeParam>(9));
+    auto onHeap = frame::copyToHeap(values.data(), 2, 2);
+    expectShape(*onHeap, 2, 2, 4);
+    EXPECT_TRUE(onHeap->bOwner);
+    onHeap->setElement(0, 0, element<TypeParam>(9));
+    EXPECT_EQ(values, elements<TypeParam>(6));
+    EXPECT_EQ(onHeap->data[3], element<TypeParam>(4));
+}
+
+TYPED_TEST(NumericFrame, CopyOutWritesTheResultAndNothingElse)
+{
+    std::vector<TypeParam> out(6, element<TypeParam>(9));
+    frame::copyOut(numbered<TypeParam>(2, 2), out.data() + 1);
+    EXPECT_EQ(out.front(), element<TypeParam>(9));
+    EXPECT_EQ(std::vector<TypeParam>(out.begin() + 1, out.begin() + 5), elements<TypeParam>(4));
+    EXPECT_EQ(out.back(), element<TypeParam>(9));
+    frame::copyOut(matrix<TypeParam>(), static_cast<TypeParam*>(nullptr));
+}
+
+TYPED_TEST(NumericFrame, CopyOutMayWriteOverItsOwnSource)
+{
+    auto values = elements<TypeParam>(5);
+    frame::copyOut(frame::borrow(values.data(), 4), values.data() + 1);
+    EXPECT_EQ(values,
+              (std::vector<TypeParam>{element<TypeParam>(1), element<TypeParam>(1), element<TypeParam>(2),
+                                      element<TypeParam>(3), element<TypeParam>(4)}));
+}
+
+TYPED_TEST(NumericFrame, AttachIsTheHostArrayInItsShape)
+{
+    const automation_watch watch;
+    {
+        host_array array({2, 3}, elements<TypeParam>(6));
+        {
+            auto m = frame::attach<TypeParam>(array.address());
+            expectShape(m, 2, 3, 6);
+            EXPECT_EQ(m.data, array->pvData);
+            m.Redim(4, 4, element<TypeParam>(5));
+        }
+        EXPECT_EQ(array.template numbers<TypeParam>(16), std::vector<TypeParam>(16, element<TypeParam>(5)));
+        EXPECT_TRUE(watch.arrays(1, 0));
+
+        SAFEARRAY* none = nullptr;
+        expectShape(frame::attach<TypeParam>(&none), 0, 0, 0);
+
+        array.count(0) = 0x80000000;
+        EXPECT_THROW((void)frame::attach<TypeParam>(array.address()), boost::numeric::positive_overflow);
+        array.count(0) = 4;
+    }
+    EXPECT_TRUE(watch.nothingAlive());
+}
+
+TEST(Frame, BlankIsZeroOrEmpty)
+{
+    const auto zeros = frame::blank<double>(2, 3);
+    expectShape(zeros, 2, 3, 6);
+    EXPECT_TRUE(zeros.bOwner);
+    EXPECT_EQ(linear(zeros), std::vector<double>(6, 0.0));
+    EXPECT_EQ(linear(frame::blank<int>(3)), std::vector<int>(3, 0));
+    EXPECT_EQ(linear(frame::blank<text>(2, 2)), std::vector<text>(4));
+    expectShape(frame::blank<double>(2, 0), 2, 1, 2);
+}
+
+TEST(Frame, TextsComeInAndOnlyWhatChangedGoesOut)
+{
+    const automation_watch watch;
+    {
+        bstr_block block{u"a", null, u"c", null};
+        const BSTR first = block[0];
+        {
+            auto texts = frame::readTexts(block.data(), 2, 2);
+            expectShape(texts, 2, 2, 4);
+            EXPECT_EQ(linear(texts), (std::vector<text>{u"a", u"", u"c", u""}));
+            texts.setElement(0, 1, u"changed");
+            texts.setElement(1, 1, u"filled");
+            frame::writeTexts(texts, block.data());
+        }
+        EXPECT_EQ(block[0], first);
+        EXPECT_EQ(block.values(), (std::vector<place>{u"a", null, u"changed", u"filled"}));
+        EXPECT_TRUE(watch.texts(4, 1));
+    }
+    EXPECT_TRUE(watch.nothingAlive());
+}
+
+TEST(Frame, TextsThatAreOnlyReadStay)
+{
+    const automation_watch watch;
+    {
+        bstr_block block{u"a", u"b"};
+        auto texts = frame::readTexts(block.data(), 2);
+        texts[0] = u"not written";
+        EXPECT_TRUE(watch.texts(2, 0));
+    }
+    EXPECT_TRUE(watch.nothingAlive());
+}
+
+TEST(Frame, AttachedTextsReturnOnDestruction)
+{
+    host_array array(VT_BSTR, {2}, {u"a", null});
+    frame::attach<text>(array.address())[0] = u"changed";
+    EXPECT_EQ(array.texts(2), (std::vector<place>{u"changed", u""}));
+}
+
+TEST(Frame, NoFlagsAreZeros)
+{
+    EXPECT_EQ(frame::noFlags(3), (std::vector<short int>{0, 0, 0}));
+    EXPECT_TRUE(frame::noFlags(0).empty());
+    EXPECT_TRUE(frame::noFlags(-2).empty());
+}
