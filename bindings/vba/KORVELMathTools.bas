@@ -24,51 +24,6 @@ Option Explicit
 
 Public Const KORVEL_NULL As LongPtr = 0
 
-' ---- apply_order.h
-
-' Takes the rows of a table of numbers in a given order: row i of the result is row order[i] of the
-' table.
-Public Declare PtrSafe Function VB_SortApply Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef order As Double, _
-    ByRef out As Double) As Long
-
-' Takes the rows of a table of integers in a given order: row i of the result is row order[i] of the
-' table.
-Public Declare PtrSafe Function VB_SortApplyLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByRef order As Double, _
-    ByRef out As Long) As Long
-
-' Takes the rows of a table of texts in a given order: row i of the result is row order[i] of the
-' table.
-Public Declare PtrSafe Function VB_SortApplyStr Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef order As Double, _
-    ByVal out As LongPtr) As Long
-
-' Puts the rows of a table of numbers into a given order, in place: row i becomes what row order[i]
-' was.
-Public Declare PtrSafe Function VB_SortApply2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
-
-' Puts the rows of a table of integers into a given order, in place: row i becomes what row order[i]
-' was.
-Public Declare PtrSafe Function VB_SortApply2Lng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
-
-' Puts the rows of a table of texts into a given order, in place: row i becomes what row order[i]
-' was.
-Public Declare PtrSafe Function VB_SortApply2Str Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
-
-' Puts the rows of a table of flags into a given order, in place: row i becomes what row order[i]
-' was.
-Public Declare PtrSafe Function Cpp_SortApply2Bool Lib "KORVELMathTools.dll" ( _
-    ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
-
-' Puts the rows of a record of labelled columns of numbers into a given order, in place: row i
-' becomes what row order[i] was.
-Public Declare PtrSafe Function Cpp_SortApply2_ST Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
-
 ' ---- containers.h
 
 ' Tells whether a number is missing: whether it is at or below the sentinel -1.79769313486231e308.
@@ -219,9 +174,88 @@ Public Declare PtrSafe Function Cpp_SortQVector2Str Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function VB_V_IsSorted Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal bStrict As Integer) As Integer
 
+' ---- vector_means.h
+
+' Weighted mean: the sum of w[i] * x[i] over the sum of w[i].
+Public Declare PtrSafe Function VB_V_Mean Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double) As Double
+
+' Weighted mean of absolute values.
+Public Declare PtrSafe Function VB_V_MeanAbs Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double) As Double
+
+' Mean of the elements that are not missing.
+Public Declare PtrSafe Function VB_V_Mean2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' Weighted mean of the elements that are not missing.
+Public Declare PtrSafe Function Cpp_V_MeanW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Double
+
+' Weighted harmonic mean: the sum of w[i] over the sum of w[i] / x[i].
+Public Declare PtrSafe Function Cpp_V_HarmonicMean Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double) As Double
+
+' Geometric mean and geometric standard deviation.
+Public Declare PtrSafe Function Cpp_V_GMeanGSD Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByRef gmean As Double, ByRef gsd As Double) As Long
+
 ' ---- vector_sums.h
 
 ' Weighted sum of a vector: the sum of w[i] * x[i] in ascending order. iMissing (Integer) may be
 ' null.
 Public Declare PtrSafe Function VB_V_Sum Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef iMissing As Any, ByRef w As Double) As Double
+
+' Sum of x[i] * w[i] over all elements: a missing value or weight multiplies through.
+Public Declare PtrSafe Function Cpp_V_SumW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Double
+
+' Sum of the elements that are not missing.
+Public Declare PtrSafe Function VB_V_Sum2Dbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' Sum of integers in 32-bit arithmetic that wraps around.
+Public Declare PtrSafe Function VB_V_Sum2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Double
+
+' Sum of the elements of a host array that are not missing.
+Public Declare PtrSafe Function Cpp_V_Sum2Dbl_ST Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Double, ByVal n As Long) As Double
+
+' Sum of the integers of a host array in 32-bit arithmetic that wraps around.
+Public Declare PtrSafe Function Cpp_V_Sum2Lng_ST Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Long, ByVal n As Long) As Double
+
+' Sum over a stretch of a vector, missing elements too.
+Public Declare PtrSafe Function VB_V_SumFromTo Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal from As Long, ByVal toValue As Long) As Double
+
+' Sum over a stretch of a vector of integers, in 32-bit arithmetic that wraps around.
+Public Declare PtrSafe Function VB_V_SumFromToLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByVal from As Long, ByVal toValue As Long) As Long
+
+' Sum of squares of the elements that are not missing.
+Public Declare PtrSafe Function VB_V_SumSq Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' Weighted sum of squares of the elements that are not missing: the sum of x[i] * w[i] * x[i].
+Public Declare PtrSafe Function VB_V_SumSqW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Double
+
+' Squared distance of two vectors, over all elements, missing ones too.
+Public Declare PtrSafe Function VB_V_DiffSq Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Double) As Double
+
+' Weighted squared distance of two vectors, over all elements, missing ones too.
+Public Declare PtrSafe Function VB_V_DiffSqW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Double, ByRef w As Double) As Double
+
+' Squared distance of the tails of two vectors, over all elements, missing ones too.
+Public Declare PtrSafe Function Cpp_V_DiffSqStart Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Double, ByVal start As Long) As Double
+
+' Running sum over all elements, missing ones too.
+Public Declare PtrSafe Function Cpp_V_CuSum Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long

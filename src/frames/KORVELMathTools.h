@@ -5,10 +5,10 @@
 #ifndef KORVELMATHTOOLS_H
 #define KORVELMATHTOOLS_H
 
-#include "frames/apply_order.h"
 #include "frames/containers.h"
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
+#include "frames/vector_means.h"
 #include "frames/vector_sums.h"
 
 #endif

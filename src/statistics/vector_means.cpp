@@ -1,0 +1,144 @@
+#include "statistics/vector_means.h"
+
+#include "containers/cells.h"
+#include "statistics/pairs.h"
+#include "statistics/running_variance.h"
+#include "statistics/stand_ins.h"
+
+#include <cmath>
+
+namespace
+{
+
+using korvel::absolute;
+using korvel::only;
+using korvel::pair;
+using korvel::pairAt;
+using korvel::present;
+using korvel::twice;
+using korvel::withCells;
+
+/** A sum of terms and the sum of their weights. */
+struct weighted_total {
+    double sum;
+    double sumW;
+
+    /** Their quotient, missing for a total weight of exactly 0. */
+    [[nodiscard]] double mean() const { return sumW == 0.0 ? MISSING_DBL : sum / sumW; }
+};
+
+/** The sums of `term(x, w)` and of `w` over the elements kept: two chains of additions, side by side in a
+ * pair. */
+template <class Values, class Flags, class Weights, class Term>
+weighted_total totalOf(Values x, int n, Flags flags, Weights w, Term term)
+{
+    pair total = _mm_setzero_pd();
+    int i = 0;
+    for (; i + 1 < n; i += 2) {
+        const pair kept = only(pairAt(flags, i), present(pairAt(x, i)));
+        const pair terms = only(kept, term(pairAt(x, i), pairAt(w, i)));
+        const pair weights = only(kept, pairAt(w, i));
+        total += _mm_unpacklo_pd(terms, weights);
+        total += _mm_unpackhi_pd(terms, weights);
+    }
+    if (i < n) {
+        const pair kept = only(twice(flags, i), present(twice(x, i)));
+        total += only(kept, _mm_unpacklo_pd(term(twice(x, i), twice(w, i)), twice(w, i)));
+    }
+    return {total[0], total[1]};
+}
+
+constexpr auto product = [](pair x, pair w) { return w * x; };
+
+} // namespace
+
+double V_Mean(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
+{
+    const auto total = [=](auto values, auto weights) {
+        return totalOf(values, n, iMissing, weights, product);
+    };
+    return withCells(n, total, *x, *w).mean();
+}
+
+double V_MeanAbs(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
+{
+    const auto total = [=](auto values, auto weights) {
+        return totalOf(values, n, iMissing, weights,
+                       [](pair value, pair weight) { return weight * absolute(value); });
+    };
+    return withCells(n, total, *x, *w).mean();
+}
+
+double V_Mean2(const matrix<double>& x, int n)
+{
+    const auto total = [n](auto values) {
+        return totalOf(values, n, korvel::no_flags{}, korvel::unit_weights{}, product);
+    };
+    return withCells(n, total, x).mean();
+}
+
+double V_Mean2(matrix<double>* x, int n)
+{
+    return V_Mean2(*x, n);
+}
+
+double V_MeanW2(matrix<double>* x, int n, matrix<double>* w)
+{
+    const auto total = [n](auto values, auto weights) {
+        return totalOf(values, n, korvel::no_flags{}, weights, product);
+    };
+    const weighted_total result = withCells(n, total, *x, *w);
+    return result.sumW > 0.0 ? result.sum / result.sumW : MISSING_DBL;
+}
+
+double V_HarmonicMean(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
+{
+    const auto mean = [=](auto values, auto weights) {
+        double sumW = 0.0;
+        double quotients = 0.0;
+        for (int i = 0; i < n; ++i) {
+            if (iMissing[i] != 0 || values[i] == MISSING_DBL) {
+                continue;
+            }
+            if (values[i] == 0.0) {
+                return MISSING_DBL;
+            }
+            sumW += weights[i];
+            quotients += weights[i] / values[i];
+        }
+        return quotients == 0.0 ? MISSING_DBL : sumW / quotients;
+    };
+    return withCells(n, mean, *x, *w);
+}
+
+int V_GMeanGSD(matrix<double>* x, int n, short int* iMissing, matrix<double>* w, double& gmean, double& gsd)
+{
+    gmean = MISSING_DBL;
+    gsd = MISSING_DBL;
+    const auto compute = [&](auto values, auto weights) {
+        korvel::running_weight total;
+        korvel::running_share_variance logarithms;
+        for (int i = 0; i < n; ++i) {
+            if (iMissing[i] != 0 || values[i] == MISSING_DBL) {
+                continue;
+            }
+            if (!(values[i] > 0.0)) {
+                return;
+            }
+            total.add(weights[i]);
+            if (weights[i] != 0.0) {
+                logarithms.add(std::log(values[i]), weights[i], weights[i] / total.sumW);
+            }
+        }
+        if (total.kept == 0) {
+            return;
+        }
+        gmean = std::exp(logarithms.mean);
+        const double denominator = total.sumW - total.meanWeight();
+        if (denominator != 0.0) {
+            gsd = std::exp(korvel::rootOrMissing(logarithms.m2 / denominator));
+        }
+    };
+    korvel::withCells(n, compute, *x, *w);
+    return 0;
+}
