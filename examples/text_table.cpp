@@ -96,4 +96,10 @@ std::string shown(int count)
     return std::to_string(count);
 }
 
+std::string shownName(const std::string& name)
+{
+    constexpr int widest = 24;
+    return displayText(name, widest);
+}
+
 } // namespace report

@@ -45,6 +45,9 @@ std::string shown(double number, int decimals);
 
 std::string shown(int count);
 
+/** The name of a column, cut to a width that leaves room for figures. */
+std::string shownName(const std::string& name);
+
 } // namespace report
 
 #endif
