@@ -24,6 +24,51 @@ Option Explicit
 
 Public Const KORVEL_NULL As LongPtr = 0
 
+' ---- apply_order.h
+
+' Takes the rows of a table of numbers in a given order: row i of the result is row order[i] of the
+' table.
+Public Declare PtrSafe Function VB_SortApply Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef order As Double, _
+    ByRef out As Double) As Long
+
+' Takes the rows of a table of integers in a given order: row i of the result is row order[i] of the
+' table.
+Public Declare PtrSafe Function VB_SortApplyLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByRef order As Double, _
+    ByRef out As Long) As Long
+
+' Takes the rows of a table of texts in a given order: row i of the result is row order[i] of the
+' table.
+Public Declare PtrSafe Function VB_SortApplyStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef order As Double, _
+    ByVal out As LongPtr) As Long
+
+' Puts the rows of a table of numbers into a given order, in place: row i becomes what row order[i]
+' was.
+Public Declare PtrSafe Function VB_SortApply2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
+
+' Puts the rows of a table of integers into a given order, in place: row i becomes what row order[i]
+' was.
+Public Declare PtrSafe Function VB_SortApply2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
+
+' Puts the rows of a table of texts into a given order, in place: row i becomes what row order[i]
+' was.
+Public Declare PtrSafe Function VB_SortApply2Str Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
+
+' Puts the rows of a table of flags into a given order, in place: row i becomes what row order[i]
+' was.
+Public Declare PtrSafe Function Cpp_SortApply2Bool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
+
+' Puts the rows of a record of labelled columns of numbers into a given order, in place: row i
+' becomes what row order[i] was.
+Public Declare PtrSafe Function Cpp_SortApply2_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
+
 ' ---- containers.h
 
 ' Tells whether a number is missing: whether it is at or below the sentinel -1.79769313486231e308.

@@ -5,6 +5,7 @@
 #ifndef KORVELMATHTOOLS_H
 #define KORVELMATHTOOLS_H
 
+#include "frames/apply_order.h"
 #include "frames/containers.h"
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
