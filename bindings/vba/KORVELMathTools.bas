@@ -246,6 +246,15 @@ Public Declare PtrSafe Function Cpp_V_GMeanGSD Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
     ByRef gmean As Double, ByRef gsd As Double) As Long
 
+' ---- vector_moments.h
+
+' Weighted mean, variance, skewness and kurtosis, with standard errors.
+Public Declare PtrSafe Function VB_V_MeanVarSkewPKurtP Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef mean As Double, ByRef var As Double, _
+    ByRef skewP As Double, ByRef kurtP As Double, ByRef skew As Double, ByRef kurt As Double, _
+    ByRef seSkew As Double, ByRef seKurt As Double, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
 ' ---- vector_sums.h
 
 ' Weighted sum of a vector: the sum of w[i] * x[i] in ascending order. iMissing (Integer) may be
@@ -304,3 +313,40 @@ Public Declare PtrSafe Function Cpp_V_DiffSqStart Lib "KORVELMathTools.dll" ( _
 ' Running sum over all elements, missing ones too.
 Public Declare PtrSafe Function Cpp_V_CuSum Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
+
+' ---- vector_variance.h
+
+' Weighted variance.
+Public Declare PtrSafe Function VB_V_Var Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Double
+
+' Variance of the elements that are not missing, all of weight 1: VB_V_Var with no flag set.
+Public Declare PtrSafe Function Cpp_V_Var2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Double
+
+' Weighted standard deviation: the square root of VB_V_Var.
+Public Declare PtrSafe Function VB_V_Stdev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Double
+
+' Weighted mean and variance.
+Public Declare PtrSafe Function VB_V_MeanVar Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef mean As Double, ByRef var As Double, _
+    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Weighted mean and variance of the elements that are not missing.
+Public Declare PtrSafe Function Cpp_V_MeanVarW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef mean As Double, _
+    ByRef var As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Weighted mean and standard deviation.
+Public Declare PtrSafe Function VB_V_MeanStdev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef mean As Double, ByRef sd As Double, _
+    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Mean and standard deviation of the elements greater than the missing number, all of weight 1; a
+' NaN is left out as well.
+Public Declare PtrSafe Function Cpp_V_MeanStdev2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bUnbiased As Integer, ByRef mean As Double, _
+    ByRef sd As Double) As Long

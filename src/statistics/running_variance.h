@@ -1,7 +1,7 @@
 /**
  * @file
- * The one-pass updates behind every weighted variance (D. H. D. West, Communications of the ACM 22, 1979).
- * They are equal on paper and round differently, so each routine keeps its own.
+ * The one-pass updates behind the variances: a running mean and a running sum of squares. They are equal on
+ * paper and round differently, so each routine keeps its own.
  */
 #ifndef KORVEL_STATISTICS_RUNNING_VARIANCE_H
 #define KORVEL_STATISTICS_RUNNING_VARIANCE_H
@@ -9,6 +9,7 @@
 #include "containers/missing.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace korvel
 {
@@ -40,7 +41,7 @@ struct running_weight {
     }
 };
 
-/** Mean and sum of squares, updated with a quotient made after the deviation. */
+/** The update of `V_Var`: the weighted deviation is divided by the total weight. */
 struct running_variance : running_weight {
     double mean = 0.0;
     double m2 = 0.0;
@@ -56,8 +57,24 @@ struct running_variance : running_weight {
     }
 };
 
-/** Mean and sum of squares, updated with the weight's share of the total, which is at hand before the mean.
- */
+/** The update of `V_MeanVar`: the step of the mean also enters the sum of squares. */
+struct running_step_variance : running_weight {
+    double mean = 0.0;
+    double m2 = 0.0;
+
+    void add(double x, double w)
+    {
+        running_weight::add(w);
+        if (w != 0.0) {
+            const double d = x - mean;
+            const double step = w * d / sumW;
+            mean += step;
+            m2 += (sumW - w) * step * d;
+        }
+    }
+};
+
+/** The update with the weight's share of the total, a quotient that does not wait for the mean. */
 struct running_share_variance {
     double mean = 0.0;
     double m2 = 0.0;
@@ -69,6 +86,49 @@ struct running_share_variance {
         m2 += d * d * w * (1.0 - share);
     }
 };
+
+/** The update of `V_MeanVarW2`, in which a total weight of 0 gives a share of 0. */
+struct running_guarded_share_variance : running_weight {
+    running_share_variance shares;
+
+    void add(double x, double w)
+    {
+        running_weight::add(w);
+        shares.add(x, w, sumW == 0.0 ? 0.0 : w / sumW);
+    }
+};
+
+/** The update without weights. */
+struct running_count_variance {
+    double count = 0.0;
+    double mean = 0.0;
+    double m2 = 0.0;
+
+    void add(double x)
+    {
+        count += 1.0;
+        const double d = x - mean;
+        mean += d / count;
+        m2 += d * d * (1.0 - 1.0 / count);
+    }
+};
+
+/**
+ * Adds the elements that are kept: flag 0 and value not missing.
+ * @param state has `add(x, w)`; it is a copy, so that it lives in registers
+ */
+template <class State, class Values, class Flags, class Weights>
+[[nodiscard]] State accumulate(Values x, int n, Flags flags, Weights w, State state = {})
+{
+    // A branch, not a mask: the update is a chain of more than ten cycles, behind which a wrong guess is
+    // hidden.
+    for (int i = 0; i < n; ++i) {
+        if (flags[i] == 0 && x[i] != MISSING_DBL) {
+            state.add(x[i], w[i]);
+        }
+    }
+    return state;
+}
 
 /** The square root; what a rounding error has made negative becomes missing. */
 [[nodiscard]] inline double rootOrMissing(double x)
