@@ -88,6 +88,155 @@ Public Declare PtrSafe Function ExtractBSTR Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Sub dprint Lib "KORVELMathTools.dll" ( _
     ByVal value As Double, ByVal label As String)
 
+' ---- distinct.h
+
+' The most frequent code of a vector of codes 0, 1, 2, ...; a number x is code trunc(x + 1) - 1.
+Public Declare PtrSafe Function VB_V_ModeCatDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' The label with the greatest sum of weights, the first in the order of code units of equals.
+' iMissing (Integer) may be null.
+Public Declare PtrSafe Function VB_V_Mode Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByRef iMissing As Any, ByRef w As Double, _
+    ByVal mode As LongPtr) As Long
+
+' The label with the greatest sum of weights, the first in the order of code units of equals.
+Public Declare PtrSafe Function Cpp_V_ModeW2 Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByRef w As Double, ByVal mode As LongPtr) As Long
+
+' Number of distinct values; neighbours in ascending order differ by more than
+' 2.220446049250313e-16.
+Public Declare PtrSafe Function VB_V_NbDistinct Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' Number of distinct integers.
+Public Declare PtrSafe Function VB_V_NbDistinctLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Long
+
+' Number of distinct texts, compared exactly.
+Public Declare PtrSafe Function Cpp_V_NbDistinctStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long) As Long
+
+' The distinct values in ascending order: each that exceeds the one before it by more than the
+' smaller of 2.220446049250313e-16 and the range of the data.
+Public Declare PtrSafe Function VB_V_ExtractDistinct Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef out As Double, ByRef nOut As Long) As Long
+
+' ---- quantiles.h
+
+' Quantile by linear interpolation between order statistics (type 7 of Hyndman and Fan).
+Public Declare PtrSafe Function VB_V_Quantile Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal q As Double) As Double
+
+' Weighted quantile: the first value whose cumulative weight exceeds q times the total, or the mean
+' of it and the one before where a cumulative weight hits that exactly.
+Public Declare PtrSafe Function VB_V_QuantileW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal q As Double) As Double
+
+' Weighted quantile of the elements of positive weight that are not missing.
+Public Declare PtrSafe Function Cpp_V_QuantileW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal q As Double) As Double
+
+' Plain quantile of the elements that are not missing and not flagged.
+Public Declare PtrSafe Function VB_V_QuantileM Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByVal q As Double) As Double
+
+' Weighted quantile of the elements that are not missing and not flagged.
+Public Declare PtrSafe Function VB_V_QuantileMW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal q As Double) As Double
+
+' Sorts a vector, ascending, and takes its quantiles at 0.05, 0.1, 0.2, 0.25, 0.3, 0.4, 0.5, 0.6,
+' 0.7, 0.75, 0.8, 0.9 and 0.95, at position (n - 1) p + 0.5 up to the median and (n - 1) p + 1 above
+' it, from 1.
+Public Declare PtrSafe Function Cpp_V_Quantiles13 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
+
+' Weighted mean of the absolute deviations from a centre.
+Public Declare PtrSafe Function Cpp_V_MeanAbsDev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
+    ByRef w As Double) As Double
+
+' Median of the absolute deviations from a centre; weighted unless the weights are constant.
+Public Declare PtrSafe Function Cpp_V_MedianAbsDev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
+    ByRef w As Double) As Double
+
+' Median of the absolute deviations from a centre, missing elements taking part as the smallest
+' numbers.
+Public Declare PtrSafe Function Cpp_V_MedianAbsDev2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef centre As Double) As Double
+
+' Moves the elements outside two quantiles onto them.
+Public Declare PtrSafe Function Cpp_V_Winsorize2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal qLow As Double, ByVal qHigh As Double) As Long
+
+' ---- ranks.h
+
+' Dense ranks: 1 for the smallest element, one more at each change of value.
+Public Declare PtrSafe Function VB_V_GetRanksDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
+
+' Dense ranks as integers: 1 for the smallest element, one more at each change of value.
+Public Declare PtrSafe Function VB_V_GetRanksLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef out As Long) As Long
+
+' Weighted mid-ranks: a weight acts as a count of repetitions; tied elements, closer than 1e-15,
+' share the mean of their ranks; a missing element has a missing rank.
+Public Declare PtrSafe Function VB_V_GetRanksTiesDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bRestore As Integer, ByRef w As Double, _
+    ByRef ranks As Double, ByRef nTies As Long, ByRef tieSizes As Double) As Long
+
+' Mid-ranks: tied elements, closer than 1e-15, share the mean of their ranks; a missing element has
+' a missing rank.
+Public Declare PtrSafe Function VB_V_GetRanksTiesDbl2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bRestore As Integer, ByRef ranks As Double, _
+    ByRef nTies As Long, ByRef tieSizes As Double) As Long
+
+' Ranks 1, 2, ...
+Public Declare PtrSafe Function VB_V_GetRanksTiesIntDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef ranks As Double, _
+    ByRef nTies As Long, ByRef tieSizes As Double) As Long
+
+' Position of a linear index in the strict upper triangle of a square table, read row by row.
+Public Declare PtrSafe Function VB_V_GetPositionInMatNNm1o2 Lib "KORVELMathTools.dll" ( _
+    ByVal k As Long, ByVal n As Long, ByRef row As Long, ByRef col As Long) As Long
+
+' Position of a linear index in a square table, read row by row.
+Public Declare PtrSafe Function VB_V_GetPositionInMatNN Lib "KORVELMathTools.dll" ( _
+    ByVal k As Long, ByVal n As Long, ByRef row As Long, ByRef col As Long) As Long
+
+' ---- reverse.h
+
+' A vector of numbers back to front.
+Public Declare PtrSafe Function VB_V_ReverseDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
+
+' A vector of flags back to front.
+Public Declare PtrSafe Function VB_V_ReverseBool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal n As Long, ByRef out As Integer) As Long
+
+' A vector of numbers back to front, in place.
+Public Declare PtrSafe Function Cpp_V_Reverse2Dbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' A vector of integers back to front, in place.
+Public Declare PtrSafe Function Cpp_V_Reverse2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Long
+
+' A vector of flags back to front, in place.
+Public Declare PtrSafe Function Cpp_V_Reverse2Bool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal n As Long) As Long
+
+' Strips spaces (U+0020) from the ends of texts.
+Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer, _
+    ByVal out As LongPtr) As Long
+
+' Strips spaces (U+0020) from the ends of texts, in place.
+Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
+
 ' ---- sort_table.h
 
 ' Orders the rows of a table of numbers by a key, on copies that then replace the caller's arrays.
@@ -245,6 +394,20 @@ Public Declare PtrSafe Function Cpp_V_HarmonicMean Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_V_GMeanGSD Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
     ByRef gmean As Double, ByRef gsd As Double) As Long
+' ---- survey_boxes.h
+
+' Weights of the highest and lowest distinct scores, cumulative over one, two and three levels.
+Public Declare PtrSafe Function Cpp_V_TopBottom3Box Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef top1 As Double, _
+    ByRef bottom1 As Double, ByRef top2 As Double, ByRef bottom2 As Double, ByRef top3 As Double, _
+    ByRef bottom3 As Double) As Long
+
+' The boxes of one group: only elements whose group value is within 1e-12 of groupValue add their
+' weight.
+Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef group As Double, _
+    ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
+    ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
 
 ' ---- vector_moments.h
 

@@ -7,10 +7,15 @@
 
 #include "frames/apply_order.h"
 #include "frames/containers.h"
+#include "frames/distinct.h"
+#include "frames/quantiles.h"
+#include "frames/ranks.h"
+#include "frames/reverse.h"
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
 #include "frames/vector_means.h"
 #include "frames/vector_moments.h"
+#include "frames/survey_boxes.h"
 #include "frames/vector_sums.h"
 #include "frames/vector_variance.h"
 

@@ -1,0 +1,59 @@
+#include "frames/reverse.h"
+
+#include "frames/frame.h"
+#include "ordering/reverse.h"
+#include "ordering/trim.h"
+
+using namespace korvel;
+
+int VB_V_ReverseDbl(double* x, int n, double* out)
+{
+    auto values = frame::borrow(x, n);
+    auto result = frame::borrow(out, n);
+    V_Reverse(&values, n, &result);
+    return 0;
+}
+
+int VB_V_ReverseBool(short int* x, int n, short int* out)
+{
+    V_ReverseBool(x, n, out);
+    return 0;
+}
+
+int Cpp_V_Reverse2Dbl(double* x, int n)
+{
+    auto values = frame::borrow(x, n);
+    V_Reverse2(&values, n);
+    return 0;
+}
+
+int Cpp_V_Reverse2Lng(int* x, int n)
+{
+    auto values = frame::borrow(x, n);
+    V_Reverse2(&values, n);
+    return 0;
+}
+
+int Cpp_V_Reverse2Bool(short int* x, int n)
+{
+    auto values = frame::borrow(x, n);
+    V_Reverse2(&values, n);
+    return 0;
+}
+
+int Cpp_V_Trim(OLECHAR** labels, int n, short int bLeft, short int bRight, OLECHAR** out)
+{
+    auto texts = frame::readTexts(labels, n);
+    auto result = frame::blank<text>(n);
+    const int status = V_Trim(&texts, n, bLeft, bRight, &result);
+    frame::writeTexts(result, out);
+    return status;
+}
+
+int Cpp_V_Trim2(OLECHAR** labels, int n, short int bLeft, short int bRight)
+{
+    auto texts = frame::readTexts(labels, n);
+    const int status = V_Trim2(&texts, n, bLeft, bRight);
+    frame::writeTexts(texts, labels);
+    return status;
+}
