@@ -37,33 +37,33 @@ void serialSort(std::span<key_pair<Key>> pairs, Before before)
     }
 }
 
-/** Calls `sort` with the comparison of the direction. */
-template <class Key, class Sort>
-void withDirection(bool descending, Sort sort)
-{
-    if (descending) {
-        sort([](const key_pair<Key>& a, const key_pair<Key>& b) { return *a.key > *b.key; });
-    } else {
-        sort([](const key_pair<Key>& a, const key_pair<Key>& b) { return *a.key < *b.key; });
+/** The comparison of a direction. The direction is looked up at each call: two sorts would be twice the code.
+ */
+template <class Key>
+struct key_before {
+    bool descending;
+
+    bool operator()(const key_pair<Key>& a, const key_pair<Key>& b) const
+    {
+        return descending ? *a.key > *b.key : *a.key < *b.key;
     }
-}
+};
 
 } // namespace
 
 void comparisonSort(std::span<key_pair<double>> pairs, bool descending)
 {
-    withDirection<double>(descending, [&](auto before) { serialSort(pairs, before); });
+    serialSort(pairs, key_before<double>{descending});
 }
 
 void comparisonSort(std::span<key_pair<text>> pairs, bool descending)
 {
-    withDirection<text>(descending, [&](auto before) {
-        if (pairs.size() < parallelTextsFrom || omp_get_max_threads() == 1) {
-            serialSort(pairs, before);
-        } else {
-            __gnu_parallel::stable_sort(pairs.begin(), pairs.end(), before);
-        }
-    });
+    const key_before<text> before{descending};
+    if (pairs.size() < parallelTextsFrom || omp_get_max_threads() == 1) {
+        serialSort(pairs, before);
+    } else {
+        __gnu_parallel::stable_sort(pairs.begin(), pairs.end(), before);
+    }
 }
 
 void imageSort(std::span<image_pair> pairs)
