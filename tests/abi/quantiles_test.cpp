@@ -1,0 +1,198 @@
+#include "frames/KORVELMathTools.h"
+#include "support/bits.h"
+#include "support/guarded.h"
+
+#include <cmath>
+#include <vector>
+
+using korvel::test::guarded;
+using korvel::test::sameBits;
+using korvel::test::valuesOf;
+
+namespace
+{
+
+constexpr double missing = -1.79769313486231e308;
+
+using doubles = std::vector<double>;
+
+const guarded<double> sample{3.7, -1.25, 8, 0.5, 3.7, 12.125, -4, 0.5, 0.5, 7.75, 2.2};
+
+} // namespace
+
+TEST(FlatQuantiles, AgreeWithTypeSevenOfR)
+{
+    // R 4.2.2: quantile(x, q, type = 7), printed with 17 digits.
+    const struct {
+        double q;
+        double quantile;
+    } reference[] = {{0, -4},    {0.05, -2.625}, {0.1, -1.25},  {0.25, 0.5}, {1.0 / 3.0, 0.5},
+                     {0.5, 2.2}, {0.62, 3.7},    {0.75, 5.725}, {0.9, 8},    {1, 12.125}};
+    guarded<double> x = sample;
+    for (const auto& [q, quantile] : reference) {
+        EXPECT_NEAR(VB_V_Quantile(x.data(), 11, q), quantile, 4e-16 * std::fabs(quantile)) << q;
+    }
+    EXPECT_NEAR(VB_V_Quantile(x.data(), 11, 0.99), 11.7125, 4e-15);
+    EXPECT_EQ(valuesOf(x), sample.values());
+}
+
+TEST(FlatQuantiles, ShortcutsGiveElementsExactly)
+{
+    guarded<double> x{1, 2, 3, 4};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 0.5), 2.5));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 0.25), 1.75));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 0.0), 1.0));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 1.0), 4.0));
+    guarded<double> ties{1, 2, 2, 4};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(ties.data(), 4, 0.5), 2.0));
+    // Two neighbours of 0.1 would interpolate to another double at this position.
+    guarded<double> tenths{0.1, 0.1, 0.3};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(tenths.data(), 3, 0.15), 0.1));
+    // 0.7 * 90 is just below 63; the element at the integer part counts.
+    std::vector<double> many(91);
+    for (int i = 0; i < 91; ++i) {
+        many[static_cast<std::size_t>(i)] = i;
+    }
+    ASSERT_LT(90 * 0.7, 63.0);
+    EXPECT_TRUE(sameBits(VB_V_Quantile(many.data(), 91, 0.7), 62.0));
+}
+
+TEST(FlatQuantiles, MissingTakesPartAsTheSmallestNumber)
+{
+    guarded<double> x{2, missing, 1};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 0.0), missing));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 0.5), 1.0));
+}
+
+TEST(FlatQuantiles, OfNothingAreMissing)
+{
+    guarded<double> x{missing};
+    guarded<double> w{1};
+    guarded<short int> flags{0};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 0, 0.5), missing));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 0, w.data(), 0.5), missing));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 1, w.data(), 0.5), missing));
+    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 1, w.data(), 0.5), missing));
+    EXPECT_TRUE(sameBits(VB_V_QuantileM(x.data(), 1, flags.data(), 0.5), missing));
+    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 1, flags.data(), w.data(), 0.5), missing));
+}
+
+TEST(FlatQuantiles, APositionOutsideTheDataReadsTheSpareSlot)
+{
+    guarded<double> x{5, 6, 7};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 2.0), -1.0));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, -0.25), 0.5 * -1.0 + 0.5 * 5.0));
+}
+
+TEST(FlatQuantiles, WeightedTakesTheFirstValueBeyondItsShare)
+{
+    guarded<double> x{3, 1, 2};
+    guarded<double> w{2, 1, 1};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5), 2.5));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.4), 2.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.0), 1.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 1.0), 3.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.9), 3.0));
+}
+
+TEST(FlatQuantiles, ConstantWeightsGiveThePlainQuantile)
+{
+    guarded<double> x{1, 2, 3, 4};
+    guarded<double> w{0.3, 0.3, missing, 0.3};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.25), 1.75));
+    guarded<double> zeros{0, 0, 0, 0};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, zeros.data(), 0.25), missing));
+}
+
+TEST(FlatQuantiles, OnlyTheSecondWeightedFormDropsWhatDoesNotCount)
+{
+    guarded<double> x{missing, 1, 2, 3};
+    guarded<double> w{1, 1, 1, 0};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.0), missing));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 1.0), 3.0));
+    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 0.0), 1.0));
+    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 1.0), 2.0));
+    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 0.5), 1.5));
+}
+
+TEST(FlatQuantiles, MaskedLeaveOutFlaggedAndMissing)
+{
+    guarded<double> x{9, missing, 1, 3};
+    guarded<short int> flags{7, 0, 0, 0};
+    guarded<double> w{5, 5, 1, 1};
+    EXPECT_TRUE(sameBits(VB_V_QuantileM(x.data(), 4, flags.data(), 0.5), 2.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 4, flags.data(), w.data(), 0.5), 2.0));
+    guarded<double> uneven{5, 5, 1, 3};
+    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 4, flags.data(), uneven.data(), 0.5), 3.0));
+}
+
+TEST(FlatQuantiles, ThirteenSortTheirDataAndShiftTheirPosition)
+{
+    guarded<double> x{5, 3, 1, 2, 4};
+    guarded<double> out{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    EXPECT_EQ(Cpp_V_Quantiles13(x.data(), 5, out.data()), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{1, 2, 3, 4, 5}));
+    // Positions 0.7, 0.9, 1.3, 1.5, 1.7, 2.1 and 2.5 up to the median; 3.4, 3.8, 4, 4.2, 4.6 and 4.8 above
+    // it.
+    const doubles expected{1, 1, 1.3, 1.5, 1.7, 2.1, 2.5, 3.4, 3.8, 4, 4.2, 4.6, 4.8};
+    const doubles quantiles = valuesOf(out);
+    for (std::size_t k = 0; k < expected.size(); ++k) {
+        EXPECT_NEAR(quantiles[k], expected[k], 1e-15 * expected[k]) << k;
+    }
+    Cpp_V_Quantiles13(x.data(), 0, out.data());
+    EXPECT_EQ(valuesOf(out), doubles(13, missing));
+}
+
+TEST(FlatDeviations, MeanAbsolute)
+{
+    guarded<double> x{1, 3, missing, 8};
+    guarded<short int> flags{0, 0, 0, -1};
+    guarded<double> w{1, 3, 5, 7};
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), w.data()), 1.0));
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 1.0, flags.data(), w.data()), 1.5));
+    guarded<double> zeros{0, 0, 0, 0};
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), zeros.data()), missing));
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 0, 2.0, flags.data(), w.data()), missing));
+    // R 4.2.2: mean(abs(x - mean(x)))
+    guarded<double> y = sample;
+    guarded<short int> none{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    guarded<double> ones{1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};
+    const double mean = (3.7 - 1.25 + 8 + 0.5 + 3.7 + 12.125 - 4 + 0.5 + 0.5 + 7.75 + 2.2) / 11;
+    EXPECT_NEAR(Cpp_V_MeanAbsDev(y.data(), 11, mean, none.data(), ones.data()), 3.6264462809917357, 2e-15);
+    // R 4.2.2: mad(x, constant = 1)
+    EXPECT_NEAR(Cpp_V_MedianAbsDev(y.data(), 11, 2.2, none.data(), ones.data()), 1.7, 4e-16);
+}
+
+TEST(FlatDeviations, MedianAbsoluteIsWeightedUnlessTheWeightsAreConstant)
+{
+    guarded<double> x{1, 2, 4, 8};
+    guarded<short int> flags{0, 0, 0, 0};
+    guarded<double> constant{2, 2, 2, 2};
+    guarded<double> uneven{1, 1, 1, 7};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), constant.data()), 3.0));
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), uneven.data()), 8.0));
+    guarded<short int> one{0, 0, 0, 1};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, one.data(), constant.data()), 2.0));
+}
+
+TEST(FlatDeviations, AMissingCentreBecomesTheMedian)
+{
+    guarded<double> x{1, 2, 9};
+    double centre = missing;
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 1.0));
+    EXPECT_TRUE(sameBits(centre, 2.0));
+    centre = 9.0;
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 7.0));
+    EXPECT_TRUE(sameBits(centre, 9.0));
+    guarded<double> holes{missing, 2, 9};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(holes.data(), 3, &centre), 0.0));
+}
+
+TEST(FlatDeviations, WinsorizingPullsInTheTails)
+{
+    guarded<double> x{1, 2, 3, 4, missing, 10};
+    EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.0, 1.0), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{1, 2, 3, 4, missing, 10}));
+    EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.4, 0.8), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{2, 2, 3, 4, missing, 4}));
+}
