@@ -467,10 +467,10 @@ class Exports(Tree):
             count rows;
         };
         Table::Table(count rows) : rows(rows) {}
-        CORE int V_Length(const Table*, character*, const std::basic_string<char16_t>&);
-        int V_Length(const Table*, character*, const std::basic_string<char16_t>&) { return 0; }
+        CORE int V_Length(const Table*, character*, const std::u16string&, const std::string&);
+        int V_Length(const Table*, character*, const std::u16string&, const std::string&) { return 0; }
         """
-    CORE = ["Table::Table(unsigned long)", "V_Length(Table const*, char16_t*, text const&)"]
+    CORE = ["Table::Table(unsigned long)", "V_Length(Table const*, char16_t*, text const&, std::string const&)"]
 
     @classmethod
     def setUpClass(cls):

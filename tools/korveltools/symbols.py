@@ -4,7 +4,9 @@ import re
 import shutil
 import subprocess
 
-TEXT = "std::__cxx11::basic_string<char16_t, std::char_traits<char16_t>, std::allocator<char16_t> >"
+
+def string_class(character):
+    return f"std::__cxx11::basic_string<{character}, std::char_traits<{character}>, std::allocator<{character}> >"
 
 
 class ToolMissing(Exception):
@@ -46,8 +48,9 @@ def imported_libraries(library):
 
 
 def core_spelling(demangled):
-    """The spelling of the list: as the compiler off Windows has it, with `text` for the text class."""
-    same = demangled.replace(TEXT, "text").replace("wchar_t", "char16_t")
+    """The spelling of the list: as the compiler off Windows has it, with short names for the classes of texts."""
+    same = demangled.replace(string_class("char16_t"), "text").replace(string_class("char"), "std::string")
+    same = same.replace("wchar_t", "char16_t")
     same = re.sub(r"\blong long\b", "long", same)
     return same.replace(" >", ">")
 
