@@ -236,6 +236,16 @@ Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
 ' Strips spaces (U+0020) from the ends of texts, in place.
 Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
     ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
+' ---- records.h
+
+' Copies a table of numbers into the columns of a labelled one.
+Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
+    ByRef m As Double, ByVal rows As Long, ByVal cols As Long, ByVal mv As LongPtr) As Long
+
+' Copies a triangle from one labelled table to another: the first j elements of column j, for j from
+' 1 to the smaller number of columns.
+Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
+    ByVal src As LongPtr, ByVal dst As LongPtr) As Long
 
 ' ---- sort_table.h
 

@@ -11,6 +11,7 @@
 #include "frames/quantiles.h"
 #include "frames/ranks.h"
 #include "frames/reverse.h"
+#include "frames/records.h"
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
 #include "frames/vector_means.h"

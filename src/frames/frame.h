@@ -9,6 +9,7 @@
 
 #include "containers/bstr.h"
 #include "containers/matrix.h"
+#include "containers/records.h"
 
 #include <cstddef>
 #include <cstring>
@@ -80,6 +81,19 @@ template <class T>
 [[nodiscard]] matrix<T> attach(SAFEARRAY** array)
 {
     return matrix<T>(*array);
+}
+
+/** The caller's labelled table. Its scalars, and texts, return on destruction; numbers stay in place. */
+template <class T>
+[[nodiscard]] cST_MVect<T> record(ST_MVect* caller)
+{
+    return cST_MVect<T>(caller);
+}
+
+/** The same for category statistics. */
+[[nodiscard]] inline cST_QualiInfo record(ST_QualiInfo* caller)
+{
+    return cST_QualiInfo(caller);
 }
 
 /** Flags of `n` rows of which none is set. */

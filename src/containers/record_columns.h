@@ -1,0 +1,29 @@
+/**
+ * @file
+ * Reaching the columns of a labelled table without trusting the column number.
+ */
+#ifndef KORVEL_CONTAINERS_RECORD_COLUMNS_H
+#define KORVEL_CONTAINERS_RECORD_COLUMNS_H
+
+#include "containers/records.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace korvel
+{
+
+/**
+ * The elements of column `j`, 0-based. A column that the table does not have is as good as an empty one:
+ * `nowhere`, an empty matrix of the caller's, stands in for it, and what is stored there is lost.
+ */
+template <class T>
+[[nodiscard]] matrix<T>& columnAt(cST_MVect<T>& table, std::int64_t j, matrix<T>& nowhere)
+{
+    const auto index = static_cast<std::size_t>(j);
+    return index < table.Vectors.size() ? table.Vectors[index].Vect : nowhere;
+}
+
+} // namespace korvel
+
+#endif
