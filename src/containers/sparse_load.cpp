@@ -1,0 +1,88 @@
+#include "containers/sparse_matrix.h"
+
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+namespace
+{
+
+bool isKept(double x)
+{
+    return std::fabs(x) > SPARSE_ZERO;
+}
+
+/** Turns the number of entries of each row, at `starts[i + 1]`, into the position of each row's first. */
+void accumulate(std::vector<int>& starts)
+{
+    std::int64_t total = 0;
+    for (int& start : starts) {
+        total += start;
+        if (total > std::numeric_limits<int>::max()) {
+            throw std::length_error("matrixSparse: more entries than a 32-bit position can tell");
+        }
+        start = static_cast<int>(total);
+    }
+}
+
+/**
+ * Fills `target` from any table that is read column by column. `visitColumn(j, loop)` calls `loop` with
+ * something that gives the cell of row i as `cells[i]`, or does not call it for a column of zeros.
+ *
+ * The cells are counted first, so that each array is allocated once. Both walks go down the columns, as the
+ * source lies in memory; each row has its own place to append to, and so gets its entries in column order.
+ */
+template <class VisitColumn>
+void load(matrixSparse& target, int rows, int cols, const VisitColumn& visitColumn)
+{
+    std::vector<int> starts(static_cast<std::size_t>(std::int64_t{rows} + 1));
+    for (int j = 0; j < cols; ++j) {
+        visitColumn(j, [&](auto cells) {
+            for (int i = 0; i < rows; ++i) {
+                starts[static_cast<std::size_t>(i) + 1] += isKept(cells[i]) ? 1 : 0;
+            }
+        });
+    }
+    accumulate(starts);
+
+    const int stored = starts.empty() ? 0 : starts.back();
+    std::vector<int> colIndex(static_cast<std::size_t>(stored));
+    std::vector<double> values(static_cast<std::size_t>(stored));
+    for (int j = 0; j < cols; ++j) {
+        visitColumn(j, [&](auto cells) {
+            for (int i = 0; i < rows; ++i) {
+                if (const double x = cells[i]; isKept(x)) {
+                    const auto place = static_cast<std::size_t>(starts[static_cast<std::size_t>(i)]++);
+                    colIndex[place] = j;
+                    values[place] = x;
+                }
+            }
+        });
+    }
+    // The start of each row has moved on to the start of the next.
+    if (rows > 0) {
+        std::shift_right(starts.begin(), starts.end(), 1);
+        starts[0] = 0;
+    }
+    // Only an entry of row 1 or of a later row sets the start of row 1: callers rely on the tables as they
+    // came out of this from the beginning.
+    if (rows > 1 && starts[1] == stored) {
+        starts[1] = 0;
+    }
+
+    target.nbrows = rows;
+    target.nbcols = cols;
+    target.nnz = stored;
+    target.colIndex.swap(colIndex);
+    target.rowStart.swap(starts);
+    target.values.swap(values);
+}
+
+} // namespace
+
+void matrixSparse::outputSparse(matrix<double>* m)
+{
+    load(*this, m->nbrows, m->nbcols, [m](int j, auto&& loop) {
+        loop(static_cast<const double*>(m->data) + std::int64_t{m->nbrows} * j);
+    });
+}
