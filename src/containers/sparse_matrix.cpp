@@ -180,7 +180,7 @@ matrix<double> matrixSparse::to_matrix()
 matrix<double> matrixSparse::to_matrix(int rows, int cols)
 {
     matrix<double> dense(rows, cols, 0);
-    for (std::int64_t i = 0; i < std::min(rows, nbrows); ++i) {
+    for (std::int64_t i = 0; i < rows; ++i) {
         const korvel::entry_range row = korvel::entriesOfRow(*this, i);
         for (std::size_t k = row.first; k < row.last; ++k) {
             // A column outside the table leads past the block, or before it, which is far past it unsigned.

@@ -1,0 +1,59 @@
+#include "support/allocations.h"
+
+#include <cstdlib>
+#include <limits>
+#include <new>
+
+namespace
+{
+
+constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
+
+thread_local std::int64_t made = 0;
+thread_local std::int64_t madeAtMost = unlimited;
+
+} // namespace
+
+namespace korvel::test
+{
+
+std::int64_t allocationCount()
+{
+    return made;
+}
+
+allocation_limit::allocation_limit(std::int64_t allowed)
+{
+    madeAtMost = made + allowed;
+}
+
+allocation_limit::~allocation_limit()
+{
+    madeAtMost = unlimited;
+}
+
+} // namespace korvel::test
+
+// The array and the non-throwing forms of the language's own library come here too.
+void* operator new(std::size_t size)
+{
+    if (made >= madeAtMost) {
+        throw std::bad_alloc();
+    }
+    void* const block = std::malloc(size == 0 ? 1 : size);
+    if (block == nullptr) {
+        throw std::bad_alloc();
+    }
+    ++made;
+    return block;
+}
+
+void operator delete(void* block) noexcept
+{
+    std::free(block);
+}
+
+void operator delete(void* block, std::size_t) noexcept
+{
+    std::free(block);
+}

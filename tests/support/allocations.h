@@ -1,0 +1,24 @@
+#ifndef KORVEL_TESTS_SUPPORT_ALLOCATIONS_H
+#define KORVEL_TESTS_SUPPORT_ALLOCATIONS_H
+
+#include <cstdint>
+
+namespace korvel::test
+{
+
+/** How many blocks this thread has had from `operator new` since it started. */
+[[nodiscard]] std::int64_t allocationCount();
+
+/** While it lives, this thread gets `allowed` further blocks from `operator new`, and then std::bad_alloc. */
+class allocation_limit
+{
+public:
+    explicit allocation_limit(std::int64_t allowed);
+    allocation_limit(const allocation_limit&) = delete;
+    allocation_limit& operator=(const allocation_limit&) = delete;
+    ~allocation_limit();
+};
+
+} // namespace korvel::test
+
+#endif
