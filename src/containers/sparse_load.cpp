@@ -1,8 +1,11 @@
+#include "containers/records.h"
 #include "containers/sparse_matrix.h"
+#include "containers/views.h"
 
 #include <cmath>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace
 {
@@ -26,30 +29,30 @@ void accumulate(std::vector<int>& starts)
 }
 
 /**
- * Fills `target` from any table that is read column by column. `visitColumn(j, loop)` calls `loop` with
- * something that gives the cell of row i as `cells[i]`, or does not call it for a column of zeros.
+ * Fills `target` from a table of any form, of which columns from `storedCols` on have only zeros.
  *
  * The cells are counted first, so that each array is allocated once. Both walks go down the columns, as the
  * source lies in memory; each row has its own place to append to, and so gets its entries in column order.
  */
-template <class VisitColumn>
-void load(matrixSparse& target, int rows, int cols, const VisitColumn& visitColumn)
+template <class View>
+void load(matrixSparse& target, int rows, int cols, int storedCols, const View& source)
 {
     std::vector<int> starts(static_cast<std::size_t>(std::int64_t{rows} + 1));
-    for (int j = 0; j < cols; ++j) {
-        visitColumn(j, [&](auto cells) {
-            for (int i = 0; i < rows; ++i) {
-                starts[static_cast<std::size_t>(i) + 1] += isKept(cells[i]) ? 1 : 0;
-            }
-        });
+    const auto countColumn = [&](auto cells) {
+        for (int i = 0; i < rows; ++i) {
+            starts[static_cast<std::size_t>(i) + 1] += isKept(cells[i]) ? 1 : 0;
+        }
+    };
+    for (int j = 0; j < storedCols; ++j) {
+        korvel::withCells(countColumn, source.column(j, rows));
     }
     accumulate(starts);
 
     const int stored = starts.empty() ? 0 : starts.back();
     std::vector<int> colIndex(static_cast<std::size_t>(stored));
     std::vector<double> values(static_cast<std::size_t>(stored));
-    for (int j = 0; j < cols; ++j) {
-        visitColumn(j, [&](auto cells) {
+    for (int j = 0; j < storedCols; ++j) {
+        const auto appendColumn = [&](auto cells) {
             for (int i = 0; i < rows; ++i) {
                 if (const double x = cells[i]; isKept(x)) {
                     const auto place = static_cast<std::size_t>(starts[static_cast<std::size_t>(i)]++);
@@ -57,7 +60,8 @@ void load(matrixSparse& target, int rows, int cols, const VisitColumn& visitColu
                     values[place] = x;
                 }
             }
-        });
+        };
+        korvel::withCells(appendColumn, source.column(j, rows));
     }
     // The start of each row has moved on to the start of the next.
     if (rows > 0) {
@@ -82,7 +86,12 @@ void load(matrixSparse& target, int rows, int cols, const VisitColumn& visitColu
 
 void matrixSparse::outputSparse(matrix<double>* m)
 {
-    load(*this, m->nbrows, m->nbcols, [m](int j, auto&& loop) {
-        loop(static_cast<const double*>(m->data) + std::int64_t{m->nbrows} * j);
-    });
+    load(*this, m->nbrows, m->nbcols, m->nbcols, korvel::reading(std::as_const(*m)));
+}
+
+void matrixSparse::outputSparse(cST_MVect<double>* t)
+{
+    const auto columns = static_cast<std::int64_t>(t->Vectors.size());
+    const auto storedCols = static_cast<int>(std::min<std::int64_t>(t->nbcols, columns));
+    load(*this, t->nbrowsmax, t->nbcols, storedCols, korvel::reading(std::as_const(*t)));
 }

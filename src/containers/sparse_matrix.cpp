@@ -1,17 +1,11 @@
 #include "containers/sparse_matrix.h"
 
+#include "containers/conversion.h"
+
 #include <cmath>
-#include <limits>
 
 namespace
 {
-
-/** Truncated towards zero; a number that no `int` can hold gives the smallest one, as the processor does. */
-int truncatedToInt(double value)
-{
-    const bool fits = value > -2147483649.0 && value < 2147483648.0;
-    return fits ? static_cast<int>(value) : std::numeric_limits<int>::min();
-}
 
 /** Makes room for one more element in the steps in which a vector grows by itself. */
 template <class T>
@@ -37,7 +31,7 @@ void fill(matrixSparse& m, int rows, int cols, double value, bool reserve)
     std::vector<double> values;
     const bool full = !(std::fabs(value) <= SPARSE_ZERO);
     if (full) {
-        colIndex.assign(all, truncatedToInt(value));
+        colIndex.assign(all, korvel::truncateToInt(value));
         values.assign(all, value);
         for (std::size_t k = 1; k < rowStart.size(); ++k) {
             rowStart[k] = static_cast<int>(korvel::elementCount(static_cast<int>(k), cols));

@@ -20,6 +20,9 @@
  */
 inline constexpr double SPARSE_ZERO = 1e-18;
 
+template <class T>
+class cST_MVect;
+
 /**
  * A table of `double` in compressed rows. It always owns its storage and has no virtual operations.
  *
@@ -110,6 +113,15 @@ public:
      * 32-bit position can tell; this table is then as it was
      */
     KORVEL_API void outputSparse(matrix<double>* m);
+
+    /**
+     * The same from a table of labelled columns, of `nbrowsmax` rows and `nbcols` columns.
+     *
+     * @param t the table; not null. A cell past the end of its column reads that column's `oobValue`, at
+     *          first -1.0, and is stored as such; columns that `t` counts but does not have are zeros
+     * @throws std::bad_alloc, std::length_error as above
+     */
+    KORVEL_API void outputSparse(cST_MVect<double>* t);
 
     /**
      * The structure of the whole table.

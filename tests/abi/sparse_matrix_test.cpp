@@ -1,3 +1,4 @@
+#include "containers/records.h"
 #include "containers/sparse_matrix.h"
 
 #include <gtest/gtest.h>
@@ -23,16 +24,19 @@ TEST(SparseMatrixOfTheLibrary, HasEveryMember)
     EXPECT_EQ(empty.nnz, 4);
     empty.outputSparse(&dense);
     EXPECT_EQ(empty.nnz, 2);
+    cST_MVect<double> columns(3, 1);
+    empty.outputSparse(&columns);
+    EXPECT_EQ(empty.nbrows, 3);
 
     bool colEmpty[2];
     bool rowEmpty[2];
     bool rowDiagOnly[2];
     loaded.calcStrucInfo(2, 2, colEmpty, rowEmpty, rowDiagOnly, 0, 0);
     EXPECT_TRUE(rowDiagOnly[1]);
-    std::vector<bool> columns;
-    std::vector<bool> rows;
+    std::vector<bool> emptyColumns;
+    std::vector<bool> emptyRows;
     std::vector<bool> diagonals;
-    loaded.calcStrucInfo(2, 2, columns, rows, diagonals, 0, 0);
+    loaded.calcStrucInfo(2, 2, emptyColumns, emptyRows, diagonals, 0, 0);
     EXPECT_EQ(diagonals, (std::vector<bool>{true, true}));
 
     matrixSparse inverse(2, 2, 0.0, false);

@@ -1,3 +1,4 @@
+#include "containers/records.h"
 #include "containers/sparse_matrix.h"
 
 #include "reference/sparse_matrix.h"
@@ -150,6 +151,82 @@ TEST(SparseLoad, ComesBackAsItWasButForRowZeroAlone)
         }
     }
     EXPECT_GT(moved, 5) << "the oddity was met";
+}
+
+TEST(SparseLoad, TakesATableOfColumns)
+{
+    cST_MVect<double> t(3, 2);
+    t.Vectors[0].Vect[1] = 4.0;
+    t.Vectors[1].Vect[2] = 1e-18;
+    t.Vectors[1].Vect[0] = -2.0;
+    matrixSparse m(5, 5, 1.0, false);
+    m.outputSparse(&t);
+    EXPECT_EQ(m.nbrows, 3);
+    EXPECT_EQ(m.nbcols, 2);
+    EXPECT_EQ(m.nnz, 2);
+    EXPECT_EQ(m.rowStart, (positions{0, 1, 2, 2}));
+    EXPECT_EQ(m.colIndex, (positions{1, 0}));
+    EXPECT_EQ(m.values, (numbers{-2.0, 4.0}));
+
+    t.Vectors[0].Vect[1] = 0.0;
+    m.outputSparse(&t);
+    EXPECT_EQ(m.rowStart, (positions{0, 0, 1, 1})) << "row 0 alone";
+}
+
+TEST(SparseLoad, ReadsAShortColumnAsItsSpareSlot)
+{
+    cST_MVect<double> t(3, 3);
+    t.nbrowsmax = 4;
+    t.Vectors[0].Vect.oobValue = 7.0;
+    t.Vectors[2].Vect.oobValue = 0.0;
+    matrixSparse m;
+    m.outputSparse(&t);
+    EXPECT_EQ(m.nbrows, 4);
+    EXPECT_EQ(m.rowStart, (positions{0, 0, 0, 0, 2}));
+    EXPECT_EQ(m.colIndex, (positions{0, 1}));
+    EXPECT_EQ(m.values, (numbers{7.0, -1.0}));
+}
+
+TEST(SparseLoad, ReadsColumnsThatAreNotThereAsZeros)
+{
+    cST_MVect<double> t(2, 1);
+    t.Vectors[0].Vect[1] = 5.0;
+    t.nbcols = 3;
+    matrixSparse m;
+    m.outputSparse(&t);
+    EXPECT_EQ(m.nbcols, 3);
+    EXPECT_EQ(m.rowStart, (positions{0, 0, 1}));
+    EXPECT_EQ(m.values, (numbers{5.0}));
+
+    t.nbcols = 0;
+    m.outputSparse(&t);
+    EXPECT_EQ(m.nbcols, 0);
+    EXPECT_EQ(m.nnz, 0) << "columns past the count do not belong to the table";
+
+    cST_MVect<double> empty;
+    m.outputSparse(&empty);
+    EXPECT_EQ(m.nbrows, 0);
+    EXPECT_EQ(m.rowStart, (positions{0}));
+}
+
+TEST(SparseLoad, ATableOfColumnsEqualsThePlainLoad)
+{
+    std::mt19937_64 generator(14);
+    for (int round = 0; round < 200; ++round) {
+        const int rows = 1 + static_cast<int>(generator() % 9);
+        const int cols = 1 + static_cast<int>(generator() % 9);
+        cST_MVect<double> t(rows, cols);
+        for (auto& column : t.Vectors) {
+            const int length = static_cast<int>(generator() % static_cast<unsigned>(rows + 2));
+            column.Vect =
+                korvel::test::randomTable(generator, length, 1, 1 + static_cast<unsigned>(generator() % 9));
+            column.Vect.oobValue = generator() % 2 == 0 ? 0.0 : -1.0;
+        }
+        const auto cell = [&](int i, int j) { return t.Vectors[static_cast<std::size_t>(j)].Vect[i]; };
+        matrixSparse m;
+        m.outputSparse(&t);
+        ASSERT_TRUE(sameStorage(m, korvel::reference::loadSparse(rows, cols, cell)));
+    }
 }
 
 TEST(SparseLoad, ReservesOnce)

@@ -1,11 +1,13 @@
 #include "containers/sparse_matrix.h"
 
+#include "support/guarded.h"
 #include "support/sparse_tables.h"
 
-#include <array>
+#include <algorithm>
 #include <limits>
 #include <stdexcept>
 
+using korvel::test::guarded;
 using korvel::test::tableOf;
 
 namespace
@@ -14,7 +16,7 @@ namespace
 using flags = std::vector<bool>;
 
 /** Marks a flag that has not been written; the check is made on the bytes. */
-constexpr unsigned char guard = 2;
+constexpr unsigned char unwritten = 2;
 
 struct structure {
     flags colEmpty;
@@ -22,37 +24,23 @@ struct structure {
     flags rowDiagOnly;
 };
 
-/** Room for `count` flags of a caller, with a guard on either side. */
-class guarded_flags
-{
-public:
-    explicit guarded_flags(int count) : bytes_(static_cast<std::size_t>(std::max(count, 0)) + 2, guard) {}
-
-    bool* data() { return reinterpret_cast<bool*>(bytes_.data() + 1); }
-
-    [[nodiscard]] flags read() const
-    {
-        EXPECT_EQ(bytes_.front(), guard);
-        EXPECT_EQ(bytes_.back(), guard);
-        flags result;
-        for (std::size_t k = 1; k + 1 < bytes_.size(); ++k) {
-            EXPECT_LE(bytes_[k], 1) << "flag " << k - 1 << " was not written";
-            result.push_back(bytes_[k] == 1);
-        }
-        return result;
-    }
-
-private:
-    std::vector<unsigned char> bytes_;
-};
-
 structure pointerForm(matrixSparse& m, int rows, int cols)
 {
-    guarded_flags colEmpty(cols);
-    guarded_flags rowEmpty(rows);
-    guarded_flags rowDiagOnly(std::max(rows, cols));
-    m.calcStrucInfo(rows, cols, colEmpty.data(), rowEmpty.data(), rowDiagOnly.data(), 77, -77);
-    return {colEmpty.read(), rowEmpty.read(), rowDiagOnly.read()};
+    const auto room = [](int count) {
+        return guarded<unsigned char>(
+            std::vector<unsigned char>(static_cast<std::size_t>(std::max(count, 0)), unwritten));
+    };
+    const auto pointer = [](guarded<unsigned char>& array) { return reinterpret_cast<bool*>(array.data()); };
+    const auto read = [](const guarded<unsigned char>& array) {
+        const std::vector<unsigned char> bytes = valuesOf(array);
+        EXPECT_EQ(std::count(bytes.begin(), bytes.end(), unwritten), 0);
+        return flags(bytes.begin(), bytes.end());
+    };
+    auto colEmpty = room(cols);
+    auto rowEmpty = room(rows);
+    auto rowDiagOnly = room(std::max(rows, cols));
+    m.calcStrucInfo(rows, cols, pointer(colEmpty), pointer(rowEmpty), pointer(rowDiagOnly), 77, -77);
+    return {read(colEmpty), read(rowEmpty), read(rowDiagOnly)};
 }
 
 structure vectorForm(matrixSparse& m, int rows, int cols, int rowOffset, int colOffset)
