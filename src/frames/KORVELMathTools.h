@@ -17,6 +17,7 @@
 #include "frames/vector_means.h"
 #include "frames/vector_moments.h"
 #include "frames/survey_boxes.h"
+#include "frames/random.h"
 #include "frames/vector_sums.h"
 #include "frames/vector_variance.h"
 

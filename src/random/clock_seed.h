@@ -1,0 +1,33 @@
+/**
+ * @file
+ * A seed made of the local time, for callers that give none.
+ */
+#ifndef KORVEL_RANDOM_CLOCK_SEED_H
+#define KORVEL_RANDOM_CLOCK_SEED_H
+
+#include "platform/automation.h"
+
+namespace korvel
+{
+
+/** Reads the local time, to the second, into calendar fields, and tells whether there is one. */
+using local_clock = bool (*)(SYSTEMTIME& now);
+
+/**
+ * Puts another clock in the place of the system's, so that a test can choose the time.
+ * @return the clock used so far
+ */
+local_clock exchangeLocalClock(local_clock clock) noexcept;
+
+/**
+ * The seed of the present second: second + 100 * (100 * hour + days + minute), where `days` counts from 30
+ * December 1899. It is no positional number, and two seeds taken in the same second are equal.
+ *
+ * A time that has no automation date, or none that stands for it exactly, counts as day 0 with -1 for the
+ * hour, the minute and the second.
+ */
+int clockSeed();
+
+} // namespace korvel
+
+#endif
