@@ -246,6 +246,21 @@ Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
 ' 1 to the smaller number of columns.
 Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
     ByVal src As LongPtr, ByVal dst As LongPtr) As Long
+' ---- random.h
+
+' Selects the random generator.
+Public Declare PtrSafe Function Cpp_set_rand_algo Lib "KORVELMathTools.dll" ( _
+    ByVal algorithm As Long) As Long
+
+' Seeds the random source and draws one uniform number.
+Public Declare PtrSafe Function Cpp_Random01 Lib "KORVELMathTools.dll" ( _
+    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Double
+
+' Seeds the random source and fills an array with uniform numbers in storage order, column after
+' column.
+Public Declare PtrSafe Function VB_M_GenerateRandom01 Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
 
 ' ---- sort_table.h
 

@@ -34,13 +34,12 @@ struct congruential_step {
         return static_cast<std::int32_t>(folded < modulus ? folded : folded - modulus);
     }
 
-    /** The state `Steps` steps after `s`. */
+    /** The state `Steps` steps after `s`, or the modulus less: the state after that is the same. */
     template <int Steps>
     static constexpr std::int32_t jump(std::int32_t s) noexcept
     {
         constexpr std::int64_t factor = power(Steps);
-        const std::int64_t reached = factor * s % modulus;
-        return static_cast<std::int32_t>(reached < 0 ? reached + modulus : reached);
+        return static_cast<std::int32_t>(factor * s % modulus);
     }
 
 private:

@@ -14,7 +14,7 @@ using korvel::processSource;
  * Cells drawn at a time. The draws run along rows and the table lies in columns, so a panel of some rows is
  * drawn first and then dealt out column by column, whole cache lines at once.
  */
-constexpr std::int64_t panelCells = 32768;
+constexpr std::int64_t panelCells = 65536;
 
 template <class T>
 void fillInside(matrix<T>& out, int rows, int cols)

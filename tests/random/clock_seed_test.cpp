@@ -103,7 +103,10 @@ TEST_F(ClockSeed, ChecksByConvertingBack)
 
 TEST_F(ClockSeed, CountsAClockThatFailsAsUnreadable)
 {
-    exchangeLocalClock([](SYSTEMTIME&) { return false; });
+    exchangeLocalClock([](SYSTEMTIME& time) {
+        time = at(2026, 3, 14);
+        return false;
+    });
     EXPECT_EQ(clockSeed(), unreadable);
 }
 
