@@ -18,6 +18,10 @@
 #include "frames/vector_moments.h"
 #include "frames/survey_boxes.h"
 #include "frames/random.h"
+#include "frames/random.h"
+#include "frames/sort_table.h"
+#include "frames/sort_vector.h"
+#include "frames/vector_means.h"
 #include "frames/vector_sums.h"
 #include "frames/vector_variance.h"
 
