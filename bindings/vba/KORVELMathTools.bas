@@ -83,6 +83,10 @@ Public Declare PtrSafe Function VB_IsMissingValueStr Lib "KORVELMathTools.dll" (
 Public Declare PtrSafe Function ExtractBSTR Lib "KORVELMathTools.dll" ( _
     ByVal sa As LongPtr) As LongPtr
 
+' Adds up everything that a labelled table holds: a check that a record crosses the boundary intact.
+Public Declare PtrSafe Function Cpp_Test Lib "KORVELMathTools.dll" ( _
+    ByVal record As LongPtr) As Double
+
 ' Sends a line to the debugger: the label, a blank, the value with 16 decimals in a field of 36, a
 ' line end.
 Public Declare PtrSafe Sub dprint Lib "KORVELMathTools.dll" ( _

@@ -7,6 +7,7 @@
 
 #include "platform/automation.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -30,6 +31,17 @@ struct table_shape {
 
 /** Number of elements over all dimensions; an array of no dimensions has 1, the one that a matrix sees. */
 [[nodiscard]] std::uint64_t hostArrayLength(const SAFEARRAY& array);
+
+/** The records that a host array holds, as many as its leftmost dimension says; none when it is null or has
+ * no block. */
+template <class Record>
+[[nodiscard]] std::span<Record> recordsIn(const SAFEARRAY* array)
+{
+    if (array == nullptr || array->pvData == nullptr) {
+        return {};
+    }
+    return {static_cast<Record*>(array->pvData), static_cast<std::size_t>(hostArrayShape(*array).rows)};
+}
 
 /**
  * Gives a host array a new shape in place. The old contents are not kept in order: a block that is large

@@ -23,18 +23,6 @@ matrix<T>::matrix(SAFEARRAY* sa) : matrix()
 }
 
 template <class T>
-void matrix<T>::growBlock()
-{
-    if (capacity < nbElem) {
-        releaseBlock();
-        data = nullptr;
-        capacity = 0;
-        data = new T[nbElem];
-        capacity = nbElem;
-    }
-}
-
-template <class T>
 void matrix<T>::Redim(int rows, int cols)
 {
     cols = std::max(cols, 1);
@@ -59,8 +47,12 @@ void matrix<T>::Redim(int rows, int cols)
     }
 }
 
-template class matrix<double>;
-template class matrix<int>;
-template class matrix<short int>;
-template class matrix<text>;
-template class statistics_matrix<double>;
+template matrix<double>::matrix(SAFEARRAY*);
+template matrix<int>::matrix(SAFEARRAY*);
+template matrix<short int>::matrix(SAFEARRAY*);
+template matrix<text>::matrix(SAFEARRAY*);
+
+template void matrix<double>::Redim(int, int);
+template void matrix<int>::Redim(int, int);
+template void matrix<short int>::Redim(int, int);
+template void matrix<text>::Redim(int, int);

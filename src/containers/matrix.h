@@ -54,7 +54,7 @@ template <class T>
  * sets. Core loops are 0-based (`operator[]`, `getElement`, `setElement`); `vbget` and `vbset` are 1-based.
  */
 template <class T>
-class matrix
+class KORVEL_TYPE matrix
 {
 public:
     T oobValue = korvel::initialOutOfBoundsValue<T>(); ///< What an index outside the block reaches.
@@ -258,7 +258,16 @@ private:
     }
 
     /** Replaces the block when it is too small for `nbElem`. */
-    void growBlock();
+    void growBlock()
+    {
+        if (capacity < nbElem) {
+            releaseBlock();
+            data = nullptr;
+            capacity = 0;
+            data = new T[nbElem];
+            capacity = nbElem;
+        }
+    }
 
     void takeFrom(matrix& src) noexcept
     {
@@ -282,7 +291,7 @@ private:
  * destructor frees them with `delete[]`.
  */
 template <class T>
-class statistics_matrix : public matrix<T>
+class KORVEL_TYPE statistics_matrix : public matrix<T>
 {
 public:
     double* buffer1 = nullptr;

@@ -1,29 +1,14 @@
 #include "containers/host_array.h"
 #include "containers/records.h"
 
-#include <cstddef>
-
-namespace
-{
-
-/** The records in an array; none when the array or its block is not there. */
-std::span<ST_Vect> columnRecords(const SAFEARRAY* array)
-{
-    if (array == nullptr || array->pvData == nullptr) {
-        return {};
-    }
-    const int count = korvel::hostArrayShape(*array).rows;
-    return {static_cast<ST_Vect*>(array->pvData), static_cast<std::size_t>(count)};
-}
-
-} // namespace
+#include <span>
 
 template <class T>
 cST_MVect<T>::cST_MVect(ST_MVect* record) requires(std::same_as<T, double> || korvel::is_text<T>)
     : kind(korvel::recordKind<T>), source(record), nbcols(record->nbcols), samenbrows(record->samenbrows),
       nbrowsmax(record->nbrowsmax), nbrows(record->nbrows), CLabels(record->CLabels)
 {
-    const std::span<ST_Vect> columns = columnRecords(record->Vectors);
+    const std::span<ST_Vect> columns = korvel::recordsIn<ST_Vect>(record->Vectors);
     Vectors.reserve(columns.size());
     for (ST_Vect& column : columns) {
         Vectors.emplace_back(&column);

@@ -1,6 +1,7 @@
 #include "frames/containers.h"
 
 #include "containers/bstr.h"
+#include "containers/matrix3d.h"
 #include "containers/missing.h"
 
 #include <array>
@@ -41,6 +42,11 @@ short int VB_IsMissingValueStr(VARIANT* cell)
 OLECHAR** ExtractBSTR(SAFEARRAY** sa)
 {
     return *sa != nullptr ? static_cast<OLECHAR**>((*sa)->pvData) : nullptr;
+}
+
+double Cpp_Test(ST_MVect* record)
+{
+    return sumOfElements(matrix3DVect<matrix<double>>(record->Vectors));
 }
 
 void dprint(double value, const char* label)

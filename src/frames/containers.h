@@ -33,6 +33,15 @@ KORVEL_FLAT short int VB_IsMissingValueStr(VARIANT* cell);
 KORVEL_FLAT OLECHAR** ExtractBSTR(SAFEARRAY** sa);
 
 /**
+ * Adds up everything that a labelled table holds: a check that a record crosses the boundary intact.
+ *
+ * @param record [in] a table of numbers, of which only the array of its columns is looked at
+ * @return the sum over all columns, one after the other, with missing numbers taken as they are; 0.0 when the
+ * array is null or empty
+ */
+KORVEL_FLAT double Cpp_Test(ST_MVect* record);
+
+/**
  * Sends a line to the debugger: the label, a blank, the value with 16 decimals in a field of 36, a line end.
  * A line of more than 999 bytes is cut.
  *

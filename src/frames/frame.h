@@ -8,6 +8,7 @@
 #define KORVEL_FRAMES_FRAME_H
 
 #include "containers/bstr.h"
+#include "containers/host_chunks.h"
 #include "containers/matrix.h"
 #include "containers/records.h"
 
@@ -94,6 +95,68 @@ template <class T>
 [[nodiscard]] inline cST_QualiInfo record(ST_QualiInfo* caller)
 {
     return cST_QualiInfo(caller);
+}
+
+/** The columns of the caller's chunked table, for as long as the object lives. */
+template <class T>
+class chunk_list
+{
+public:
+    /** The arguments of `LoadHostarray`. */
+    chunk_list(Hostarray** records, int n, int rows, int cols) : chunks_(load(records, n, rows, cols)), n_(n)
+    {
+    }
+    chunk_list(const chunk_list&) = delete;
+    chunk_list& operator=(const chunk_list&) = delete;
+
+    ~chunk_list()
+    {
+        if constexpr (is_text<T>) {
+            DeleteHostarrayStr(chunks_, n_);
+        } else {
+            DeleteHostarray(chunks_, n_);
+        }
+    }
+
+    [[nodiscard]] matrix<T>** get() const noexcept { return chunks_; }
+    [[nodiscard]] int size() const noexcept { return n_; }
+
+private:
+    static matrix<T>** load(Hostarray** records, int n, int rows, int cols)
+    {
+        if constexpr (is_text<T>) {
+            return LoadHostarrayStr(records, n, rows, cols);
+        } else {
+            return LoadHostarray(records, n, rows, cols);
+        }
+    }
+
+    matrix<T>** chunks_;
+    int n_;
+};
+
+/** The numeric columns of a chunked table, each of `rows` rows, read or changed in place. */
+[[nodiscard]] inline chunk_list<double> chunks(Hostarray** records, int n, int rows)
+{
+    return {records, n, rows, 1};
+}
+
+/** The numeric columns of a triangle, of which the first has `n` rows and each next one a row less. */
+[[nodiscard]] inline chunk_list<double> triangularChunks(Hostarray** records, int n)
+{
+    return {records, n, n, 0};
+}
+
+/** A copy of the text columns of a chunked table. */
+[[nodiscard]] inline chunk_list<text> textChunks(Hostarray** records, int n, int rows)
+{
+    return {records, n, rows, 1};
+}
+
+/** Writes texts back into the caller's columns; a BSTR that reads the same stays untouched. */
+inline void writeTexts(const chunk_list<text>& result, Hostarray** records)
+{
+    SaveHostarray(result.get(), result.size(), 0, records);
 }
 
 /** Flags of `n` rows of which none is set. */

@@ -14,6 +14,15 @@
 #define KORVEL_API
 #endif
 
+/* KORVEL_TYPE marks a class template of which exported templates take instances as arguments: off Windows a
+ * template is no more visible than its arguments. The members are not exported by it, as long as they are
+ * inline or not instantiated as a whole class. */
+#if defined(_WIN32)
+#define KORVEL_TYPE
+#else
+#define KORVEL_TYPE __attribute__((visibility("default")))
+#endif
+
 /* KORVEL_FLAT marks a flat function, exported undecorated. On Windows the module definition file exports
  * these. */
 #if defined(__cplusplus)
