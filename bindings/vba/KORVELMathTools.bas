@@ -175,6 +175,22 @@ Public Declare PtrSafe Function Cpp_V_MedianAbsDev2 Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function Cpp_V_Winsorize2 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal qLow As Double, ByVal qHigh As Double) As Long
 
+' ---- random.h
+
+' Selects the random generator.
+Public Declare PtrSafe Function Cpp_set_rand_algo Lib "KORVELMathTools.dll" ( _
+    ByVal algorithm As Long) As Long
+
+' Seeds the random source and draws one uniform number.
+Public Declare PtrSafe Function Cpp_Random01 Lib "KORVELMathTools.dll" ( _
+    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Double
+
+' Seeds the random source and fills an array with uniform numbers in storage order, column after
+' column.
+Public Declare PtrSafe Function VB_M_GenerateRandom01 Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
 ' ---- ranks.h
 
 ' Dense ranks: 1 for the smallest element, one more at each change of value.
@@ -210,6 +226,17 @@ Public Declare PtrSafe Function VB_V_GetPositionInMatNNm1o2 Lib "KORVELMathTools
 Public Declare PtrSafe Function VB_V_GetPositionInMatNN Lib "KORVELMathTools.dll" ( _
     ByVal k As Long, ByVal n As Long, ByRef row As Long, ByRef col As Long) As Long
 
+' ---- records.h
+
+' Copies a table of numbers into the columns of a labelled one.
+Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
+    ByRef m As Double, ByVal rows As Long, ByVal cols As Long, ByVal mv As LongPtr) As Long
+
+' Copies a triangle from one labelled table to another: the first j elements of column j, for j from
+' 1 to the smaller number of columns.
+Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
+    ByVal src As LongPtr, ByVal dst As LongPtr) As Long
+
 ' ---- reverse.h
 
 ' A vector of numbers back to front.
@@ -240,31 +267,6 @@ Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
 ' Strips spaces (U+0020) from the ends of texts, in place.
 Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
     ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
-' ---- records.h
-
-' Copies a table of numbers into the columns of a labelled one.
-Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
-    ByRef m As Double, ByVal rows As Long, ByVal cols As Long, ByVal mv As LongPtr) As Long
-
-' Copies a triangle from one labelled table to another: the first j elements of column j, for j from
-' 1 to the smaller number of columns.
-Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
-    ByVal src As LongPtr, ByVal dst As LongPtr) As Long
-' ---- random.h
-
-' Selects the random generator.
-Public Declare PtrSafe Function Cpp_set_rand_algo Lib "KORVELMathTools.dll" ( _
-    ByVal algorithm As Long) As Long
-
-' Seeds the random source and draws one uniform number.
-Public Declare PtrSafe Function Cpp_Random01 Lib "KORVELMathTools.dll" ( _
-    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Double
-
-' Seeds the random source and fills an array with uniform numbers in storage order, column after
-' column.
-Public Declare PtrSafe Function VB_M_GenerateRandom01 Lib "KORVELMathTools.dll" ( _
-    ByRef out As Double, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
-    ByVal flag As Integer, ByRef nextSeed As Long) As Long
 
 ' ---- sort_table.h
 
@@ -397,6 +399,21 @@ Public Declare PtrSafe Function Cpp_SortQVector2Str Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function VB_V_IsSorted Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal bStrict As Integer) As Integer
 
+' ---- survey_boxes.h
+
+' Weights of the highest and lowest distinct scores, cumulative over one, two and three levels.
+Public Declare PtrSafe Function Cpp_V_TopBottom3Box Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef top1 As Double, _
+    ByRef bottom1 As Double, ByRef top2 As Double, ByRef bottom2 As Double, ByRef top3 As Double, _
+    ByRef bottom3 As Double) As Long
+
+' The boxes of one group: only elements whose group value is within 1e-12 of groupValue add their
+' weight.
+Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef group As Double, _
+    ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
+    ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
+
 ' ---- vector_means.h
 
 ' Weighted mean: the sum of w[i] * x[i] over the sum of w[i].
@@ -423,20 +440,6 @@ Public Declare PtrSafe Function Cpp_V_HarmonicMean Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_V_GMeanGSD Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
     ByRef gmean As Double, ByRef gsd As Double) As Long
-' ---- survey_boxes.h
-
-' Weights of the highest and lowest distinct scores, cumulative over one, two and three levels.
-Public Declare PtrSafe Function Cpp_V_TopBottom3Box Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef top1 As Double, _
-    ByRef bottom1 As Double, ByRef top2 As Double, ByRef bottom2 As Double, ByRef top3 As Double, _
-    ByRef bottom3 As Double) As Long
-
-' The boxes of one group: only elements whose group value is within 1e-12 of groupValue add their
-' weight.
-Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef group As Double, _
-    ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
-    ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
 
 ' ---- vector_moments.h
 
