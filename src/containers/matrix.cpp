@@ -23,6 +23,15 @@ matrix<T>::matrix(SAFEARRAY* sa) : matrix()
 }
 
 template <class T>
+std::uint64_t matrix<T>::fillable() const
+{
+    if (data == nullptr) {
+        return 0;
+    }
+    return safeArray == nullptr || bOwner ? nbElem : std::min(nbElem, korvel::hostArrayLength(*safeArray));
+}
+
+template <class T>
 void matrix<T>::Redim(int rows, int cols)
 {
     cols = std::max(cols, 1);
@@ -51,6 +60,11 @@ template matrix<double>::matrix(SAFEARRAY*);
 template matrix<int>::matrix(SAFEARRAY*);
 template matrix<short int>::matrix(SAFEARRAY*);
 template matrix<text>::matrix(SAFEARRAY*);
+
+template std::uint64_t matrix<double>::fillable() const;
+template std::uint64_t matrix<int>::fillable() const;
+template std::uint64_t matrix<short int>::fillable() const;
+template std::uint64_t matrix<text>::fillable() const;
 
 template void matrix<double>::Redim(int, int);
 template void matrix<int>::Redim(int, int);

@@ -95,15 +95,16 @@ public:
 
     /**
      * With `borrow` true, a view of the `rows` by `cols` elements at `ptr`, both counts taken as they are,
-     * also a column count of 0; otherwise an owned copy of `rows` by `cols` elements, of at least one column.
+     * also a column count of 0; otherwise an owned copy of the `rows * cols` elements, none for a column
+     * count below 1: the one column that the table then has is 0.
      */
     matrix(int rows, int cols, T* ptr, bool borrow) requires korvel::numeric_element<T> : matrix()
     {
         if (borrow) {
             view(rows, cols, ptr);
         } else {
-            allocate(rows, cols, false);
-            std::copy_n(ptr, nbElem, data);
+            allocate(rows, cols, cols < 1);
+            std::copy_n(ptr, cols < 1 ? 0 : nbElem, data);
         }
     }
 
@@ -219,7 +220,7 @@ public:
     {
         const T fill = value;
         Redim(rows, cols);
-        std::fill_n(data, nbElem, fill);
+        std::fill_n(data, fillable(), fill);
     }
 
 private:
@@ -227,6 +228,9 @@ private:
     {
         return i + static_cast<std::ptrdiff_t>(nbrows) * j;
     }
+
+    /** Elements that the block really has: a host array that refused a new shape has fewer than `nbElem`. */
+    KORVEL_API std::uint64_t fillable() const;
 
     void setCounts(int rows, int cols)
     {
@@ -260,7 +264,7 @@ private:
     /** Replaces the block when it is too small for `nbElem`. */
     void growBlock()
     {
-        if (capacity < nbElem) {
+        if (capacity < nbElem || data == nullptr) {
             releaseBlock();
             data = nullptr;
             capacity = 0;

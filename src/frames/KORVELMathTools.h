@@ -15,10 +15,9 @@
 #include "frames/reverse.h"
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
-#include "frames/vector_means.h"
-#include "frames/vector_moments.h"
 #include "frames/survey_boxes.h"
 #include "frames/vector_means.h"
+#include "frames/vector_moments.h"
 #include "frames/vector_sums.h"
 #include "frames/vector_variance.h"
 
