@@ -166,13 +166,13 @@ TYPED_TEST(NumericMatrixConstruction, NotBorrowingCopies)
     EXPECT_EQ(linear(m), elements<TypeParam>(6));
 }
 
-TYPED_TEST(NumericMatrixConstruction, ACopyHasAtLeastOneColumn)
+TYPED_TEST(NumericMatrixConstruction, ACopyOfNoColumnsIsOneColumnOfZeros)
 {
     auto values = elements<TypeParam>(3);
     for (const int cols : {0, -1}) {
         const matrix<TypeParam> m(3, cols, values.data(), false);
         expectShape(m, 3, 1, 3);
-        EXPECT_EQ(linear(m), values);
+        EXPECT_EQ(linear(m), std::vector<TypeParam>(3));
     }
 }
 
