@@ -82,6 +82,13 @@ template <class T>
     return matrix<T>(*array);
 }
 
+/** A number cut towards zero, and -2147483648 for what no `int` holds: what the machine's conversion gives.
+ */
+[[nodiscard]] constexpr int truncated(double value) noexcept
+{
+    return value > -2147483649.0 && value < 2147483648.0 ? static_cast<int>(value) : MISSING_LNG;
+}
+
 /** Flags of `n` rows of which none is set. */
 [[nodiscard]] inline std::vector<short int> noFlags(int n)
 {
