@@ -413,6 +413,86 @@ Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTo
     ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef group As Double, _
     ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
     ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
+' ---- vector_extremes.h
+
+' The smallest element that is kept.
+Public Declare PtrSafe Function VB_V_Min Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer) As Double
+
+' The smallest element that is not missing.
+Public Declare PtrSafe Function VB_V_Min2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' The smallest of some integers.
+Public Declare PtrSafe Function VB_V_Min2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Double
+
+' The largest element that is kept. iMissing (Integer) may be null.
+Public Declare PtrSafe Function VB_V_Max Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any) As Double
+
+' The largest element that is not missing.
+Public Declare PtrSafe Function VB_V_Max2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' The largest of some integers.
+Public Declare PtrSafe Function VB_V_Max2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Double
+
+' The largest element of a host array that is not missing.
+Public Declare PtrSafe Function Cpp_V_Max2_ST Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Double, ByVal n As Long) As Double
+
+' The largest integer of a host array.
+Public Declare PtrSafe Function Cpp_V_Max2Lng_ST Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Long, ByVal n As Long) As Double
+
+' The largest integer that is kept, as an integer. iMissing (Integer) may be null.
+Public Declare PtrSafe Function VB_V_MaxInt Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef iMissing As Any) As Long
+
+' The smallest and the largest element that are kept.
+Public Declare PtrSafe Function VB_V_MinMax Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
+    ByRef iMissing As Integer) As Long
+
+' The smallest and the largest integer that are kept.
+Public Declare PtrSafe Function VB_V_MinMaxLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
+    ByRef iMissing As Integer) As Long
+
+' The smallest and the largest element.
+Public Declare PtrSafe Function VB_V_MinMax2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
+    ByVal bSkipMissing As Integer) As Long
+
+' The smallest and the largest of some integers.
+Public Declare PtrSafe Function VB_V_MinMaxLng2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
+    ByVal bSkipMissing As Integer) As Long
+
+' The smallest of all elements, missing ones too, and its position.
+Public Declare PtrSafe Function VB_V_MinAndMinPos Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef pos As Long, ByVal bLast As Integer) As Double
+
+' The largest of all elements, missing ones too, and the first of its positions.
+Public Declare PtrSafe Function VB_V_MaxAndMaxPos Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef pos As Long) As Double
+
+' ---- vector_frequencies.h
+
+' Total weight of the numbers that are near a value.
+Public Declare PtrSafe Function VB_V_Freq Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal value As Double, _
+    ByVal tol As Double) As Double
+
+' Total weight of the integers that are near a value.
+Public Declare PtrSafe Function VB_V_FreqLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef w As Double, ByVal value As Double, ByVal tol As Double) As Double
+
+' Total weight of the texts that equal a value: of the same length and with the same code units.
+Public Declare PtrSafe Function VB_V_FreqStr Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByRef w As Double, ByVal value As LongPtr) As Double
 
 ' ---- vector_means.h
 

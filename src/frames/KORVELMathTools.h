@@ -16,6 +16,8 @@
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
 #include "frames/survey_boxes.h"
+#include "frames/vector_extremes.h"
+#include "frames/vector_frequencies.h"
 #include "frames/vector_means.h"
 #include "frames/vector_moments.h"
 #include "frames/vector_sums.h"

@@ -88,6 +88,18 @@ inline double wrappedSum(const matrix<int>& x, int n)
     return static_cast<double>(low >= 0x80000000 ? low - 0x100000000 : low);
 }
 
+template <class T>
+double frequency(const matrix<T>& x, int n, const column& w, double value, double tol)
+{
+    double total = 0.0;
+    for (int i = 0; i < n; ++i) {
+        if (std::abs(x[i] - value) < tol) {
+            total += w[i];
+        }
+    }
+    return total;
+}
+
 /** How a mean ends when nothing can be divided by. */
 enum class no_mean_when { weight_is_zero, weight_is_not_positive };
 

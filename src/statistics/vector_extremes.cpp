@@ -1,0 +1,247 @@
+#include "statistics/vector_extremes.h"
+
+#include "containers/cells.h"
+#include "statistics/pairs.h"
+#include "statistics/stand_ins.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace
+{
+
+using korvel::only;
+using korvel::pair;
+using korvel::pairAt;
+using korvel::present;
+using korvel::twice;
+using korvel::withCells;
+
+struct extremes {
+    double smallest;
+    double largest;
+};
+
+constexpr extremes noExtremes{MISSING_DBL, MISSING_DBL};
+
+/** Which of two elements take part. */
+constexpr auto presentAndUnflagged = [](pair x, pair unflagged) { return only(unflagged, present(x)); };
+constexpr auto everyElement = [](pair, pair unflagged) { return unflagged; };
+
+/** The smallest and the largest so far in each of two lanes. */
+struct lane_extremes {
+    pair smallest;
+    pair largest;
+
+    /** An element that does not take part becomes a NaN, which never wins. */
+    void offer(pair x, pair kept)
+    {
+        const pair allBits = pairAt(korvel::no_flags{}, 0);
+        const pair candidate = _mm_or_pd(x, _mm_andnot_pd(kept, allBits));
+        smallest = _mm_min_pd(candidate, smallest);
+        largest = _mm_max_pd(candidate, largest);
+    }
+
+    void join(const lane_extremes& other)
+    {
+        smallest = _mm_min_pd(other.smallest, smallest);
+        largest = _mm_max_pd(other.largest, largest);
+    }
+};
+
+/** The first position from 0 whose element takes part; `n` or more when there is none. */
+template <class Cells, class Flags, class Kept>
+int firstKept(Cells x, int n, Flags flags, Kept kept)
+{
+    int i = 0;
+    while (i < n && _mm_movemask_pd(kept(twice(x, i), twice(flags, i))) == 0) {
+        ++i;
+    }
+    return i;
+}
+
+/**
+ * The extremes of the element at `first` and of those behind it that take part. Four of them are compared
+ * side by side, which decides differently only between zeros of different sign: then the first zero is looked
+ * up.
+ */
+template <class Cells, class Flags, class Kept>
+extremes extremesFrom(int first, Cells x, int n, Flags flags, Kept kept)
+{
+    const pair start = twice(x, first);
+    lane_extremes even{start, start};
+    lane_extremes odd = even;
+    int i = first + 1;
+    for (; i + 3 < n; i += 4) {
+        const pair here = pairAt(x, i);
+        const pair next = pairAt(x, i + 2);
+        even.offer(here, kept(here, pairAt(flags, i)));
+        odd.offer(next, kept(next, pairAt(flags, i + 2)));
+    }
+    for (; i < n; ++i) {
+        even.offer(twice(x, i), kept(twice(x, i), twice(flags, i)));
+    }
+    even.join(odd);
+
+    const auto signedAsFirst = [&](double value) {
+        int k = first;
+        while (value == 0.0 && !(x[k] == 0.0 && _mm_movemask_pd(kept(twice(x, k), twice(flags, k))) != 0)) {
+            ++k;
+        }
+        return value == 0.0 ? static_cast<double>(x[k]) : value;
+    };
+    const pair low = _mm_min_pd(even.smallest, _mm_unpackhi_pd(even.smallest, even.smallest));
+    const pair high = _mm_max_pd(even.largest, _mm_unpackhi_pd(even.largest, even.largest));
+    return {signedAsFirst(low[0]), signedAsFirst(high[0])};
+}
+
+template <class T, class Flags>
+extremes keptExtremes(const matrix<T>& x, int n, Flags flags)
+{
+    const auto find = [=](auto cells) {
+        const int first = firstKept(cells, n, flags, presentAndUnflagged);
+        return first < n ? extremesFrom(first, cells, n, flags, presentAndUnflagged) : noExtremes;
+    };
+    return withCells(n, find, x);
+}
+
+template <class T>
+extremes presentExtremes(const matrix<T>& x, int n)
+{
+    return keptExtremes(x, n, korvel::no_flags{});
+}
+
+template <class T>
+double largestKept(const matrix<T>& x, int n, const short int* iMissing)
+{
+    return korvel::withFlags(iMissing, [&](auto flags) { return keptExtremes(x, n, flags).largest; });
+}
+
+template <class T>
+void minMax(const matrix<T>& x, int n, double* min, double* max, const short int* iMissing)
+{
+    const extremes found = keptExtremes(x, n, iMissing);
+    *min = found.smallest;
+    *max = found.largest;
+}
+
+template <class T>
+void minMax2(const matrix<T>& x, int n, double* min, double* max, short int bSkipMissing)
+{
+    const korvel::no_flags flags;
+    const auto find = [=](auto cells) -> extremes {
+        const int first = bSkipMissing != 0 ? firstKept(cells, n, flags, presentAndUnflagged) : 0;
+        if (bSkipMissing != 0 && first >= n) {
+            return {MISSING_DBL, static_cast<double>(cells[0])};
+        }
+        return extremesFrom(first, cells, n, flags, everyElement);
+    };
+    const extremes found = withCells(std::max(n, 1), find, x);
+    *min = found.smallest;
+    *max = found.largest;
+}
+
+/** The element that `replaces` all those before it, starting from the first, and its position from 1. */
+template <class T, class Replaces>
+double withPosition(const matrix<T>& x, int n, int* pos, Replaces replaces)
+{
+    const auto find = [=](auto cells) {
+        T best = cells[0];
+        *pos = 1;
+        for (int i = 1; i < n; ++i) {
+            if (replaces(cells[i], best)) {
+                best = cells[i];
+                *pos = i + 1;
+            }
+        }
+        return static_cast<double>(best);
+    };
+    return withCells(std::max(n, 1), find, x);
+}
+
+} // namespace
+
+double V_Min(matrix<double>* x, int n, short int* iMissing)
+{
+    return keptExtremes(*x, n, iMissing).smallest;
+}
+
+double V_Min(matrix<int>* x, int n, short int* iMissing)
+{
+    return keptExtremes(*x, n, iMissing).smallest;
+}
+
+double V_Max(matrix<double>* x, int n, short int* iMissing)
+{
+    return largestKept(*x, n, iMissing);
+}
+
+double V_Max(matrix<int>* x, int n, short int* iMissing)
+{
+    return largestKept(*x, n, iMissing);
+}
+
+double V_Min2(const matrix<double>& x, int n)
+{
+    return presentExtremes(x, n).smallest;
+}
+
+double V_Min2(matrix<double>* x, int n)
+{
+    return V_Min2(*x, n);
+}
+
+double V_Min2(matrix<int>* x, int n)
+{
+    return presentExtremes(*x, n).smallest;
+}
+
+double V_Max2(const matrix<double>& x, int n)
+{
+    return presentExtremes(x, n).largest;
+}
+
+double V_Max2(matrix<double>* x, int n)
+{
+    return V_Max2(*x, n);
+}
+
+int V_Max2(matrix<int>* x, int n)
+{
+    return n < 1 ? MISSING_LNG : static_cast<int>(presentExtremes(*x, n).largest);
+}
+
+void V_MinMax(matrix<double>* x, int n, double* min, double* max, short int* iMissing)
+{
+    minMax(*x, n, min, max, iMissing);
+}
+
+void V_MinMax(matrix<int>* x, int n, double* min, double* max, short int* iMissing)
+{
+    minMax(*x, n, min, max, iMissing);
+}
+
+void V_MinMax2(matrix<double>* x, int n, double* min, double* max, short int bSkipMissing)
+{
+    minMax2(*x, n, min, max, bSkipMissing);
+}
+
+void V_MinMax2(matrix<int>* x, int n, double* min, double* max, short int bSkipMissing)
+{
+    minMax2(*x, n, min, max, bSkipMissing);
+}
+
+double V_MinAndMinPos(matrix<double>* x, int n, int* pos, bool bLast)
+{
+    return bLast ? withPosition(*x, n, pos, std::less_equal<>{}) : withPosition(*x, n, pos, std::less<>{});
+}
+
+double V_MaxAndMaxPos(matrix<double>* x, int n, int* pos)
+{
+    return withPosition(*x, n, pos, std::greater<>{});
+}
+
+double V_MaxAndMaxPos(matrix<int>* x, int n, int* pos)
+{
+    return withPosition(*x, n, pos, std::greater<>{});
+}
