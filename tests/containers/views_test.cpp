@@ -160,6 +160,8 @@ TEST_F(Forms, CheckedReadsAreThoseOfTheForm)
     EXPECT_TRUE(sameBits(reading(pointers.data()).get(-1, 1), -1.0));
     EXPECT_FALSE(reading(dense).column(2, 3).inside());
     EXPECT_FALSE(reading(dense).column(-1, 3).inside());
+    EXPECT_FALSE(reading(dense).table(3, 3).inside());
+    EXPECT_TRUE(reading(dense).table(3, 2).inside());
 }
 
 TEST_F(Forms, AChunkCountsItsElementsNotItsRows)
@@ -248,8 +250,9 @@ TEST_F(Forms, TablesAreReachedInAnyOrder)
     for (const int rows : {storedRows, storedRows + 1}) {
         forEachRead([&](int form, auto view) {
             SCOPED_TRACE(testing::Message() << "form " << form << ", " << rows << " rows");
-            matrix<double> out(storedCols, storedRows, 0.0);
+            matrix<double> out(storedCols, storedRows + 1, 0.0);
             transpose(rows, storedCols, view, writing(out));
+            EXPECT_TRUE(sameBits(out.getElement(0, storedRows), rows == storedRows ? 0.0 : -1.0));
             for (int r = 0; r < storedRows; ++r) {
                 for (int c = 0; c < storedCols; ++c) {
                     EXPECT_TRUE(sameBits(out.getElement(c, r), cellValue(r, c)));
@@ -260,8 +263,8 @@ TEST_F(Forms, TablesAreReachedInAnyOrder)
     }
     forEachWritten([&](int form, auto view) {
         SCOPED_TRACE(form);
-        matrix<double> in(storedCols, storedRows, 0.0);
-        for (int k = 0; k < 6; ++k) {
+        matrix<double> in(storedCols, storedRows + 1, 0.0);
+        for (int k = 0; k < 8; ++k) {
             in[k] = k;
         }
         transpose(storedCols, storedRows, reading(in), view);
@@ -269,6 +272,11 @@ TEST_F(Forms, TablesAreReachedInAnyOrder)
         EXPECT_TRUE(sameBits(view.get(2, 0), 4.0));
         EXPECT_TRUE(sameBits(spareOf(form, 1), 5.0));
         EXPECT_TRUE(sameBits(spareOf(form, 0), form == 0 ? 5.0 : 4.0));
+        // A row more than the table has goes to the spare slot alone.
+        transpose(storedCols, storedRows + 1, reading(in), view);
+        EXPECT_TRUE(sameBits(view.get(0, 1), 1.0));
+        EXPECT_TRUE(sameBits(view.get(2, 1), 5.0));
+        EXPECT_TRUE(sameBits(spareOf(form, 1), 7.0));
     });
 }
 
@@ -283,19 +291,23 @@ TEST(Triangle, IsReadAndWrittenOnBothSidesOfTheDiagonal)
         if (seen > order) {
             table.chunks.emplace_back();
         }
-        withCells(
-            [](auto& stored) {
-                for (int i = 0; i < order; ++i) {
-                    for (int j = 0; j < order; ++j) {
-                        stored.set(i, j, 10.0 * std::max(i, j) + std::min(i, j));
+        // The half above the diagonal, then the one below it, with other values.
+        for (const bool above : {true, false}) {
+            const double sign = above ? -1.0 : 1.0;
+            withCells(
+                [&](auto& stored) {
+                    for (int i = 0; i < order; ++i) {
+                        for (int j = 0; j <= i; ++j) {
+                            stored.set(above ? j : i, above ? i : j, sign * (10.0 * i + j));
+                        }
                     }
-                }
-            },
-            writing(table).triangle(seen));
-        EXPECT_TRUE(sameBits(table.chunks[1][1], 21.0));
-        EXPECT_TRUE(sameBits(table.chunks[0][2], 20.0));
-        EXPECT_TRUE(sameBits(table.chunks[0].oobValue, 20.0));
-        EXPECT_TRUE(sameBits(table.chunks[2].oobValue, 22.0));
+                },
+                writing(table).triangle(seen));
+            EXPECT_TRUE(sameBits(table.chunks[1][1], sign * 21.0));
+            EXPECT_TRUE(sameBits(table.chunks[0][2], sign * 20.0));
+            EXPECT_TRUE(sameBits(table.chunks[0].oobValue, sign * 20.0));
+            EXPECT_TRUE(sameBits(table.chunks[2].oobValue, sign * 22.0));
+        }
         withCells(
             [](auto stored) {
                 for (int i = 0; i < order; ++i) {
