@@ -413,6 +413,7 @@ Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTo
     ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef group As Double, _
     ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
     ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
+
 ' ---- vector_extremes.h
 
 ' The smallest element that is kept.
