@@ -268,6 +268,24 @@ Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
     ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
 
+' ---- row_grouping.h
+
+' Aggregates the rows that share the value of a key column, in ascending order of the keys, compared
+' exactly.
+Public Declare PtrSafe Function VB_M_GroupBy Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
+    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double) As Long
+
+' Aggregates the rows that share the value of a key column, with a weight for each row.
+Public Declare PtrSafe Function VB_M_GroupByW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
+    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double, _
+    ByRef w As Double) As Long
+
+' Merges rows that are equal, exactly, in all data columns.
+Public Declare PtrSafe Function VB_M_Dedupe Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal p As Long, ByRef nOut As Long, ByRef out As Double) As Long
+
 ' ---- sort_table.h
 
 ' Orders the rows of a table of numbers by a key, on copies that then replace the caller's arrays.
@@ -479,6 +497,10 @@ Public Declare PtrSafe Function VB_V_MinAndMinPos Lib "KORVELMathTools.dll" ( _
 ' The largest of all elements, missing ones too, and the first of its positions.
 Public Declare PtrSafe Function VB_V_MaxAndMaxPos Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef pos As Long) As Double
+
+' The smallest element of a record of labelled columns that is not missing.
+Public Declare PtrSafe Function Cpp_V_Min3 Lib "KORVELMathTools.dll" ( _
+    ByVal record As LongPtr, ByVal nRows As Long, ByVal nCols As Long) As Double
 
 ' ---- vector_frequencies.h
 

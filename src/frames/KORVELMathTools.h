@@ -13,6 +13,7 @@
 #include "frames/ranks.h"
 #include "frames/records.h"
 #include "frames/reverse.h"
+#include "frames/row_grouping.h"
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
 #include "frames/survey_boxes.h"

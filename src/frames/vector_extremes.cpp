@@ -2,6 +2,7 @@
 
 #include "containers/conversion.h"
 #include "frames/frame.h"
+#include "statistics/table_extremes.h"
 #include "statistics/vector_extremes.h"
 
 using namespace korvel;
@@ -95,4 +96,10 @@ double VB_V_MaxAndMaxPos(double* x, int n, int* pos)
 {
     auto values = frame::borrow(x, n);
     return V_MaxAndMaxPos(&values, n, pos);
+}
+
+double Cpp_V_Min3(ST_MVect* record, int nRows, int nCols)
+{
+    const auto table = frame::record<double>(record);
+    return smallestOf(table, nRows, nCols);
 }

@@ -166,4 +166,14 @@ KORVEL_FLAT double VB_V_MinAndMinPos(double* x, int n, int* pos, short int bLast
  */
 KORVEL_FLAT double VB_V_MaxAndMaxPos(double* x, int n, int* pos);
 
+/**
+ * The smallest element of a record of labelled columns that is not missing.
+ *
+ * @param record [in] the record
+ * @param nRows  rows to look at; below 1 there is nothing
+ * @param nCols  columns to look at
+ * @return the element; missing when there is none, or when it is 1.79769313486231e308 or above
+ */
+KORVEL_FLAT double Cpp_V_Min3(ST_MVect* record, int nRows, int nCols);
+
 #endif

@@ -76,6 +76,19 @@ void sortTable(Table& table, int rows, int cols, int from, int to, matrix<Key>& 
     }
 }
 
+/** Moves the rows of the range in a sparse table, from a dense copy. */
+void moveRowsOf(matrixSparse& table, int rows, int cols, const korvel::row_range& range,
+                const korvel::sorted_numbers<double>& sorted)
+{
+    const matrix<double> copy = table.to_matrix(std::min(rows, table.nbrows), std::min(cols, table.nbcols));
+    for (int k = 0; k < range.count && range.first + range.count <= copy.nbrows; ++k) {
+        const int source = range.first + sorted.position(static_cast<std::size_t>(k));
+        for (int j = 0; j < std::min(cols, table.nbcols); ++j) {
+            table.setElement(range.first + k, j, copy.getElement(source, j));
+        }
+    }
+}
+
 /** Moves whole columns, `rows` cells of each: rank k goes to column `range.first + k`. */
 void moveColumnsOf(matrix<double>& table, int rows, const korvel::row_range& range,
                    const korvel::sorted_numbers<double>& sorted)
@@ -133,6 +146,18 @@ void SortQ(cST_MVect<text>& table, int rows, int cols, int from, int to, matrix<
            matrix<text>* aux, int auxCols, bool bDesc, bool bSortKey)
 {
     sortTable(table, rows, cols, from, to, *key, aux, auxCols, bDesc, bSortKey);
+}
+
+void SortQ(matrixSparse* table, int rows, int cols, int from, int to, matrix<double>* key, matrixSparse* aux,
+           int auxCols, bool bDesc, bool)
+{
+    const korvel::row_range range(from, to, rows);
+    const auto sorted = sortKeys(*key, range, bDesc);
+    moveRowsOf(*table, rows, cols, range, sorted);
+    if (auxCols > 0 && aux != table) {
+        moveRowsOf(*aux, rows, auxCols, range, sorted);
+    }
+    writeKeys(sorted, range, *key);
 }
 
 void SortQByCol(matrix<double>* table, int rows, int cols, int from, int to, matrix<double>* key,

@@ -12,6 +12,7 @@
 
 #include "containers/matrix.h"
 #include "containers/records.h"
+#include "containers/sparse_matrix.h"
 #include "platform/export.h"
 
 /**
@@ -46,6 +47,13 @@ KORVEL_API void SortQ(cST_MVect<double>& table, int rows, int cols, int from, in
                       matrix<double>* aux, int auxCols, bool bDesc, bool bSortKey);
 KORVEL_API void SortQ(cST_MVect<text>& table, int rows, int cols, int from, int to, matrix<double>* key,
                       matrix<text>* aux, int auxCols, bool bDesc, bool bSortKey);
+
+/**
+ * The same on sparse tables. Each moved cell is written through `matrixSparse::setElement`, so a magnitude
+ * below 1e-18 is no entry. The key is always rewritten in sorted order, whatever `bSortKey` says.
+ */
+KORVEL_API void SortQ(matrixSparse* table, int rows, int cols, int from, int to, matrix<double>* key,
+                      matrixSparse* aux, int auxCols, bool bDesc, bool bSortKey);
 
 /**
  * Orders the columns of a table by a key that has one entry a column.

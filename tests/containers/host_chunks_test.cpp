@@ -1,5 +1,6 @@
 #include "containers/host_chunks.h"
 #include "support/allocations.h"
+#include "support/automation_watch.h"
 #include "support/bits.h"
 #include "support/caller_memory.h"
 #include "support/leaks.h"
@@ -7,10 +8,6 @@
 #include <array>
 #include <new>
 #include <vector>
-
-#ifndef _WIN32
-#include "platform/automation/counters.h"
-#endif
 
 using namespace korvel::test;
 
@@ -51,6 +48,7 @@ TEST(LoadHostarray, BorrowsTheColumnsWithoutACopy)
     SAFEARRAY* second = table.memory.array(numbers{4.0, 5.0, 6.0});
     table.set({{first, nullptr}, {second, nullptr}});
 
+    const automation_watch watch;
     const auto before = allocationCount();
     matrix<double>** chunks = LoadHostarray(table.reference(), 2, 3, 1);
     EXPECT_EQ(allocationCount() - before, 3) << "the array and two descriptors";
@@ -65,6 +63,8 @@ TEST(LoadHostarray, BorrowsTheColumnsWithoutACopy)
     }
     chunks[1]->setElement(2, 0, 9.0);
     DeleteHostarray(chunks, 2);
+    EXPECT_TRUE(watch.blocks(0, 0));
+    EXPECT_TRUE(watch.arrays(0, 0));
     EXPECT_EQ(numbersIn<double>(first), (numbers{1.0, 2.0, 3.0}));
     EXPECT_EQ(numbersIn<double>(second), (numbers{4.0, 5.0, 9.0}));
     EXPECT_TRUE(table.memory.guardsIntact());
@@ -193,17 +193,9 @@ TEST(SaveHostarray, ReplacesOnlyTheTextsThatChanged)
     matrix<text>** chunks = LoadHostarrayStr(table.reference(), 3, 3, 1);
     (*chunks[0])[1] = u"new";
     (*chunks[2])[2] = text(u"cut\0off", 7);
-#ifndef _WIN32
-    KorvelAutomationCounters before{};
-    KorvelReadAutomationCounters(&before);
-#endif
+    const automation_watch watch;
     SaveHostarray(chunks, 3, 99, table.reference());
-#ifndef _WIN32
-    KorvelAutomationCounters after{};
-    KorvelReadAutomationCounters(&after);
-    EXPECT_EQ(after.textsMade - before.textsMade, 2);
-    EXPECT_EQ(after.textsFreed - before.textsFreed, 2);
-#endif
+    EXPECT_TRUE(watch.texts(2, 2));
     DeleteHostarrayStr(chunks, 3);
 
     const auto placesAfter = numbersIn<BSTR>(first);

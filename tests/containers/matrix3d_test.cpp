@@ -2,6 +2,7 @@
 
 #include "containers/views.h"
 #include "support/allocations.h"
+#include "support/automation_watch.h"
 #include "support/bits.h"
 #include "support/caller_memory.h"
 
@@ -164,6 +165,7 @@ TEST(Matrix3D, AttachesToTheColumnsOfRecords)
     const std::vector<Hostarray> records{{first, nullptr}, {nullptr, nullptr}, {third, nullptr}};
     SAFEARRAY* array = caller.array(records);
 
+    const automation_watch watch;
     const auto before = allocationCount();
     {
         matrix3D<matrix<double>> table(3, reference(array));
@@ -179,6 +181,7 @@ TEST(Matrix3D, AttachesToTheColumnsOfRecords)
         EXPECT_TRUE(sameBits(table.getElement(2, 3), 6.0)) << "an element number is linear";
         table.setElement(0, 1, 7.0);
     }
+    EXPECT_TRUE(watch.arrays(0, 0)) << "the caller's arrays live on";
     EXPECT_EQ(numbersIn<double>(first), (numbers{1.0, 7.0}));
     EXPECT_TRUE(caller.guardsIntact());
 }
