@@ -2,6 +2,7 @@
 
 #include "containers/cells.h"
 #include "containers/host_array.h"
+#include "containers/sparse_matrix.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -135,9 +136,32 @@ void matrix3DVect<M>::vbset(int a, int b, double v)
     setElement(a - 1, b - 1, v);
 }
 
-template class matrix3D<matrix<double>>;
-template class matrix3D<statistics_matrix<double>>;
-template class matrix3DVect<matrix<double>>;
+// Member by member: of a class that is instantiated whole, Clang 14 also makes the members whose constraint
+// does not hold.
+template matrix3D<matrix<double>>::matrix3D(int, Hostarray**);
+template matrix3D<matrix<double>>::matrix3D(int, int, int, double);
+template matrix3D<statistics_matrix<double>>::matrix3D(int, int, int, double);
+
+template double matrix3D<matrix<double>>::getElement(int, int);
+template double matrix3D<matrix<double>>::vbget(int, int);
+template void matrix3D<matrix<double>>::setElement(int, int, const double&);
+template void matrix3D<matrix<double>>::vbset(int, int, double);
+
+template double matrix3D<statistics_matrix<double>>::getElement(int, int);
+template double matrix3D<statistics_matrix<double>>::vbget(int, int);
+template void matrix3D<statistics_matrix<double>>::setElement(int, int, const double&);
+template void matrix3D<statistics_matrix<double>>::vbset(int, int, double);
+
+template double matrix3D<matrixSparse>::getElement(int, int);
+template double matrix3D<matrixSparse>::vbget(int, int);
+template void matrix3D<matrixSparse>::setElement(int, int, const double&);
+template void matrix3D<matrixSparse>::vbset(int, int, double);
+
+template matrix3DVect<matrix<double>>::matrix3DVect(SAFEARRAY*);
+template double matrix3DVect<matrix<double>>::getElement(int, int);
+template double matrix3DVect<matrix<double>>::vbget(int, int);
+template void matrix3DVect<matrix<double>>::setElement(int, int, const double&);
+template void matrix3DVect<matrix<double>>::vbset(int, int, double);
 
 double korvel::sumOfElements(const matrix3DVect<matrix<double>>& table)
 {

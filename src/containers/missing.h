@@ -33,7 +33,7 @@ KORVEL_API short int IsMissingValue(const std::basic_string<char16_t>& value);
 KORVEL_API short int IsMissingValue(OLECHAR* const& value);
 
 template <class T>
-class matrix;
+class KORVEL_TYPE matrix;
 
 /**
  * Combines the two sources of missingness of a vector.

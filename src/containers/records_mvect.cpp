@@ -71,7 +71,27 @@ void cST_MVect<T>::writeJson(JsonMaker& writer, const std::string& key)
     writer.endObject();
 }
 
-template class cST_MVect<double>;
-template class cST_MVect<int>;
-template class cST_MVect<short int>;
-template class cST_MVect<text>;
+// Member by member: of a class that is instantiated whole, Clang 14 also makes the members whose constraint
+// does not hold.
+template cST_MVect<double>::cST_MVect(ST_MVect*);
+template cST_MVect<text>::cST_MVect(ST_MVect*);
+
+template cST_MVect<double>::cST_MVect(int, int);
+template cST_MVect<int>::cST_MVect(int, int);
+template cST_MVect<short int>::cST_MVect(int, int);
+template cST_MVect<text>::cST_MVect(int, int);
+
+template cST_MVect<double>::cST_MVect(const cST_MVect&);
+template cST_MVect<int>::cST_MVect(const cST_MVect&);
+template cST_MVect<short int>::cST_MVect(const cST_MVect&);
+template cST_MVect<text>::cST_MVect(const cST_MVect&);
+
+template cST_MVect<double>::~cST_MVect();
+template cST_MVect<int>::~cST_MVect();
+template cST_MVect<short int>::~cST_MVect();
+template cST_MVect<text>::~cST_MVect();
+
+template void cST_MVect<double>::writeJson(JsonMaker&, const std::string&);
+template void cST_MVect<int>::writeJson(JsonMaker&, const std::string&);
+template void cST_MVect<short int>::writeJson(JsonMaker&, const std::string&);
+template void cST_MVect<text>::writeJson(JsonMaker&, const std::string&);

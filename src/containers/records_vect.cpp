@@ -27,7 +27,18 @@ void cST_Vect<T>::writeJson(JsonMaker& writer, const std::string& key)
     writer.endObject();
 }
 
-template class cST_Vect<double>;
-template class cST_Vect<int>;
-template class cST_Vect<short int>;
-template class cST_Vect<text>;
+// Member by member: of a class that is instantiated whole, Clang 14 also makes the members whose constraint
+// does not hold.
+template cST_Vect<double>::cST_Vect(ST_Vect*);
+template cST_Vect<short int>::cST_Vect(ST_Vect*);
+template cST_Vect<text>::cST_Vect(ST_Vect*);
+
+template cST_Vect<double>::~cST_Vect();
+template cST_Vect<int>::~cST_Vect();
+template cST_Vect<short int>::~cST_Vect();
+template cST_Vect<text>::~cST_Vect();
+
+template void cST_Vect<double>::writeJson(JsonMaker&, const std::string&);
+template void cST_Vect<int>::writeJson(JsonMaker&, const std::string&);
+template void cST_Vect<short int>::writeJson(JsonMaker&, const std::string&);
+template void cST_Vect<text>::writeJson(JsonMaker&, const std::string&);

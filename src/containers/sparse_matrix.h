@@ -38,7 +38,7 @@ class cST_MVect;
  *
  * One thread at a time may write an object.
  */
-class matrixSparse
+class KORVEL_TYPE matrixSparse
 {
 public:
     std::int32_t nbrows = 0;

@@ -310,9 +310,10 @@ template <composed_table Table>
         return chunk_view<seen, decltype(chunks)>(chunks);
     };
     if constexpr (holds_chunks<Table>) {
-        return view(chunk_objects{table.chunks.data()});
+        return view(chunk_objects<std::remove_pointer_t<decltype(table.chunks.data())>>{table.chunks.data()});
     } else if constexpr (holds_labelled_columns<Table>) {
-        return view(record_columns{table.Vectors.data()});
+        return view(
+            record_columns<std::remove_pointer_t<decltype(table.Vectors.data())>>{table.Vectors.data()});
     } else {
         return element_view<Table>(table);
     }

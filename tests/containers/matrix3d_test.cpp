@@ -1,4 +1,5 @@
 #include "containers/matrix3d.h"
+#include "containers/sparse_matrix.h"
 
 #include "containers/views.h"
 #include "support/allocations.h"
@@ -313,4 +314,15 @@ TEST(Matrix3DVect, RefusesAColumnWithTooManyRows)
     ST_MVect record = caller.table({caller.column(u"x", numbers{1.0})}, {u"x"});
     columnOf(record, 0).Vect->rgsabound[0].cElements = 0x80000000u;
     EXPECT_THROW((matrix3DVect<matrix<double>>(record.Vectors)), boost::numeric::positive_overflow);
+}
+
+TEST(Matrix3DOfSparse, LinearAccessorsReadNothingAndStoreNothing)
+{
+    matrix3D<matrixSparse> table;
+    table.chunks.emplace_back(2, 2, 5.0, false);
+    table.setElement(0, 1, 3.0);
+    table.vbset(1, 1, 3.0);
+    EXPECT_EQ(table.getElement(0, 1), 0.0);
+    EXPECT_EQ(table.vbget(1, 1), 0.0);
+    EXPECT_EQ(table.chunks[0].nnz, 4);
 }
