@@ -10,6 +10,7 @@ namespace
 constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
 
 thread_local std::int64_t made = 0;
+thread_local std::int64_t freed = 0;
 thread_local std::int64_t madeAtMost = unlimited;
 
 } // namespace
@@ -20,6 +21,11 @@ namespace korvel::test
 std::int64_t allocationCount()
 {
     return made;
+}
+
+std::int64_t allocationsAlive()
+{
+    return made - freed;
 }
 
 allocation_limit::allocation_limit(std::int64_t allowed)
@@ -50,10 +56,13 @@ void* operator new(std::size_t size)
 
 void operator delete(void* block) noexcept
 {
-    std::free(block);
+    if (block != nullptr) {
+        ++freed;
+        std::free(block);
+    }
 }
 
 void operator delete(void* block, std::size_t) noexcept
 {
-    std::free(block);
+    operator delete(block);
 }

@@ -9,6 +9,9 @@ namespace korvel::test
 /** How many blocks this thread has had from `operator new` since it started. */
 [[nodiscard]] std::int64_t allocationCount();
 
+/** How many of these blocks it has not given back. */
+[[nodiscard]] std::int64_t allocationsAlive();
+
 /** While it lives, this thread gets `allowed` further blocks from `operator new`, and then std::bad_alloc. */
 class allocation_limit
 {
