@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <concepts>
 #include <cstdint>
+#include <limits>
+#include <new>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -247,10 +249,19 @@ private:
         bOwner = false;
     }
 
+    /** A count that turned negative has no block, whatever a compiler makes of its size in bytes. */
+    [[nodiscard]] static T* newBlock(std::uint64_t count, bool zeroed)
+    {
+        if (count > static_cast<std::uint64_t>(std::numeric_limits<std::int32_t>::max())) {
+            throw std::bad_alloc();
+        }
+        return zeroed ? new T[count]() : new T[count];
+    }
+
     void allocate(int rows, int cols, bool zeroed)
     {
         setCounts(rows, std::max(cols, 1));
-        data = zeroed ? new T[nbElem]() : new T[nbElem];
+        data = newBlock(nbElem, zeroed);
         capacity = nbElem;
     }
 
@@ -268,7 +279,7 @@ private:
             releaseBlock();
             data = nullptr;
             capacity = 0;
-            data = new T[nbElem];
+            data = newBlock(nbElem, false);
             capacity = nbElem;
         }
     }

@@ -397,7 +397,7 @@ private:
         const bool attached = model_.kind == storage::attached;
         const bool differs = attached && (rows != arrayModel_.count(0) || cols != arrayModel_.count(1));
         const bool refused = differs && !arrayModel_.canBecome(cols);
-        if (!korvel::is_text<T> && refused && count > arrayModel_.numbers.size()) {
+        if (!korvel::is_text<T> && refused && count > arrayModel_.length()) {
             return; // The counts would go past the caller's memory.
         }
 

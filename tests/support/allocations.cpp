@@ -40,7 +40,7 @@ allocation_limit::~allocation_limit()
 
 } // namespace korvel::test
 
-// The array and the non-throwing forms of the language's own library come here too.
+// All forms are replaced, since a sanitizer has its own of each one that is not.
 void* operator new(std::size_t size)
 {
     if (made >= madeAtMost) {
@@ -54,6 +54,25 @@ void* operator new(std::size_t size)
     return block;
 }
 
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    try {
+        return operator new(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    return operator new(size, std::nothrow);
+}
+
 void operator delete(void* block) noexcept
 {
     if (block != nullptr) {
@@ -63,6 +82,26 @@ void operator delete(void* block) noexcept
 }
 
 void operator delete(void* block, std::size_t) noexcept
+{
+    operator delete(block);
+}
+
+void operator delete[](void* block) noexcept
+{
+    operator delete(block);
+}
+
+void operator delete[](void* block, std::size_t) noexcept
+{
+    operator delete(block);
+}
+
+void operator delete(void* block, const std::nothrow_t&) noexcept
+{
+    operator delete(block);
+}
+
+void operator delete[](void* block, const std::nothrow_t&) noexcept
 {
     operator delete(block);
 }
