@@ -9,6 +9,7 @@
 #include "frames/containers.h"
 #include "frames/distinct.h"
 #include "frames/quantiles.h"
+#include "frames/permutations.h"
 #include "frames/random.h"
 #include "frames/ranks.h"
 #include "frames/records.h"
