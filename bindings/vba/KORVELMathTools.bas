@@ -174,6 +174,58 @@ Public Declare PtrSafe Function Cpp_V_MedianAbsDev2 Lib "KORVELMathTools.dll" ( 
 ' Moves the elements outside two quantiles onto them.
 Public Declare PtrSafe Function Cpp_V_Winsorize2 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal qLow As Double, ByVal qHigh As Double) As Long
+' ---- permutations.h
+
+' Random permutation of the integers 1 to n.
+Public Declare PtrSafe Function Cpp_Random1toNLong Lib "KORVELMathTools.dll" ( _
+    ByRef out As Long, ByVal n As Long, ByVal bReset As Integer, ByRef seed As Long, _
+    ByRef flag As Integer, ByRef nextSeed As Long) As Long
+
+' Random permutation of the numbers 1 to n.
+Public Declare PtrSafe Function Cpp_Random1toNDbl Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal n As Long, ByVal bReset As Integer, ByRef seed As Long, _
+    ByRef flag As Integer, ByRef nextSeed As Long) As Long
+
+' Random permutation of the integers from a to b, of which the array gets all but the last two.
+Public Declare PtrSafe Function Cpp_RandomAtoBLng Lib "KORVELMathTools.dll" ( _
+    ByRef out As Long, ByVal a As Long, ByVal b As Long, ByVal bReset As Integer, _
+    ByRef seed As Long, ByRef flag As Integer, ByRef nextSeed As Long) As Long
+
+' Random permutation of the numbers from a to b in steps of 1, of which the array gets all but the
+' last two.
+Public Declare PtrSafe Function Cpp_RandomAtoBDbl Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal a As Long, ByVal b As Long, ByVal bReset As Integer, _
+    ByRef seed As Long, ByRef flag As Integer, ByRef nextSeed As Long) As Long
+
+' Shuffles a vector of numbers.
+Public Declare PtrSafe Function Cpp_V_Shuffle Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Shuffles a vector of integers.
+Public Declare PtrSafe Function Cpp_V_ShuffleLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Shuffles the rows of a table of numbers in place; the columns of a row stay together.
+Public Declare PtrSafe Function Cpp_M_ShuffleDbl2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' Shuffles the rows of a table of texts in place; the columns of a row stay together.
+Public Declare PtrSafe Function Cpp_M_ShuffleStr2 Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' Shuffles the rows of a table of numbers into another table; the columns of a row stay together.
+Public Declare PtrSafe Function Cpp_M_ShuffleDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
+    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' Shuffles the rows of a table of texts into another table; the columns of a row stay together.
+Public Declare PtrSafe Function Cpp_M_ShuffleStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr, _
+    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Long
 
 ' ---- random.h
 
@@ -267,6 +319,61 @@ Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
 ' Strips spaces (U+0020) from the ends of texts, in place.
 Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
     ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
+' ---- sampling.h
+
+' Marks a range of elements.
+Public Declare PtrSafe Function VB_GenerateIndicator Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal n As Long, ByVal first As Long, ByVal last As Long) As Long
+
+' Marks a range of elements of a host array.
+Public Declare PtrSafe Function Cpp_GenerateIndicator_ST Lib "KORVELMathTools.dll" ( _
+    ByRef out() As Double, ByVal n As Long, ByVal first As Long, ByVal last As Long) As Long
+
+' Marks a random subset of k out of n elements: those of the k smallest of n uniform draws.
+Public Declare PtrSafe Function VB_GenerateRandomIndicator Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal n As Long, ByVal k As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' Marks a random subset of k out of n elements of a host array.
+Public Declare PtrSafe Function Cpp_GenerateRandomIndicator_ST Lib "KORVELMathTools.dll" ( _
+    ByRef out() As Double, ByVal n As Long, ByVal k As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' Simple random sample of rows with replacement, in the order of the rows.
+Public Declare PtrSafe Function VB_M_SamplingWithReplacement Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Takes each row as many times as the caller says, in the order of the rows.
+Public Declare PtrSafe Function VB_M_SampleUserDefined Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal sample As LongPtr, _
+    ByRef counts As Double, ByRef selected As Double) As Long
+
+' Systematic sample of rows with a random start: with the step s, the quotient (rows - 1) / (k - 1)
+' without its fraction, every s-th row from a random one of the first rows - (k - 1) s.
+Public Declare PtrSafe Function VB_M_SamplingSystematicRdStart Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Systematic sample of rows with a start in the middle of the possible ones.
+Public Declare PtrSafe Function VB_M_SamplingSystematicCentered Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double) As Long
+
+' One random row from each of k strata of consecutive rows.
+Public Declare PtrSafe Function VB_M_SamplingRandomStratified Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Simple random sample with replacement from each stratum, a stratum being the rows of one label.
+Public Declare PtrSafe Function Cpp_M_SamplingRandomStratifiedByStr Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByVal strata As LongPtr, ByRef selected As Double, _
+    ByRef counts As Double, ByVal nCounts As Long, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
 
 ' ---- row_grouping.h
 

@@ -15,6 +15,7 @@
 #include "frames/records.h"
 #include "frames/reverse.h"
 #include "frames/row_grouping.h"
+#include "frames/sampling.h"
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
 #include "frames/survey_boxes.h"

@@ -1,0 +1,81 @@
+#include "random/sampling.h"
+
+#include "containers/conversion.h"
+#include "containers/views.h"
+#include "random/copy_rows.h"
+#include "random/random_generators.h"
+#include "random/row_choice.h"
+
+#include <algorithm>
+#include <limits>
+
+using korvel::chosen_rows;
+using korvel::copyRows;
+using korvel::reading;
+using korvel::writing;
+
+void M_SamplingWithReplacement(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,
+                               matrix<double>* selected, int* seed, short int flag, int* nextSeed)
+{
+    const chosen_rows chosen = korvel::rowsWithReplacement(rows, k, seed, flag, nextSeed);
+    korvel::storeRowNumbers(chosen, *selected);
+    copyRows(chosen, cols, reading(*table), writing(*sample));
+}
+
+void M_SampleUserDefined(matrix<text>* table, int rows, int cols, matrix<text>* sample,
+                         matrix<double>* counts, matrix<double>* selected)
+{
+    const chosen_rows chosen = korvel::userDefinedRows(*counts, rows);
+    korvel::storeRowNumbers(chosen, *selected);
+    copyRows(chosen, cols, reading(*table), writing(*sample));
+}
+
+void M_SamplingSystematicRdStart(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,
+                                 matrix<double>* selected, int* seed, short int flag, int* nextSeed)
+{
+    const korvel::sampling_grid grid(rows, k);
+    const auto start = korvel::systematicStart(grid, GenerateRandom01(seed, flag, nextSeed));
+    const chosen_rows chosen = korvel::systematicRows(rows, k, grid, start, *selected);
+    copyRows(chosen, cols, reading(*table), writing(*sample));
+}
+
+void M_SamplingSystematicCentered(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,
+                                  matrix<double>* selected)
+{
+    const korvel::sampling_grid grid(rows, k);
+    const auto start = korvel::systematicStart(grid, 0.5);
+    const chosen_rows chosen = korvel::systematicRows(rows, k, grid, start, *selected);
+    copyRows(chosen, cols, reading(*table), writing(*sample));
+}
+
+void M_SamplingRandomStratified(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,
+                                matrix<double>* selected, int* seed, short int flag, int* nextSeed)
+{
+    const chosen_rows chosen = korvel::stratifiedRows(rows, k, seed, flag, nextSeed);
+    korvel::storeRowNumbers(chosen, *selected);
+    copyRows(chosen, cols, reading(*table), writing(*sample));
+}
+
+void M_SamplingRandomStratifiedByStr(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,
+                                     matrix<text>* strata, matrix<double>* selected, matrix<double>* counts,
+                                     int* seed, short int flag, int* nextSeed)
+{
+    chosen_rows chosen = korvel::labelledRows(*strata, rows, *counts, seed, flag, nextSeed);
+    chosen.resize(std::min(chosen.size(), static_cast<std::size_t>(std::max(k, 0))));
+    korvel::storeRowNumbers(chosen, *selected);
+    copyRows(chosen, cols, reading(*table), writing(*sample));
+}
+
+namespace korvel
+{
+
+int userDefinedSampleSize(const matrix<double>& counts, int rows)
+{
+    std::int64_t size = 0;
+    for (int i = 0; i < rows; ++i) {
+        size += std::max(truncateToInt(counts[i]), 0);
+    }
+    return static_cast<int>(std::min<std::int64_t>(size, std::numeric_limits<int>::max()));
+}
+
+} // namespace korvel
