@@ -191,6 +191,22 @@ TEST_F(FlatSampling, SystematicLeavesRowsOfTheSampleThatItDoesNotFill)
     VB_M_SamplingSystematicCentered(blockOf(from), 2, 2, 3, blockOf(to), selected.data());
     EXPECT_EQ(textsIn(to), (texts{u"a2", u"old", u"old", u"b2", u"old", u"old"}));
     EXPECT_EQ(valuesOf(selected), (doubles{3, 0}));
+
+    const auto expectOnlyTheFirst = [&] {
+        texts found = textsIn(to);
+        EXPECT_EQ(found[0].substr(0, 1), u"a");
+        EXPECT_EQ(found[3].substr(0, 1), u"b");
+        found.erase(found.begin() + 3);
+        found.erase(found.begin());
+        EXPECT_EQ(found, texts(4, u"old"));
+    };
+    to = sample(3);
+    VB_M_SamplingSystematicRdStart(blockOf(from), 2, 2, 3, blockOf(to), selected.data(), &seed, 1, &next);
+    expectOnlyTheFirst();
+    to = sample(3);
+    guarded<double> numbers(doubles(3));
+    VB_M_SamplingRandomStratified(blockOf(from), 2, 2, 3, blockOf(to), numbers.data(), &seed, 1, &next);
+    expectOnlyTheFirst();
 }
 
 TEST_F(FlatSampling, Stratified)

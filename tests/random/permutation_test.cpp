@@ -66,6 +66,12 @@ TYPED_TEST(Permutation, ExchangesPlaceByPlace)
     }
 }
 
+TYPED_TEST(Permutation, HasAScaleOfItsOwn)
+{
+    // Among so many draws, 1 / (2^31 - 1) would lead some to another place.
+    this->expectPlain(0, 200000, 200000, -1, 12345, {});
+}
+
 TYPED_TEST(Permutation, WithoutAResetShufflesWhatIsThere)
 {
     std::vector<TypeParam> start;
