@@ -126,54 +126,6 @@ Public Declare PtrSafe Function Cpp_V_NbDistinctStr Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function VB_V_ExtractDistinct Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef out As Double, ByRef nOut As Long) As Long
 
-' ---- quantiles.h
-
-' Quantile by linear interpolation between order statistics (type 7 of Hyndman and Fan).
-Public Declare PtrSafe Function VB_V_Quantile Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal q As Double) As Double
-
-' Weighted quantile: the first value whose cumulative weight exceeds q times the total, or the mean
-' of it and the one before where a cumulative weight hits that exactly.
-Public Declare PtrSafe Function VB_V_QuantileW Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal q As Double) As Double
-
-' Weighted quantile of the elements of positive weight that are not missing.
-Public Declare PtrSafe Function Cpp_V_QuantileW2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal q As Double) As Double
-
-' Plain quantile of the elements that are not missing and not flagged.
-Public Declare PtrSafe Function VB_V_QuantileM Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByVal q As Double) As Double
-
-' Weighted quantile of the elements that are not missing and not flagged.
-Public Declare PtrSafe Function VB_V_QuantileMW Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
-    ByVal q As Double) As Double
-
-' Sorts a vector, ascending, and takes its quantiles at 0.05, 0.1, 0.2, 0.25, 0.3, 0.4, 0.5, 0.6,
-' 0.7, 0.75, 0.8, 0.9 and 0.95, at position (n - 1) p + 0.5 up to the median and (n - 1) p + 1 above
-' it, from 1.
-Public Declare PtrSafe Function Cpp_V_Quantiles13 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
-
-' Weighted mean of the absolute deviations from a centre.
-Public Declare PtrSafe Function Cpp_V_MeanAbsDev Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
-    ByRef w As Double) As Double
-
-' Median of the absolute deviations from a centre; weighted unless the weights are constant.
-Public Declare PtrSafe Function Cpp_V_MedianAbsDev Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
-    ByRef w As Double) As Double
-
-' Median of the absolute deviations from a centre, missing elements taking part as the smallest
-' numbers.
-Public Declare PtrSafe Function Cpp_V_MedianAbsDev2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef centre As Double) As Double
-
-' Moves the elements outside two quantiles onto them.
-Public Declare PtrSafe Function Cpp_V_Winsorize2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal qLow As Double, ByVal qHigh As Double) As Long
 ' ---- permutations.h
 
 ' Random permutation of the integers 1 to n.
@@ -226,6 +178,55 @@ Public Declare PtrSafe Function Cpp_M_ShuffleDbl Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_M_ShuffleStr Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr, _
     ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' ---- quantiles.h
+
+' Quantile by linear interpolation between order statistics (type 7 of Hyndman and Fan).
+Public Declare PtrSafe Function VB_V_Quantile Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal q As Double) As Double
+
+' Weighted quantile: the first value whose cumulative weight exceeds q times the total, or the mean
+' of it and the one before where a cumulative weight hits that exactly.
+Public Declare PtrSafe Function VB_V_QuantileW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal q As Double) As Double
+
+' Weighted quantile of the elements of positive weight that are not missing.
+Public Declare PtrSafe Function Cpp_V_QuantileW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal q As Double) As Double
+
+' Plain quantile of the elements that are not missing and not flagged.
+Public Declare PtrSafe Function VB_V_QuantileM Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByVal q As Double) As Double
+
+' Weighted quantile of the elements that are not missing and not flagged.
+Public Declare PtrSafe Function VB_V_QuantileMW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal q As Double) As Double
+
+' Sorts a vector, ascending, and takes its quantiles at 0.05, 0.1, 0.2, 0.25, 0.3, 0.4, 0.5, 0.6,
+' 0.7, 0.75, 0.8, 0.9 and 0.95, at position (n - 1) p + 0.5 up to the median and (n - 1) p + 1 above
+' it, from 1.
+Public Declare PtrSafe Function Cpp_V_Quantiles13 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
+
+' Weighted mean of the absolute deviations from a centre.
+Public Declare PtrSafe Function Cpp_V_MeanAbsDev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
+    ByRef w As Double) As Double
+
+' Median of the absolute deviations from a centre; weighted unless the weights are constant.
+Public Declare PtrSafe Function Cpp_V_MedianAbsDev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
+    ByRef w As Double) As Double
+
+' Median of the absolute deviations from a centre, missing elements taking part as the smallest
+' numbers.
+Public Declare PtrSafe Function Cpp_V_MedianAbsDev2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef centre As Double) As Double
+
+' Moves the elements outside two quantiles onto them.
+Public Declare PtrSafe Function Cpp_V_Winsorize2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal qLow As Double, ByVal qHigh As Double) As Long
 
 ' ---- random.h
 
@@ -319,6 +320,7 @@ Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
 ' Strips spaces (U+0020) from the ends of texts, in place.
 Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
     ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
+
 ' ---- sampling.h
 
 ' Marks a range of elements.
@@ -350,9 +352,21 @@ Public Declare PtrSafe Function VB_M_SampleUserDefined Lib "KORVELMathTools.dll"
     ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal sample As LongPtr, _
     ByRef counts As Double, ByRef selected As Double) As Long
 
+' Takes each row of a chunked table as many times as the caller says, in the order of the rows.
+Public Declare PtrSafe Function VB_M_SampleUserDefinedSPV Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal sample As LongPtr, _
+    ByRef counts As Double, ByRef selected As Double) As Long
+
 ' Systematic sample of rows with a random start: with the step s, the quotient (rows - 1) / (k - 1)
 ' without its fraction, every s-th row from a random one of the first rows - (k - 1) s.
 Public Declare PtrSafe Function VB_M_SamplingSystematicRdStart Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Systematic sample of the rows of a chunked table with a random start: see
+' VB_M_SamplingSystematicRdStart.
+Public Declare PtrSafe Function VB_M_SamplingSystematicRdStartSPV Lib "KORVELMathTools.dll" ( _
     ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
     ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
     ByRef nextSeed As Long) As Long
@@ -362,8 +376,19 @@ Public Declare PtrSafe Function VB_M_SamplingSystematicCentered Lib "KORVELMathT
     ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
     ByVal sample As LongPtr, ByRef selected As Double) As Long
 
+' Systematic sample of the rows of a chunked table with a start in the middle of the possible ones.
+Public Declare PtrSafe Function VB_M_SamplingSystematicCenteredSPV Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double) As Long
+
 ' One random row from each of k strata of consecutive rows.
 Public Declare PtrSafe Function VB_M_SamplingRandomStratified Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' One random row of a chunked table from each of k strata of consecutive rows.
+Public Declare PtrSafe Function VB_M_SamplingRandomStratifiedSPV Lib "KORVELMathTools.dll" ( _
     ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
     ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
     ByRef nextSeed As Long) As Long

@@ -57,6 +57,19 @@ int VB_M_SampleUserDefined(OLECHAR** table, int rows, int cols, OLECHAR** sample
     return 0;
 }
 
+int VB_M_SampleUserDefinedSPV(Hostarray** table, int rows, int cols, Hostarray** sample, double* counts,
+                              double* selected)
+{
+    const auto from = frame::textChunks(table, cols, rows);
+    auto copies = frame::borrow(counts, rows);
+    const int size = userDefinedSampleSize(copies, rows);
+    const auto to = frame::textChunks(sample, cols, size);
+    auto numbers = frame::borrow(selected, size);
+    M_SampleUserDefinedSPV(from.get(), rows, cols, to.get(), &copies, &numbers);
+    frame::writeTexts(to, sample);
+    return 0;
+}
+
 int VB_M_SamplingSystematicRdStart(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
                                    double* selected, int* seed, short int flag, int* nextSeed)
 {
@@ -64,6 +77,17 @@ int VB_M_SamplingSystematicRdStart(OLECHAR** table, int rows, int cols, int k, O
     auto to = frame::readTexts(sample, k, cols);
     auto marks = frame::borrow(selected, rows);
     M_SamplingSystematicRdStart(&from, rows, cols, k, &to, &marks, seed, flag, nextSeed);
+    frame::writeTexts(to, sample);
+    return 0;
+}
+
+int VB_M_SamplingSystematicRdStartSPV(Hostarray** table, int rows, int cols, int k, Hostarray** sample,
+                                      double* selected, int* seed, short int flag, int* nextSeed)
+{
+    const auto from = frame::textChunks(table, cols, rows);
+    const auto to = frame::textChunks(sample, cols, k);
+    auto marks = frame::borrow(selected, rows);
+    M_SamplingSystematicRdStartSPV(from.get(), rows, cols, k, to.get(), &marks, seed, flag, nextSeed);
     frame::writeTexts(to, sample);
     return 0;
 }
@@ -79,6 +103,17 @@ int VB_M_SamplingSystematicCentered(OLECHAR** table, int rows, int cols, int k, 
     return 0;
 }
 
+int VB_M_SamplingSystematicCenteredSPV(Hostarray** table, int rows, int cols, int k, Hostarray** sample,
+                                       double* selected)
+{
+    const auto from = frame::textChunks(table, cols, rows);
+    const auto to = frame::textChunks(sample, cols, k);
+    auto marks = frame::borrow(selected, rows);
+    M_SamplingSystematicCenteredSPV(from.get(), rows, cols, k, to.get(), &marks);
+    frame::writeTexts(to, sample);
+    return 0;
+}
+
 int VB_M_SamplingRandomStratified(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
                                   double* selected, int* seed, short int flag, int* nextSeed)
 {
@@ -86,6 +121,17 @@ int VB_M_SamplingRandomStratified(OLECHAR** table, int rows, int cols, int k, OL
     auto to = frame::readTexts(sample, k, cols);
     auto numbers = frame::borrow(selected, k);
     M_SamplingRandomStratified(&from, rows, cols, k, &to, &numbers, seed, flag, nextSeed);
+    frame::writeTexts(to, sample);
+    return 0;
+}
+
+int VB_M_SamplingRandomStratifiedSPV(Hostarray** table, int rows, int cols, int k, Hostarray** sample,
+                                     double* selected, int* seed, short int flag, int* nextSeed)
+{
+    const auto from = frame::textChunks(table, cols, rows);
+    const auto to = frame::textChunks(sample, cols, k);
+    auto numbers = frame::borrow(selected, k);
+    M_SamplingRandomStratifiedSPV(from.get(), rows, cols, k, to.get(), &numbers, seed, flag, nextSeed);
     frame::writeTexts(to, sample);
     return 0;
 }

@@ -14,6 +14,33 @@ using korvel::copyRows;
 using korvel::reading;
 using korvel::writing;
 
+namespace
+{
+
+/** In the place of a draw: the middle of what can be drawn. */
+constexpr double centre = 0.5;
+
+template <class From, class To>
+void sampleUserDefined(const From& from, int rows, int cols, const To& to, const matrix<double>& counts,
+                       matrix<double>& selected)
+{
+    const chosen_rows chosen = korvel::userDefinedRows(counts, rows);
+    korvel::storeRowNumbers(chosen, selected);
+    copyRows(chosen, cols, from, to);
+}
+
+template <class From, class To>
+void sampleSystematic(const From& from, int rows, int cols, int k, const To& to, matrix<double>& selected,
+                      double u)
+{
+    const korvel::sampling_grid grid(rows, k);
+    const chosen_rows chosen =
+        korvel::systematicRows(rows, k, grid, korvel::systematicStart(grid, u), selected);
+    copyRows(chosen, cols, from, to);
+}
+
+} // namespace
+
 void M_SamplingWithReplacement(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,
                                matrix<double>* selected, int* seed, short int flag, int* nextSeed)
 {
@@ -25,27 +52,39 @@ void M_SamplingWithReplacement(matrix<text>* table, int rows, int cols, int k, m
 void M_SampleUserDefined(matrix<text>* table, int rows, int cols, matrix<text>* sample,
                          matrix<double>* counts, matrix<double>* selected)
 {
-    const chosen_rows chosen = korvel::userDefinedRows(*counts, rows);
-    korvel::storeRowNumbers(chosen, *selected);
-    copyRows(chosen, cols, reading(*table), writing(*sample));
+    sampleUserDefined(reading(*table), rows, cols, writing(*sample), *counts, *selected);
+}
+
+void M_SampleUserDefinedSPV(matrix<text>** table, int rows, int cols, matrix<text>** sample,
+                            matrix<double>* counts, matrix<double>* selected)
+{
+    sampleUserDefined(reading(table), rows, cols, writing(sample), *counts, *selected);
 }
 
 void M_SamplingSystematicRdStart(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,
                                  matrix<double>* selected, int* seed, short int flag, int* nextSeed)
 {
-    const korvel::sampling_grid grid(rows, k);
-    const auto start = korvel::systematicStart(grid, GenerateRandom01(seed, flag, nextSeed));
-    const chosen_rows chosen = korvel::systematicRows(rows, k, grid, start, *selected);
-    copyRows(chosen, cols, reading(*table), writing(*sample));
+    const double u = GenerateRandom01(seed, flag, nextSeed);
+    sampleSystematic(reading(*table), rows, cols, k, writing(*sample), *selected, u);
+}
+
+void M_SamplingSystematicRdStartSPV(matrix<text>** table, int rows, int cols, int k, matrix<text>** sample,
+                                    matrix<double>* selected, int* seed, short int flag, int* nextSeed)
+{
+    const double u = GenerateRandom01(seed, flag, nextSeed);
+    sampleSystematic(reading(table), rows, cols, k, writing(sample), *selected, u);
 }
 
 void M_SamplingSystematicCentered(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,
                                   matrix<double>* selected)
 {
-    const korvel::sampling_grid grid(rows, k);
-    const auto start = korvel::systematicStart(grid, 0.5);
-    const chosen_rows chosen = korvel::systematicRows(rows, k, grid, start, *selected);
-    copyRows(chosen, cols, reading(*table), writing(*sample));
+    sampleSystematic(reading(*table), rows, cols, k, writing(*sample), *selected, centre);
+}
+
+void M_SamplingSystematicCenteredSPV(matrix<text>** table, int rows, int cols, int k, matrix<text>** sample,
+                                     matrix<double>* selected)
+{
+    sampleSystematic(reading(table), rows, cols, k, writing(sample), *selected, centre);
 }
 
 void M_SamplingRandomStratified(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,
@@ -54,6 +93,14 @@ void M_SamplingRandomStratified(matrix<text>* table, int rows, int cols, int k, 
     const chosen_rows chosen = korvel::stratifiedRows(rows, k, seed, flag, nextSeed);
     korvel::storeRowNumbers(chosen, *selected);
     copyRows(chosen, cols, reading(*table), writing(*sample));
+}
+
+void M_SamplingRandomStratifiedSPV(matrix<text>** table, int rows, int cols, int k, matrix<text>** sample,
+                                   matrix<double>* selected, int* seed, short int flag, int* nextSeed)
+{
+    const chosen_rows chosen = korvel::stratifiedRows(rows, k, seed, flag, nextSeed);
+    korvel::storeRowNumbers(chosen, *selected);
+    copyRows(chosen, cols, reading(table), writing(sample));
 }
 
 void M_SamplingRandomStratifiedByStr(matrix<text>* table, int rows, int cols, int k, matrix<text>* sample,

@@ -45,6 +45,10 @@ KORVEL_API void M_SamplingWithReplacement(matrix<text>* table, int rows, int col
 KORVEL_API void M_SampleUserDefined(matrix<text>* table, int rows, int cols, matrix<text>* sample,
                                     matrix<double>* counts, matrix<double>* selected);
 
+/** The same on chunks, one for each column. */
+KORVEL_API void M_SampleUserDefinedSPV(matrix<text>** table, int rows, int cols, matrix<text>** sample,
+                                       matrix<double>* counts, matrix<double>* selected);
+
 /**
  * Systematic sample with a random start. With the step s = floor((rows - 1) / (k - 1)) and the span
  * m = rows - (k - 1) * s, the start is row r0 = floor(u * m) + 1 for one draw u of `Random01`, and every s-th
@@ -65,6 +69,11 @@ KORVEL_API void M_SamplingSystematicRdStart(matrix<text>* table, int rows, int c
                                             matrix<text>* sample, matrix<double>* selected, int* seed,
                                             short int flag, int* nextSeed);
 
+/** The same on chunks, one for each column. */
+KORVEL_API void M_SamplingSystematicRdStartSPV(matrix<text>** table, int rows, int cols, int k,
+                                               matrix<text>** sample, matrix<double>* selected, int* seed,
+                                               short int flag, int* nextSeed);
+
 /**
  * Systematic sample with a start in the middle of the span: as `M_SamplingSystematicRdStart` with 0.5 in the
  * place of the draw. Nothing is drawn.
@@ -78,6 +87,10 @@ KORVEL_API void M_SamplingSystematicRdStart(matrix<text>* table, int rows, int c
  */
 KORVEL_API void M_SamplingSystematicCentered(matrix<text>* table, int rows, int cols, int k,
                                              matrix<text>* sample, matrix<double>* selected);
+
+/** The same on chunks, one for each column. */
+KORVEL_API void M_SamplingSystematicCenteredSPV(matrix<text>** table, int rows, int cols, int k,
+                                                matrix<text>** sample, matrix<double>* selected);
 
 /**
  * One random row from each stratum of consecutive rows. With step s and span m as for the systematic sample,
@@ -98,6 +111,11 @@ KORVEL_API void M_SamplingSystematicCentered(matrix<text>* table, int rows, int 
 KORVEL_API void M_SamplingRandomStratified(matrix<text>* table, int rows, int cols, int k,
                                            matrix<text>* sample, matrix<double>* selected, int* seed,
                                            short int flag, int* nextSeed);
+
+/** The same on chunks, one for each column. */
+KORVEL_API void M_SamplingRandomStratifiedSPV(matrix<text>** table, int rows, int cols, int k,
+                                              matrix<text>** sample, matrix<double>* selected, int* seed,
+                                              short int flag, int* nextSeed);
 
 /**
  * Simple random sample with replacement from each stratum, a stratum being the rows of one label.

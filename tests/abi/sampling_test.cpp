@@ -244,6 +244,117 @@ TEST_F(FlatSampling, StratifiedWritesNothingBehindTheSample)
     EXPECT_EQ(next, source.nextSeed());
 }
 
+namespace
+{
+
+/** Two text columns in the caller's memory, each in a record of a chunked table. */
+class FlatChunkedSampling : public FlatSampling
+{
+protected:
+    struct chunked_table {
+        SAFEARRAY* columns[2];
+        SAFEARRAY* records;
+
+        Hostarray** argument() { return reinterpret_cast<Hostarray**>(&records); }
+
+        [[nodiscard]] texts cells() const
+        {
+            texts all = textsIn(columns[0]);
+            for (const auto& value : textsIn(columns[1])) {
+                all.push_back(value);
+            }
+            return all;
+        }
+    };
+
+    chunked_table chunked(const texts& first, const texts& second)
+    {
+        chunked_table made{};
+        made.columns[0] = memory.texts(first);
+        made.columns[1] = memory.texts(second);
+        made.records =
+            memory.array(std::vector<Hostarray>{{nullptr, made.columns[0]}, {nullptr, made.columns[1]}});
+        return made;
+    }
+
+    chunked_table chunkedTable(int rows)
+    {
+        texts first;
+        texts second;
+        for (int row = 1; row <= rows; ++row) {
+            first.push_back(cell(u'a', row));
+            second.push_back(cell(u'b', row));
+        }
+        return chunked(first, second);
+    }
+
+    chunked_table chunkedSample(int k)
+    {
+        const texts old(static_cast<std::size_t>(k), u"old");
+        return chunked(old, old);
+    }
+};
+
+} // namespace
+
+TEST_F(FlatChunkedSampling, UserDefined)
+{
+    auto from = chunkedTable(3);
+    auto to = chunkedSample(3);
+    guarded<double> counts{2, 0, 1};
+    guarded<double> selected(doubles(3));
+    EXPECT_EQ(VB_M_SampleUserDefinedSPV(from.argument(), 3, 2, to.argument(), counts.data(), selected.data()),
+              0);
+    EXPECT_EQ(to.cells(), rowsOf({1, 1, 3}));
+    EXPECT_EQ(valuesOf(selected), (doubles{1, 1, 3}));
+}
+
+TEST_F(FlatChunkedSampling, SystematicFromARandomStart)
+{
+    const int start = static_cast<int>(std::floor(source.uniform() * 3)) + 1;
+    doubles marks(12, 13.0);
+    for (int t = 0; t < 4; ++t) {
+        marks[static_cast<std::size_t>(start - 1 + 3 * t)] = 0.0;
+    }
+    auto from = chunkedTable(12);
+    auto to = chunkedSample(4);
+    guarded<double> selected(doubles(12));
+    EXPECT_EQ(VB_M_SamplingSystematicRdStartSPV(from.argument(), 12, 2, 4, to.argument(), selected.data(),
+                                                &seed, 1, &next),
+              0);
+    EXPECT_EQ(to.cells(), rowsOf({start, start + 3, start + 6, start + 9}));
+    EXPECT_EQ(valuesOf(selected), marks);
+    EXPECT_EQ(next, source.nextSeed());
+}
+
+TEST_F(FlatChunkedSampling, SystematicFromTheCentre)
+{
+    auto from = chunkedTable(10);
+    auto to = chunkedSample(4);
+    guarded<double> selected(doubles(10));
+    EXPECT_EQ(VB_M_SamplingSystematicCenteredSPV(from.argument(), 10, 2, 4, to.argument(), selected.data()),
+              0);
+    EXPECT_EQ(to.cells(), rowsOf({1, 4, 7, 10}));
+    EXPECT_EQ(valuesOf(selected), (doubles{0, 11, 11, 0, 11, 11, 0, 11, 11, 0}));
+}
+
+TEST_F(FlatChunkedSampling, Stratified)
+{
+    std::vector<int> rows;
+    for (int t = 0; t < 4; ++t) {
+        rows.push_back(static_cast<int>(std::floor(source.uniform() * 3)) + 3 * t + 1);
+    }
+    auto from = chunkedTable(12);
+    auto to = chunkedSample(4);
+    guarded<double> selected(doubles(4));
+    EXPECT_EQ(VB_M_SamplingRandomStratifiedSPV(from.argument(), 12, 2, 4, to.argument(), selected.data(),
+                                               &seed, 1, &next),
+              0);
+    EXPECT_EQ(to.cells(), rowsOf(rows));
+    EXPECT_EQ(valuesOf(selected), doubles(rows.begin(), rows.end()));
+    EXPECT_EQ(next, source.nextSeed());
+}
+
 TEST_F(FlatSampling, StratifiedByLabel)
 {
     SAFEARRAY* from = table(4);
