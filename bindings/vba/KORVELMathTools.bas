@@ -321,6 +321,24 @@ Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
     ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
 
+' ---- row_grouping.h
+
+' Aggregates the rows that share the value of a key column, in ascending order of the keys, compared
+' exactly.
+Public Declare PtrSafe Function VB_M_GroupBy Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
+    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double) As Long
+
+' Aggregates the rows that share the value of a key column, with a weight for each row.
+Public Declare PtrSafe Function VB_M_GroupByW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
+    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double, _
+    ByRef w As Double) As Long
+
+' Merges rows that are equal, exactly, in all data columns.
+Public Declare PtrSafe Function VB_M_Dedupe Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal p As Long, ByRef nOut As Long, ByRef out As Double) As Long
+
 ' ---- sampling.h
 
 ' Marks a range of elements.
@@ -399,24 +417,6 @@ Public Declare PtrSafe Function Cpp_M_SamplingRandomStratifiedByStr Lib "KORVELM
     ByVal sample As LongPtr, ByVal strata As LongPtr, ByRef selected As Double, _
     ByRef counts As Double, ByVal nCounts As Long, ByRef seed As Long, ByVal flag As Integer, _
     ByRef nextSeed As Long) As Long
-
-' ---- row_grouping.h
-
-' Aggregates the rows that share the value of a key column, in ascending order of the keys, compared
-' exactly.
-Public Declare PtrSafe Function VB_M_GroupBy Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
-    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double) As Long
-
-' Aggregates the rows that share the value of a key column, with a weight for each row.
-Public Declare PtrSafe Function VB_M_GroupByW Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
-    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double, _
-    ByRef w As Double) As Long
-
-' Merges rows that are equal, exactly, in all data columns.
-Public Declare PtrSafe Function VB_M_Dedupe Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal p As Long, ByRef nOut As Long, ByRef out As Double) As Long
 
 ' ---- sort_table.h
 
