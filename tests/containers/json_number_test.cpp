@@ -2,6 +2,7 @@
 #include "containers/missing.h"
 #include "support/bits.h"
 
+#include <array>
 #include <bit>
 #include <charconv>
 #include <cstdio>
@@ -29,14 +30,22 @@ std::string significantDigits(const std::string& number)
     return digits;
 }
 
-/** The digits of the shortest correctly rounded rendering that reads back, found by trying each length. */
+/**
+ * The digits of the shortest correctly rounded rendering that reads back, found by trying each length. The C
+ * runtime of Windows rounds neither way correctly, so both are the standard library's, at a given length and
+ * not the shortest one.
+ */
 std::string shortestByTrial(double value)
 {
     for (int decimals = 0;; ++decimals) {
-        char rendered[64];
-        std::snprintf(rendered, sizeof rendered, "%.*e", decimals, value);
-        if (std::strtod(rendered, nullptr) == value) {
-            return significantDigits(rendered);
+        std::array<char, 64> rendered{};
+        const auto end = std::to_chars(rendered.data(), rendered.data() + rendered.size(), value,
+                                       std::chars_format::scientific, decimals)
+                             .ptr;
+        double readBack = 0.0;
+        std::from_chars(rendered.data(), end, readBack);
+        if (readBack == value) {
+            return significantDigits(std::string(rendered.data(), end));
         }
     }
 }

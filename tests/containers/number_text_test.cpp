@@ -2,6 +2,7 @@
 #include "support/bits.h"
 
 #include <bit>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <locale>
@@ -40,10 +41,17 @@ private:
 };
 
 /** `pow` may differ by a unit in the last place from one platform to the next. */
-::testing::AssertionResult withinOneUlp(double actual, double expected)
+/** How far the platform's power function may be off, in units in the last place: what was measured. */
+#ifdef _WIN32
+constexpr int powerError = 3; // 10^308
+#else
+constexpr int powerError = 1;
+#endif
+
+::testing::AssertionResult withinPowerError(double actual, double expected)
 {
     const auto distance = std::bit_cast<std::int64_t>(actual) - std::bit_cast<std::int64_t>(expected);
-    if (distance >= -1 && distance <= 1) {
+    if (distance >= -powerError && distance <= powerError) {
         return ::testing::AssertionSuccess();
     }
     return ::testing::AssertionFailure() << actual << " is not " << expected;
@@ -123,7 +131,7 @@ TEST(NumberText, MultipliesByAPowerOfTen)
     for (const auto& [number, value] : cases) {
         const auto parsed = parseNumber(number, u",");
         ASSERT_TRUE(parsed.has_value());
-        EXPECT_TRUE(withinOneUlp(*parsed, value));
+        EXPECT_TRUE(withinPowerError(*parsed, value));
     }
 }
 
@@ -310,6 +318,13 @@ TEST(WholeNumberText, IsWhatAWideStreamOfTheClassicLocaleWrites)
         }
         stream << value;
         const std::wstring wide = stream.str();
-        EXPECT_EQ(renderWhole(value), text(wide.begin(), wide.end()));
+#ifdef _WIN32
+        // The runtime there leaves out the sign of a NaN.
+        const std::wstring sign = std::isnan(value) && std::signbit(value) ? L"-" : L"";
+        const std::wstring expected = sign + wide;
+#else
+        const std::wstring& expected = wide;
+#endif
+        EXPECT_EQ(renderWhole(value), text(expected.begin(), expected.end()));
     }
 }
