@@ -5,8 +5,6 @@
 #include <array>
 #include <bit>
 #include <charconv>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
 #include <random>
 
