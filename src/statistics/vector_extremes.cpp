@@ -5,7 +5,6 @@
 #include "statistics/stand_ins.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace
 {
@@ -141,23 +140,44 @@ void minMax2(const matrix<T>& x, int n, double* min, double* max, short int bSki
     *max = found.largest;
 }
 
-/** The element that `replaces` all those before it, starting from the first, and its position from 1. */
+/**
+ * The element that `replaces` all those before it, starting from the first, and its position from 1. Few
+ * elements replace another, so eight are looked at together first.
+ */
 template <class T, class Replaces>
 double withPosition(const matrix<T>& x, int n, int* pos, Replaces replaces)
 {
     const auto find = [=](auto cells) {
-        T best = cells[0];
-        *pos = 1;
-        for (int i = 1; i < n; ++i) {
-            if (replaces(cells[i], best)) {
-                best = cells[i];
-                *pos = i + 1;
+        pair best = twice(cells, 0);
+        int where = 1;
+        const auto compareEach = [&](int from, int to) {
+            for (int i = from; i < to; ++i) {
+                if (_mm_movemask_pd(replaces(twice(cells, i), best)) != 0) {
+                    best = twice(cells, i);
+                    where = i + 1;
+                }
+            }
+        };
+        int i = 1;
+        for (; i + 7 < n; i += 8) {
+            const pair front =
+                _mm_or_pd(replaces(pairAt(cells, i), best), replaces(pairAt(cells, i + 2), best));
+            const pair back =
+                _mm_or_pd(replaces(pairAt(cells, i + 4), best), replaces(pairAt(cells, i + 6), best));
+            if (_mm_movemask_pd(_mm_or_pd(front, back)) != 0) {
+                compareEach(i, i + 8);
             }
         }
-        return static_cast<double>(best);
+        compareEach(i, n);
+        *pos = where;
+        return best[0];
     };
     return withCells(std::max(n, 1), find, x);
 }
+
+constexpr auto isLess = [](pair x, pair best) { return _mm_cmplt_pd(x, best); };
+constexpr auto isNotMore = [](pair x, pair best) { return _mm_cmple_pd(x, best); };
+constexpr auto isMore = [](pair x, pair best) { return _mm_cmpgt_pd(x, best); };
 
 } // namespace
 
@@ -233,15 +253,15 @@ void V_MinMax2(matrix<int>* x, int n, double* min, double* max, short int bSkipM
 
 double V_MinAndMinPos(matrix<double>* x, int n, int* pos, bool bLast)
 {
-    return bLast ? withPosition(*x, n, pos, std::less_equal<>{}) : withPosition(*x, n, pos, std::less<>{});
+    return bLast ? withPosition(*x, n, pos, isNotMore) : withPosition(*x, n, pos, isLess);
 }
 
 double V_MaxAndMaxPos(matrix<double>* x, int n, int* pos)
 {
-    return withPosition(*x, n, pos, std::greater<>{});
+    return withPosition(*x, n, pos, isMore);
 }
 
 double V_MaxAndMaxPos(matrix<int>* x, int n, int* pos)
 {
-    return withPosition(*x, n, pos, std::greater<>{});
+    return withPosition(*x, n, pos, isMore);
 }

@@ -36,8 +36,8 @@ weighted_total totalOf(Values x, int n, Flags flags, Weights w, Term term)
     int i = 0;
     for (; i + 1 < n; i += 2) {
         const pair kept = only(pairAt(flags, i), present(pairAt(x, i)));
-        const pair terms = only(kept, term(pairAt(x, i), pairAt(w, i)));
         const pair weights = only(kept, pairAt(w, i));
+        const pair terms = only(kept, term(pairAt(x, i), weights));
         total += _mm_unpacklo_pd(terms, weights);
         total += _mm_unpackhi_pd(terms, weights);
     }
@@ -94,19 +94,15 @@ double V_MeanW2(matrix<double>* x, int n, matrix<double>* w)
 double V_HarmonicMean(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
 {
     const auto mean = [=](auto values, auto weights) {
-        double sumW = 0.0;
-        double quotients = 0.0;
-        for (int i = 0; i < n; ++i) {
-            if (iMissing[i] != 0 || values[i] == MISSING_DBL) {
-                continue;
-            }
-            if (values[i] == 0.0) {
+        const auto total =
+            totalOf(values, n, iMissing, weights, [](pair value, pair weight) { return weight / value; });
+        // A zero among the divisors has made the sum infinite or a NaN; so may other things.
+        for (int i = 0; i < n && !std::isfinite(total.sum); ++i) {
+            if (iMissing[i] == 0 && values[i] == 0.0) {
                 return MISSING_DBL;
             }
-            sumW += weights[i];
-            quotients += weights[i] / values[i];
         }
-        return quotients == 0.0 ? MISSING_DBL : sumW / quotients;
+        return total.sum == 0.0 ? MISSING_DBL : total.sumW / total.sum;
     };
     return withCells(n, mean, *x, *w);
 }

@@ -1,13 +1,45 @@
 #include "statistics/vector_moments.h"
 
 #include "containers/cells.h"
+#include "statistics/pairs.h"
 #include "statistics/running_variance.h"
 
 namespace
 {
 
-/** Running sums of the second, third and fourth powers of the deviations from a running mean. */
-struct running_moments : korvel::running_weight {
+using korvel::pair;
+
+/** For two elements, what they add to the sums of powers: `four + fourPerM2 * m2 - fourPerM3 * m3` and so on.
+ */
+struct moment_terms {
+    pair four;
+    pair fourPerM2;
+    pair fourPerM3;
+    pair three;
+    pair threePerM2;
+    pair two;
+
+    moment_terms(pair d, pair r, pair w)
+    {
+        const pair d2 = d * d;
+        const pair d3 = d2 * d;
+        const pair r2 = r * r;
+        four = (1.0 - 4.0 * r + 6.0 * r2 - 3.0 * (r2 * r)) * (d3 * d) * w;
+        fourPerM2 = 6.0 * r2 * d2;
+        fourPerM3 = 4.0 * r * d;
+        three = (1.0 - 3.0 * r + 2.0 * r2) * d3 * w;
+        threePerM2 = 3.0 * r * d;
+        two = d2 * w * (1.0 - r);
+    }
+};
+
+/**
+ * Running mean and running sums of the second, third and fourth powers of the deviations from it. The mean is
+ * what elements wait for; most of the rest is computed for two elements side by side.
+ */
+class running_moments : public korvel::running_weight
+{
+public:
     double mean = 0.0;
     double m2 = 0.0;
     double m3 = 0.0;
@@ -19,16 +51,41 @@ struct running_moments : korvel::running_weight {
         if (w != 0.0) {
             const double d = x - mean;
             const double r = w / sumW;
-            const double d2 = d * d;
-            const double r2 = r * r;
-            const double d3 = d2 * d;
-            m4 += (1.0 - 4.0 * r + 6.0 * r2 - 3.0 * (r2 * r)) * (d3 * d) * w + 6.0 * r2 * d2 * m2 -
-                  4.0 * r * d * m3;
-            m3 += (1.0 - 3.0 * r + 2.0 * r2) * d3 * w - 3.0 * r * d * m2;
-            m2 += d2 * w * (1.0 - r);
             mean += d * r;
+            if (hasWaiting_) {
+                const moment_terms terms(_mm_setr_pd(waitingD_, d), _mm_setr_pd(waitingR_, r),
+                                         _mm_setr_pd(waitingW_, w));
+                addTerms(terms, 0);
+                addTerms(terms, 1);
+            } else {
+                waitingD_ = d;
+                waitingR_ = r;
+                waitingW_ = w;
+            }
+            hasWaiting_ = !hasWaiting_;
         }
     }
+
+    /** Adds the last of an odd number of elements. */
+    void finish()
+    {
+        if (hasWaiting_) {
+            addTerms(moment_terms(_mm_set1_pd(waitingD_), _mm_set1_pd(waitingR_), _mm_set1_pd(waitingW_)), 0);
+        }
+    }
+
+private:
+    void addTerms(const moment_terms& terms, int lane)
+    {
+        m4 += terms.four[lane] + terms.fourPerM2[lane] * m2 - terms.fourPerM3[lane] * m3;
+        m3 += terms.three[lane] - terms.threePerM2[lane] * m2;
+        m2 += terms.two[lane];
+    }
+
+    bool hasWaiting_ = false;
+    double waitingD_ = 0.0;
+    double waitingR_ = 0.0;
+    double waitingW_ = 0.0;
 };
 
 /** What a caller gets. */
@@ -89,10 +146,14 @@ void V_MeanVarSkewPKurtP(matrix<double>* x, int n, double& mean, double& var, do
                          double& skew, double& kurt, double& seSkew, double& seKurt, short int* iMissing,
                          matrix<double>* w, short int bUnbiased, short int bFreq)
 {
-    const auto accumulated = [=](auto values, auto weights) {
-        return korvel::accumulate<running_moments>(values, n, iMissing, weights);
-    };
-    const auto found = resultsFrom(korvel::withCells(n, accumulated, *x, *w), bUnbiased, bFreq);
+    auto moments = korvel::withCells(
+        n,
+        [=](auto values, auto weights) {
+            return korvel::accumulate<running_moments>(values, n, iMissing, weights);
+        },
+        *x, *w);
+    moments.finish();
+    const auto found = resultsFrom(moments, bUnbiased, bFreq);
     // A caller may give one place for several results that it does not want: none is read again.
     mean = found.mean;
     var = found.var;

@@ -62,6 +62,26 @@ extremes allExtremes(const matrix<T>& x, int n, bool passOverLeadingMissing)
     return extremesOf(x, first, n, [](int) { return true; });
 }
 
+struct extreme_position {
+    double value;
+    int pos;
+};
+
+/** The element that `replaces` those before it, starting from the first, with its position from 1. */
+template <class T, class Replaces>
+extreme_position withPosition(const matrix<T>& x, int n, Replaces replaces)
+{
+    double value = x[0];
+    int pos = 1;
+    for (int i = 1; i < n; ++i) {
+        if (replaces(x[i], value)) {
+            value = x[i];
+            pos = i + 1;
+        }
+    }
+    return {value, pos};
+}
+
 } // namespace korvel::reference
 
 #endif

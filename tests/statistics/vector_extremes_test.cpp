@@ -6,6 +6,7 @@
 #include "support/special_values.h"
 
 #include <array>
+#include <functional>
 #include <vector>
 
 using namespace korvel::test;
@@ -204,7 +205,13 @@ TEST(VectorExtremes, PositionOfTheSmallest)
     EXPECT_EQ(smallestOf({4, 3, 5, 3, 6}, true), (found_position{3.0, 4}));
     EXPECT_EQ(smallestOf({4, MISSING_DBL, 5}, false), (found_position{MISSING_DBL, 2}));
     EXPECT_EQ(smallestOf({4, notANumber, 5}, true), (found_position{4.0, 1}));
-    EXPECT_EQ(smallestOf({notANumber, 4}, true).pos, 1);
+    for (const bool last : {false, true}) {
+        const auto found = smallestOf({notANumber, 4, notANumber}, last);
+        EXPECT_TRUE(sameBits(found.value, notANumber));
+        EXPECT_EQ(found.pos, 1);
+    }
+    EXPECT_TRUE(sameBits(smallestOf({2, -0.0, 0.0, 3}, false).value, -0.0));
+    EXPECT_TRUE(sameBits(smallestOf({2, -0.0, 0.0, 3}, true).value, 0.0));
 }
 
 TEST(VectorExtremes, PositionOfTheLargest)
@@ -257,6 +264,19 @@ void compareAll(matrix<double>& x, matrix<int>& counts, int n, const std::vector
             ASSERT_TRUE(sameBits(V_Max2(x, n), kept.largest));
         }
     }
+    const auto expectPosition = [](double value, int pos, reference::extreme_position expected) {
+        EXPECT_TRUE(sameBits(value, expected.value));
+        EXPECT_EQ(pos, expected.pos);
+    };
+    int pos = 0;
+    double found = V_MinAndMinPos(&x, n, &pos, false);
+    expectPosition(found, pos, reference::withPosition(x, n, std::less<>{}));
+    found = V_MinAndMinPos(&x, n, &pos, true);
+    expectPosition(found, pos, reference::withPosition(x, n, std::less_equal<>{}));
+    found = V_MaxAndMaxPos(&x, n, &pos);
+    expectPosition(found, pos, reference::withPosition(x, n, std::greater<>{}));
+    found = V_MaxAndMaxPos(&counts, n, &pos);
+    expectPosition(found, pos, reference::withPosition(counts, n, std::greater<>{}));
     for (const short int skip : std::array<short int, 2>{0, -1}) {
         if (n > 0) {
             ASSERT_TRUE(same(minMax2(x, n, skip), reference::allExtremes(x, n, skip != 0)));
