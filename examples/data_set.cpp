@@ -6,7 +6,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <new>
 #include <optional>
 #include <string_view>
 #include <unordered_set>
@@ -106,10 +105,7 @@ text_column::text_column(std::string columnName, const std::vector<std::string>&
         if (isMissing(cells[i])) {
             continue;
         }
-        block[i] = SysAllocString(toUtf16(cells[i]).c_str());
-        if (block[i] == nullptr) {
-            throw std::bad_alloc();
-        }
+        block[i] = toBstr(cells[i]).release();
         ++present;
         if (seen.insert(cells[i]).second) {
             categories.push_back(cells[i]);

@@ -24,8 +24,11 @@ struct section {
 /** All sections in the order of the report. */
 std::span<const section> sections();
 
-/** Where the numbers of each column lie: count, mean, spread, extremes with their rows, sum. */
+/** Where the numbers of each column lie and how far apart: count, mean, standard deviation, sum. */
 text_table location(data_set& data);
+
+/** The smallest and the largest number of each column with their rows, and its quartiles and median. */
+text_table quartiles(data_set& data);
 
 /** The shape of each column's distribution, and the means other than the arithmetic one. */
 text_table shape(data_set& data);

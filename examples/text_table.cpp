@@ -91,6 +91,15 @@ std::string shown(double number, int decimals)
     return buffer.data();
 }
 
+std::string rounded(double number, int decimals)
+{
+    if (VB_IsMissingValueDbl(number) != 0) {
+        return "-";
+    }
+    const double scale = std::pow(10.0, decimals);
+    return shown(std::round(number * scale) / scale, decimals);
+}
+
 std::string shown(int count)
 {
     return std::to_string(count);

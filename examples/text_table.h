@@ -43,6 +43,9 @@ private:
  * is missing. */
 std::string shown(double number, int decimals);
 
+/** The same, but a number too small for its decimals becomes zero. */
+std::string rounded(double number, int decimals);
+
 std::string shown(int count);
 
 /** The name of a column, cut to a width that leaves room for figures. */

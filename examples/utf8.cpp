@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <new>
 
 namespace report
 {
@@ -112,7 +113,7 @@ std::string asUtf8(std::string bytes)
     return converted;
 }
 
-std::basic_string<OLECHAR> toUtf16(std::string_view utf8)
+bstr_pointer toBstr(std::string_view utf8)
 {
     std::basic_string<OLECHAR> units;
     while (!utf8.empty()) {
@@ -125,7 +126,11 @@ std::basic_string<OLECHAR> toUtf16(std::string_view utf8)
         }
         utf8.remove_prefix(first.length);
     }
-    return units;
+    bstr_pointer text(SysAllocStringLen(units.data(), static_cast<UINT>(units.size())));
+    if (text == nullptr) {
+        throw std::bad_alloc();
+    }
+    return text;
 }
 
 int displayWidth(std::string_view utf8)

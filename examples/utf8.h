@@ -1,12 +1,13 @@
 /**
  * @file
- * Texts in UTF-8: how wide they print, and their way to the UTF-16 of a BSTR.
+ * Texts in UTF-8: how wide they print, and their way into a BSTR.
  */
 #ifndef KORVEL_EXAMPLES_UTF8_H
 #define KORVEL_EXAMPLES_UTF8_H
 
 #include "frames/KORVELMathTools.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -16,8 +17,14 @@ namespace report
 /** The text itself when it is UTF-8, otherwise its bytes taken for Latin-1, as older spreadsheets save. */
 std::string asUtf8(std::string bytes);
 
-/** UTF-8 to the UTF-16 that a BSTR holds. */
-std::basic_string<OLECHAR> toUtf16(std::string_view utf8);
+/** Frees a BSTR. */
+struct bstr_free {
+    void operator()(OLECHAR* text) const { SysFreeString(text); }
+};
+using bstr_pointer = std::unique_ptr<OLECHAR, bstr_free>;
+
+/** A BSTR with the text in UTF-16. */
+bstr_pointer toBstr(std::string_view utf8);
 
 /** Columns that a text takes on a terminal: none for a combining mark, two for an East Asian wide character.
  */
