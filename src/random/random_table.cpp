@@ -13,25 +13,27 @@ using korvel::processSource;
 
 /**
  * Cells drawn at a time. The draws run along rows and the table lies in columns, so a panel of some rows is
- * drawn first and then dealt out column by column, whole cache lines at once.
+ * drawn first and then dealt out column by column, whole cache lines at once. The panel holds raw numbers,
+ * half the size of what they become, and stays in the cache.
  */
-constexpr int panelCells = 65536;
+constexpr int panelCells = 131072;
 
 template <class T>
 void fillCells(matrix<T>& out, int rows, int cols)
 {
     const int rowsAtOnce = std::clamp(panelCells / cols, 1, rows);
-    std::vector<double> panel(static_cast<std::size_t>(rowsAtOnce) * static_cast<std::size_t>(cols));
+    std::vector<std::int32_t> panel(static_cast<std::size_t>(rowsAtOnce) * static_cast<std::size_t>(cols));
     for (int first = 0; first < rows; first += std::min(rowsAtOnce, rows - first)) {
         const int count = std::min(rowsAtOnce, rows - first);
-        korvel::draw01Block(processSource, panel.data(),
-                            static_cast<std::size_t>(count) * static_cast<std::size_t>(cols));
+        korvel::drawRawBlock(processSource, panel.data(),
+                             static_cast<std::size_t>(count) * static_cast<std::size_t>(cols));
         for (int j = 0; j < cols; ++j) {
-            const double* const draws = panel.data() + j;
+            const std::int32_t* const draws = panel.data() + j;
             korvel::withCells(
                 [&](auto& column) {
                     for (int i = 0; i < count; ++i) {
-                        column.set(first + i, static_cast<T>(draws[static_cast<std::ptrdiff_t>(i) * cols]));
+                        column.set(first + i, static_cast<T>(draws[static_cast<std::ptrdiff_t>(i) * cols] *
+                                                             korvel::RAND_SCALE));
                     }
                 },
                 korvel::writing(out).column(j, rows));
