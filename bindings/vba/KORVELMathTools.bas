@@ -564,6 +564,36 @@ Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTo
     ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
     ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
 
+' ---- transpose.h
+
+' Transposes a table of numbers.
+Public Declare PtrSafe Function VB_M_Transpose Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+
+' Transposes a table of integers.
+Public Declare PtrSafe Function VB_M_TransposeLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByRef y As Long) As Long
+
+' Transposes a table of texts.
+Public Declare PtrSafe Function VB_M_TransposeStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr) As Long
+
+' Transposes a table of numbers in place.
+Public Declare PtrSafe Function VB_M_Transpose2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Transposes a table of integers in place.
+Public Declare PtrSafe Function VB_M_Transpose2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Transposes a table of texts in place.
+Public Declare PtrSafe Function VB_M_Transpose2Str Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Transposes a table of separate columns of numbers.
+Public Declare PtrSafe Function VB_M_TransposeSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr) As Long
+
 ' ---- vector_extremes.h
 
 ' The smallest element that is kept.

@@ -19,6 +19,7 @@
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
 #include "frames/survey_boxes.h"
+#include "frames/transpose.h"
 #include "frames/vector_extremes.h"
 #include "frames/vector_frequencies.h"
 #include "frames/vector_means.h"

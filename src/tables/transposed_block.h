@@ -1,0 +1,115 @@
+/**
+ * @file
+ * The transposed copy of a column-major block, laid out for the caches.
+ */
+#ifndef KORVEL_TABLES_TRANSPOSED_BLOCK_H
+#define KORVEL_TABLES_TRANSPOSED_BLOCK_H
+
+#include <algorithm>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <emmintrin.h>
+
+namespace korvel
+{
+
+namespace detail
+{
+
+inline constexpr std::size_t cacheLine = 64;
+
+/** Fills the cache line at `to` with `at(0)`, `at(1)`, ..., past the caches. */
+template <class At>
+void streamLine(double* to, At at)
+{
+    for (std::ptrdiff_t k = 0; k < 8; k += 2) {
+        _mm_stream_pd(to + k, _mm_set_pd(at(k + 1), at(k)));
+    }
+}
+
+template <class At>
+void streamLine(int* to, At at)
+{
+    for (std::ptrdiff_t k = 0; k < 16; k += 4) {
+        _mm_stream_si128(reinterpret_cast<__m128i*>(to + k),
+                         _mm_set_epi32(at(k + 3), at(k + 2), at(k + 1), at(k)));
+    }
+}
+
+/**
+ * For results that no cache holds: whole lines are written past the caches, which need not read them first.
+ * Few rows at a time, so that their pages stay known to the processor.
+ */
+template <class From, class To>
+void transposeStreaming(const From* x, std::ptrdiff_t rows, std::ptrdiff_t cols, To* y)
+{
+    constexpr std::ptrdiff_t strip = 512;
+    constexpr auto width = static_cast<std::ptrdiff_t>(cacheLine / sizeof(To));
+    const auto cell = [=](std::ptrdiff_t i, std::ptrdiff_t j) { return static_cast<To>(x[i + rows * j]); };
+    // The first column of row i whose cell in the result opens a cache line.
+    const auto head = [=](std::ptrdiff_t i) {
+        const auto address = reinterpret_cast<std::uintptr_t>(y + cols * i);
+        return static_cast<std::ptrdiff_t>(-address % cacheLine / sizeof(To));
+    };
+    for (std::ptrdiff_t firstRow = 0; firstRow < rows; firstRow += strip) {
+        const std::ptrdiff_t endRow = std::min(rows, firstRow + strip);
+        for (std::ptrdiff_t firstCol = 0; firstCol < cols; firstCol += width) {
+            for (std::ptrdiff_t i = firstRow; i < endRow; ++i) {
+                const std::ptrdiff_t j = firstCol + head(i);
+                if (j + width <= cols) {
+                    streamLine(y + cols * i + j, [=](std::ptrdiff_t k) { return cell(i, j + k); });
+                }
+            }
+        }
+        for (std::ptrdiff_t i = firstRow; i < endRow; ++i) {
+            const std::ptrdiff_t opening = std::min(head(i), cols);
+            for (std::ptrdiff_t j = 0; j < opening; ++j) {
+                y[cols * i + j] = cell(i, j);
+            }
+            for (std::ptrdiff_t j = opening + (cols - opening) / width * width; j < cols; ++j) {
+                y[cols * i + j] = cell(i, j);
+            }
+        }
+    }
+    _mm_sfence();
+}
+
+} // namespace detail
+
+/**
+ * `y[j + cols * i] = x[i + rows * j]` for each row i and column j; the two blocks must not overlap.
+ *
+ * Small square tiles use each cache line that they touch on both sides. Large tables of numbers are written
+ * past the caches.
+ */
+template <class From, class To>
+void transposeBlock(const From* x, int rows, int cols, To* y)
+{
+    const auto height = static_cast<std::ptrdiff_t>(rows);
+    const auto width = static_cast<std::ptrdiff_t>(cols);
+    if constexpr (std::same_as<To, double> || std::same_as<To, int>) {
+        constexpr std::ptrdiff_t streamedFrom = std::ptrdiff_t{4} << 20;
+        if (height > 0 && width > 0 &&
+            height * width * static_cast<std::ptrdiff_t>(sizeof(To)) >= streamedFrom) {
+            detail::transposeStreaming(x, height, width, y);
+            return;
+        }
+    }
+    constexpr std::ptrdiff_t tile = 16;
+    for (std::ptrdiff_t firstCol = 0; firstCol < width; firstCol += tile) {
+        const std::ptrdiff_t endCol = std::min(width, firstCol + tile);
+        for (std::ptrdiff_t firstRow = 0; firstRow < height; firstRow += tile) {
+            const std::ptrdiff_t endRow = std::min(height, firstRow + tile);
+            for (std::ptrdiff_t i = firstRow; i < endRow; ++i) {
+                for (std::ptrdiff_t j = firstCol; j < endCol; ++j) {
+                    y[j + width * i] = static_cast<To>(x[i + height * j]);
+                }
+            }
+        }
+    }
+}
+
+} // namespace korvel
+
+#endif
