@@ -1,83 +1,89 @@
-// The sort engine beside the library sorts that a user would pick, on the same keys in one run. Each
-// benchmark makes its list of pairs, as the engine does, and sorts it. The counter `by std` is the time as a
-// share of std::stable_sort's on the same keys, so run the peers first: they stand first in this file.
+// The sort engine beside the sorts that a user would pick, on the same keys in one run. Benchmarks are named
+// KEYS/PEER, for bench/side_by_side. Ours and those of the standard library make their list of pairs and sort
+// it; those of NumPy and R (one thread) give the order of the keys, which is the same work.
 #include "ordering/sorted_keys.h"
+#include "support/peer_script.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cmath>
-#include <limits>
-#include <map>
+#include <cstdint>
 #include <parallel/algorithm>
 #include <random>
-#include <utility>
+#include <span>
+#include <string>
 #include <vector>
 
 namespace
 {
+
+using namespace korvel::bench;
+
+using key_list = std::vector<double>;
 
 struct pair {
     double key;
     int position;
 };
 
-/** Keys of one shape: 0 uniform, 1 a thousand distinct values, 2 of any magnitude, 3 in order. */
-const std::vector<double>& keysOf(std::int64_t count, std::int64_t shape)
+enum class shape { uniform, few_values, any_magnitude, in_order };
+
+struct keys_case {
+    const char* name;
+    std::size_t count;
+    shape keys;
+    bool scripts; ///< Whether it is worth starting NumPy and R.
+};
+
+constexpr keys_case keysCases[] = {
+    {"20 uniform keys", 20, shape::uniform, false},
+    {"300 uniform keys", 300, shape::uniform, false},
+    {"10,000 uniform keys", 10'000, shape::uniform, false},
+    {"99,999 uniform keys", 99'999, shape::uniform, false},
+    {"1,000,000 uniform keys", 1'000'000, shape::uniform, true},
+    {"10,000,000 uniform keys", 10'000'000, shape::uniform, true},
+    {"10,000,000 keys of 1000 values", 10'000'000, shape::few_values, true},
+    {"10,000,000 keys of any magnitude", 10'000'000, shape::any_magnitude, true},
+    {"10,000,000 keys in order", 10'000'000, shape::in_order, true},
+};
+
+key_list makeKeys(const keys_case& wanted)
 {
-    static std::map<std::pair<std::int64_t, std::int64_t>, std::vector<double>> made;
-    std::vector<double>& keys = made[{count, shape}];
-    if (keys.empty()) {
-        std::mt19937_64 random(1);
-        keys.resize(static_cast<std::size_t>(count));
-        for (std::size_t k = 0; k < keys.size(); ++k) {
-            const double uniform = std::ldexp(static_cast<double>(random() >> 11), -53);
-            switch (shape) {
-            case 0:
-                keys[k] = uniform;
-                break;
-            case 1:
-                keys[k] = static_cast<double>(random() % 1000);
-                break;
-            case 2:
-                keys[k] = std::ldexp(1.0 + uniform, static_cast<int>(random() % 600) - 300);
-                break;
-            default:
-                keys[k] = static_cast<double>(k);
-                break;
-            }
+    std::mt19937_64 random(1);
+    key_list keys(wanted.count);
+    for (std::size_t k = 0; k < keys.size(); ++k) {
+        const double uniform = std::ldexp(static_cast<double>(random() >> 11), -53);
+        switch (wanted.keys) {
+        case shape::uniform:
+            keys[k] = uniform;
+            break;
+        case shape::few_values:
+            keys[k] = static_cast<double>(random() % 1000);
+            break;
+        case shape::any_magnitude:
+            keys[k] = std::ldexp(1.0 + uniform, static_cast<int>(random() % 600) - 300);
+            break;
+        case shape::in_order:
+            keys[k] = static_cast<double>(k);
+            break;
         }
     }
     return keys;
 }
 
-std::map<std::pair<std::int64_t, std::int64_t>, double>& standardSeconds()
+/** The keys of a case, made when they are first asked for. */
+const key_list& keysOf(const keys_case& wanted)
 {
-    static std::map<std::pair<std::int64_t, std::int64_t>, double> seconds;
-    return seconds;
-}
-
-/** Times `sort(keys)` and reports the least time as a share of the standard library's. */
-template <class Sort>
-void timeSort(benchmark::State& state, bool isStandard, Sort sort)
-{
-    const auto id = std::pair{state.range(0), state.range(1)};
-    const std::vector<double>& keys = keysOf(id.first, id.second);
-    double least = std::numeric_limits<double>::infinity();
-    for (auto _ : state) {
-        const auto begin = std::chrono::steady_clock::now();
-        sort(keys);
-        const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - begin;
-        least = std::min(least, elapsed.count());
+    static std::vector<key_list> made(std::size(keysCases));
+    key_list& keys = made[static_cast<std::size_t>(&wanted - keysCases)];
+    if (keys.empty()) {
+        keys = makeKeys(wanted);
     }
-    if (isStandard) {
-        standardSeconds()[id] = least;
-    }
-    state.counters["by std"] = least / standardSeconds()[id];
+    return keys;
 }
 
 template <class Sort>
-void sortPairs(const std::vector<double>& keys, Sort sort)
+void sortPairs(const key_list& keys, Sort sort)
 {
     std::vector<pair> pairs(keys.size());
     for (std::size_t k = 0; k < keys.size(); ++k) {
@@ -87,45 +93,77 @@ void sortPairs(const std::vector<double>& keys, Sort sort)
     benchmark::DoNotOptimize(pairs.data());
 }
 
-void standardSort(benchmark::State& state)
+void engineSort(const key_list& keys)
 {
-    timeSort(state, true, [](const std::vector<double>& keys) {
-        sortPairs(keys, [](auto first, auto last, auto before) { std::stable_sort(first, last, before); });
+    const korvel::sorted_keys<double> sorted(static_cast<int>(keys.size()), false, [&](std::int32_t k) {
+        return keys[static_cast<std::size_t>(k)];
     });
+    benchmark::DoNotOptimize(sorted.position(0));
 }
 
-void parallelModeSort(benchmark::State& state)
+void standardSort(const key_list& keys)
 {
-    timeSort(state, false, [](const std::vector<double>& keys) {
-        sortPairs(keys, [](auto first, auto last, auto before) {
-            __gnu_parallel::stable_sort(first, last, before);
-        });
-    });
+    sortPairs(keys, [](auto first, auto last, auto before) { std::stable_sort(first, last, before); });
 }
 
-void sortEngine(benchmark::State& state)
+void parallelModeSort(const key_list& keys)
 {
-    timeSort(state, false, [](const std::vector<double>& keys) {
-        const korvel::sorted_keys<double> sorted(static_cast<int>(keys.size()), false, [&](std::int32_t k) {
-            return keys[static_cast<std::size_t>(k)];
-        });
-        benchmark::DoNotOptimize(sorted.position(0));
-    });
+    sortPairs(keys,
+              [](auto first, auto last, auto before) { __gnu_parallel::stable_sort(first, last, before); });
 }
 
-void shapes(benchmark::internal::Benchmark* bench)
+void add(const keys_case& keys, const char* peer, void (*sort)(const key_list&))
 {
-    for (const int count : {20, 300, 10'000, 99'999, 1'000'000}) {
-        bench->Args({count, 0});
-    }
-    for (const int shape : {0, 1, 2, 3}) {
-        bench->Args({10'000'000, shape});
-    }
-    bench->ArgNames({"pairs", "shape"})->Unit(benchmark::kMillisecond)->UseRealTime();
+    const auto run = [&keys, sort](benchmark::State& state) {
+        const key_list& given = keysOf(keys);
+        // Short ones many times, or the clock is what is measured.
+        const std::size_t rounds = std::max<std::size_t>(1, 100'000 / given.size());
+        for ([[maybe_unused]] auto _ : state) {
+            for (std::size_t k = 0; k < rounds; ++k) {
+                sort(given);
+            }
+        }
+        state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(given.size() * rounds));
+    };
+    benchmark::RegisterBenchmark((std::string(keys.name) + "/" + peer).c_str(), run)
+        ->Iterations(1)
+        ->UseRealTime()
+        ->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK(standardSort)->Apply(shapes);
-BENCHMARK(parallelModeSort)->Apply(shapes);
-BENCHMARK(sortEngine)->Apply(shapes);
+/** A script is started once for each list of keys and gives the least of several times. */
+void addScript(const keys_case& keys, const char* peer, const std::string& script)
+{
+    const auto run = [&keys, script, seconds = 0.0](benchmark::State& state) mutable {
+        const key_list& given = keysOf(keys);
+        if (seconds == 0.0) {
+            const cells_file file("keys", given);
+            seconds = secondsOf(script + " " + file.path());
+        }
+        for ([[maybe_unused]] auto _ : state) {
+            state.SetIterationTime(seconds);
+        }
+        state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(given.size()));
+    };
+    benchmark::RegisterBenchmark((std::string(keys.name) + "/" + peer).c_str(), run)
+        ->Iterations(1)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
+}
 
 } // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    for (const keys_case& keys : keysCases) {
+        add(keys, "korvel", engineSort);
+        add(keys, "std::stable_sort", standardSort);
+        add(keys, "__gnu_parallel", parallelModeSort);
+        if (keys.scripts) {
+            addScript(keys, "NumPy", pythonScript("argsort.py"));
+            addScript(keys, "R", rScript("order.R"));
+        }
+    }
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -3,9 +3,9 @@
 #include "frames/random.h"
 #include "random/random_generators.h"
 #include "random/random_table.h"
+#include "support/peer_script.h"
 
 #include <benchmark/benchmark.h>
-#include <cstdio>
 #include <gsl/gsl_rng.h>
 #include <memory>
 #include <random>
@@ -137,18 +137,9 @@ void gslSingle(benchmark::State& state)
 
 void rArray(benchmark::State& state)
 {
-    const std::string command =
-        std::string("Rscript --vanilla " KORVEL_BENCH_PEERS "/runif.R ") + std::to_string(cells);
+    const std::string command = korvel::bench::rScript("runif.R") + " " + std::to_string(cells);
     for ([[maybe_unused]] auto _ : state) {
-        double seconds = 0.0;
-        FILE* const answer = popen(command.c_str(), "r");
-        if (answer == nullptr || std::fscanf(answer, "%lf", &seconds) != 1) {
-            state.SkipWithError("Rscript gave no time");
-        }
-        if (answer != nullptr) {
-            pclose(answer);
-        }
-        state.SetIterationTime(seconds);
+        state.SetIterationTime(korvel::bench::secondsOf(command));
     }
     countDraws(state, cells);
 }

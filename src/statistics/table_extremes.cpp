@@ -1,27 +1,31 @@
 #include "statistics/table_extremes.h"
 
+#include "containers/views.h"
+
 #include <cstdint>
 
 double V_Min_ST(matrix3DVect<matrix<double>>* table, int nChunks, int nPerChunk, short int* iMissing)
 {
-    bool any = false;
-    double least = MISSING_DBL;
-    for (int chunk = 0; chunk < nChunks; ++chunk) {
-        for (int i = 0; i < nPerChunk; ++i) {
-            const double value = table->getElement(i, chunk);
-            if (iMissing[static_cast<std::int64_t>(chunk) * nPerChunk + i] != 0 || value == MISSING_DBL) {
-                continue;
-            }
-            if (!any) {
-                any = true;
-                least = table->getElement(0, 0);
-            }
-            if (value < least) {
-                least = value;
-            }
-        }
+    if (nChunks < 1 || nPerChunk < 1) {
+        return MISSING_DBL;
     }
-    return least;
+    bool any = false;
+    double least = table->getElement(0, 0);
+    const auto columns = korvel::reading(*table);
+    for (int chunk = 0; chunk < nChunks; ++chunk) {
+        const short int* const flags = iMissing + static_cast<std::int64_t>(chunk) * nPerChunk;
+        const auto lookAt = [&](auto cells) {
+            for (int i = 0; i < nPerChunk; ++i) {
+                const double value = cells[i];
+                if (flags[i] == 0 && value != MISSING_DBL) {
+                    any = true;
+                    least = value < least ? value : least;
+                }
+            }
+        };
+        korvel::withCells(lookAt, columns.column(chunk, nPerChunk));
+    }
+    return any ? least : MISSING_DBL;
 }
 
 double korvel::smallestOf(const cST_MVect<double>& table, int rows, int cols)

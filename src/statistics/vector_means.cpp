@@ -6,6 +6,7 @@
 #include "statistics/stand_ins.h"
 
 #include <cmath>
+#include <cstdint>
 
 namespace
 {
@@ -33,14 +34,14 @@ template <class Values, class Flags, class Weights, class Term>
 weighted_total totalOf(Values x, int n, Flags flags, Weights w, Term term)
 {
     pair total = _mm_setzero_pd();
-    int i = 0;
-    for (; i + 1 < n; i += 2) {
+    const auto addPair = [&](std::int64_t i) {
         const pair kept = only(pairAt(flags, i), present(pairAt(x, i)));
         const pair weights = only(kept, pairAt(w, i));
         const pair terms = only(kept, term(pairAt(x, i), weights));
         total += _mm_unpacklo_pd(terms, weights);
         total += _mm_unpackhi_pd(terms, weights);
-    }
+    };
+    const std::int64_t i = korvel::forEachPair(0, n, addPair, x, flags, w);
     if (i < n) {
         const pair kept = only(twice(flags, i), present(twice(x, i)));
         total += only(kept, _mm_unpacklo_pd(term(twice(x, i), twice(w, i)), twice(w, i)));

@@ -134,11 +134,21 @@ void V_CuSum(matrix<double>* x, const int& n, matrix<double>* out)
     if (n < 1) {
         return;
     }
-    double sum = x->data[0];
-    out->data[0] = sum;
-    for (int i = 1; i < n; ++i) {
-        sum += x->data[i];
-        out->data[i] = sum;
+    const double* const cells = x->data;
+    double* const sums = out->data;
+    double sum = cells[0];
+    sums[0] = sum;
+    const auto addTo = [&](std::int64_t i) {
+        sum += cells[i];
+        sums[i] = sum;
+    };
+    const auto addPair = [&](std::int64_t i) {
+        addTo(i);
+        addTo(i + 1);
+    };
+    const std::int64_t i = korvel::forEachPair(1, n, addPair, cells, sums);
+    if (i < n) {
+        addTo(i);
     }
 }
 

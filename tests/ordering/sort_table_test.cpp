@@ -264,3 +264,27 @@ TEST(IsSorted, TellsStrictFromWeak)
     x[1] = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(V_IsSorted(&x, 3, false), 0);
 }
+
+TEST(SortSparse, MovesRowsAndAlwaysRewritesTheKey)
+{
+    matrix<double> dense(3, 2, 0.0);
+    dense.setElement(0, 0, 1.0);
+    dense.setElement(1, 1, 2.0);
+    dense.setElement(2, 0, 3.0);
+    matrixSparse table(&dense);
+    matrixSparse companion(&dense);
+    matrix<double> key(3, 1, 3.0);
+    key[1] = 1.0;
+    key[2] = 2.0;
+    SortQ(&table, 3, 2, 1, 3, &key, &companion, 1, false, false);
+    const double expected[3][2] = {{0.0, 2.0}, {3.0, 0.0}, {1.0, 0.0}};
+    for (int i = 0; i < 3; ++i) {
+        for (int j = 0; j < 2; ++j) {
+            EXPECT_EQ(table.getElement(i, j), expected[i][j]) << i << " " << j;
+        }
+        EXPECT_EQ(companion.getElement(i, 0), expected[i][0]);
+        EXPECT_EQ(key[i], i + 1.0);
+    }
+    EXPECT_EQ(table.nnz, 3);
+    EXPECT_EQ(companion.getElement(1, 1), 2.0);
+}

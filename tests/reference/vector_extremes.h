@@ -1,6 +1,6 @@
 /**
  * @file
- * Plain loops over the checked access: what the extremes compute, with nothing done for speed. Null flags
+ * Plain loops: what the extremes compute, with nothing done for speed. Null flags
  * stand for none.
  */
 #ifndef KORVEL_TESTS_REFERENCE_VECTOR_EXTREMES_H
@@ -17,8 +17,8 @@ struct extremes {
 };
 
 /** Compares the elements from `first` on, in order, with the smallest and the largest so far. */
-template <class T, class Kept>
-extremes extremesOf(const matrix<T>& x, int first, int n, Kept isKept)
+template <class Cells, class Kept>
+extremes extremesOf(const Cells& x, int first, int n, Kept isKept)
 {
     bool any = false;
     extremes found{MISSING_DBL, MISSING_DBL};
@@ -41,16 +41,16 @@ extremes extremesOf(const matrix<T>& x, int first, int n, Kept isKept)
     return found;
 }
 
-template <class T>
-extremes keptExtremes(const matrix<T>& x, int n, const short int* flags)
+template <class Cells>
+extremes keptExtremes(const Cells& x, int n, const short int* flags)
 {
     return extremesOf(
         x, 0, n, [&](int i) { return !isFlagged(flags, i) && static_cast<double>(x[i]) != MISSING_DBL; });
 }
 
 /** For at least one element. */
-template <class T>
-extremes allExtremes(const matrix<T>& x, int n, bool passOverLeadingMissing)
+template <class Cells>
+extremes allExtremes(const Cells& x, int n, bool passOverLeadingMissing)
 {
     int first = 0;
     while (passOverLeadingMissing && first < n && static_cast<double>(x[first]) == MISSING_DBL) {
@@ -62,14 +62,38 @@ extremes allExtremes(const matrix<T>& x, int n, bool passOverLeadingMissing)
     return extremesOf(x, first, n, [](int) { return true; });
 }
 
+/** The smallest element kept of `chunks[j][i]`, with which the first of all is compared whatever it is. */
+template <class Chunks>
+double smallestOfChunks(const Chunks& chunks, int nChunks, int nPerChunk, const short int* flags)
+{
+    bool any = false;
+    double least = MISSING_DBL;
+    for (int j = 0; j < nChunks; ++j) {
+        for (int i = 0; i < nPerChunk; ++i) {
+            const double value = chunks[static_cast<std::size_t>(j)][i];
+            if (isFlagged(flags, j * nPerChunk + i) || value == MISSING_DBL) {
+                continue;
+            }
+            if (!any) {
+                any = true;
+                least = chunks[0][0];
+            }
+            if (value < least) {
+                least = value;
+            }
+        }
+    }
+    return least;
+}
+
 struct extreme_position {
     double value;
     int pos;
 };
 
 /** The element that `replaces` those before it, starting from the first, with its position from 1. */
-template <class T, class Replaces>
-extreme_position withPosition(const matrix<T>& x, int n, Replaces replaces)
+template <class Cells, class Replaces>
+extreme_position withPosition(const Cells& x, int n, Replaces replaces)
 {
     double value = x[0];
     int pos = 1;

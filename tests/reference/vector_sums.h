@@ -1,7 +1,7 @@
 /**
  * @file
- * Plain loops over the checked access: what the sums and means compute, with nothing done for speed. Null
- * flags and weights stand for none.
+ * Plain loops: what the sums and means compute, with nothing done for speed. Cells are whatever has `x[i]`: a
+ * table with its checked access, or a pointer. Null flags and weights stand for none.
  */
 #ifndef KORVEL_TESTS_REFERENCE_VECTOR_SUMS_H
 #define KORVEL_TESTS_REFERENCE_VECTOR_SUMS_H
@@ -10,23 +10,28 @@
 
 #include <cmath>
 #include <cstdint>
+#include <type_traits>
 
 namespace korvel::reference
 {
 
-using column = matrix<double>;
+/** Weights of the same kind as the values, or a null pointer. */
+template <class Cells>
+using weights_of = const std::type_identity_t<Cells>*;
 
 inline bool isFlagged(const short int* flags, int i)
 {
     return flags != nullptr && flags[i] != 0;
 }
 
-inline double weightAt(const column* w, int i)
+template <class Cells>
+double weightAt(const Cells* w, int i)
 {
     return w != nullptr ? (*w)[i] : 1.0;
 }
 
-inline double sum(const column& x, int n, const short int* flags, const column* w)
+template <class Cells>
+double sum(const Cells& x, int n, const short int* flags, weights_of<Cells> w)
 {
     double total = 0.0;
     for (int i = 0; i < n; ++i) {
@@ -37,7 +42,8 @@ inline double sum(const column& x, int n, const short int* flags, const column* 
     return total;
 }
 
-inline double sumW(const column& x, int n, const column& w)
+template <class Cells>
+double sumW(const Cells& x, int n, const Cells& w)
 {
     double total = 0.0;
     for (int i = 0; i < n; ++i) {
@@ -46,7 +52,8 @@ inline double sumW(const column& x, int n, const column& w)
     return total;
 }
 
-inline double sumSq(const column& x, int n, bool skipMissing)
+template <class Cells>
+double sumSq(const Cells& x, int n, bool skipMissing)
 {
     double total = 0.0;
     for (int i = 0; i < n; ++i) {
@@ -57,7 +64,8 @@ inline double sumSq(const column& x, int n, bool skipMissing)
     return total;
 }
 
-inline double sumSqW(const column& x, int n, const column& w)
+template <class Cells>
+double sumSqW(const Cells& x, int n, const Cells& w)
 {
     double total = 0.0;
     for (int i = 0; i < n; ++i) {
@@ -68,7 +76,8 @@ inline double sumSqW(const column& x, int n, const column& w)
     return total;
 }
 
-inline double diffSq(const column& x, int n, const column& y, const column* w, int start)
+template <class Cells>
+double diffSq(const Cells& x, int n, const Cells& y, weights_of<Cells> w, int start)
 {
     double total = 0.0;
     for (int i = start - 1; i < n; ++i) {
@@ -78,7 +87,29 @@ inline double diffSq(const column& x, int n, const column& y, const column* w, i
     return total;
 }
 
-inline double wrappedSum(const matrix<int>& x, int n)
+/** Over the positions `from` to `to`, from 1. */
+template <class Cells>
+double sumFromTo(const Cells& x, int from, int to)
+{
+    double total = 0.0;
+    for (int i = from - 1; i < to; ++i) {
+        total += x[i];
+    }
+    return total;
+}
+
+/** For at least one element; `out` may be `x`. */
+template <class Cells, class Sums>
+void runningSums(const Cells& x, int n, Sums& out)
+{
+    out[0] = x[0];
+    for (int i = 1; i < n; ++i) {
+        out[i] = out[i - 1] + x[i];
+    }
+}
+
+template <class Cells>
+double wrappedSum(const Cells& x, int n)
 {
     std::int64_t total = 0;
     for (int i = 0; i < n; ++i) {
@@ -88,8 +119,8 @@ inline double wrappedSum(const matrix<int>& x, int n)
     return static_cast<double>(low >= 0x80000000 ? low - 0x100000000 : low);
 }
 
-template <class T>
-double frequency(const matrix<T>& x, int n, const column& w, double value, double tol)
+template <class Cells, class Weights>
+double frequency(const Cells& x, int n, const Weights& w, double value, double tol)
 {
     double total = 0.0;
     for (int i = 0; i < n; ++i) {
@@ -103,8 +134,8 @@ double frequency(const matrix<T>& x, int n, const column& w, double value, doubl
 /** How a mean ends when nothing can be divided by. */
 enum class no_mean_when { weight_is_zero, weight_is_not_positive };
 
-template <class Term>
-double meanOf(const column& x, int n, const short int* flags, const column* w, Term term,
+template <class Cells, class Term>
+double meanOf(const Cells& x, int n, const short int* flags, weights_of<Cells> w, Term term,
               no_mean_when rule = no_mean_when::weight_is_zero)
 {
     double total = 0.0;
@@ -119,7 +150,8 @@ double meanOf(const column& x, int n, const short int* flags, const column* w, T
     return none ? MISSING_DBL : total / weight;
 }
 
-inline double harmonicMean(const column& x, int n, const short int* flags, const column& w)
+template <class Cells>
+double harmonicMean(const Cells& x, int n, const short int* flags, const Cells& w)
 {
     double weight = 0.0;
     double quotients = 0.0;

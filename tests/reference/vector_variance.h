@@ -1,6 +1,6 @@
 /**
  * @file
- * Plain loops over the checked access: what the variances and moments compute, with nothing done for speed.
+ * Plain loops: what the variances and moments compute, with nothing done for speed.
  * Null flags and weights stand for none.
  */
 #ifndef KORVEL_TESTS_REFERENCE_VECTOR_VARIANCE_H
@@ -28,7 +28,8 @@ inline double denominatorOf(double sumW, int m, denominator_flags how)
     return sumW;
 }
 
-inline double variance(const column& x, int n, const short int* flags, const column* w, denominator_flags how)
+template <class Cells>
+double variance(const Cells& x, int n, const short int* flags, weights_of<Cells> w, denominator_flags how)
 {
     double s = 0.0;
     double mean = 0.0;
@@ -51,8 +52,9 @@ inline double variance(const column& x, int n, const short int* flags, const col
     return divisor == 0.0 ? MISSING_DBL : m2 / divisor;
 }
 
-inline double standardDeviation(const column& x, int n, const short int* flags, const column* w,
-                                denominator_flags how)
+template <class Cells>
+double standardDeviation(const Cells& x, int n, const short int* flags, weights_of<Cells> w,
+                         denominator_flags how)
 {
     const double var = variance(x, n, flags, w, how);
     if (var == 0.0) {
@@ -61,7 +63,8 @@ inline double standardDeviation(const column& x, int n, const short int* flags, 
     return var < 0.0 ? MISSING_DBL : std::sqrt(var);
 }
 
-inline double unweightedVariance(const column& x, int n, denominator_flags how)
+template <class Cells>
+double unweightedVariance(const Cells& x, int n, denominator_flags how)
 {
     double c = 0.0;
     double mean = 0.0;
@@ -86,8 +89,8 @@ struct spread {
     double size;
 };
 
-inline spread meanAndVariance(const column& x, int n, const short int* flags, const column& w,
-                              denominator_flags how)
+template <class Cells>
+spread meanAndVariance(const Cells& x, int n, const short int* flags, const Cells& w, denominator_flags how)
 {
     double s = 0.0;
     double mean = 0.0;
@@ -113,7 +116,8 @@ inline spread meanAndVariance(const column& x, int n, const short int* flags, co
     return {mean, divisor > 0.0 ? m2 / divisor : MISSING_DBL};
 }
 
-inline spread meanAndVarianceByShares(const column& x, int n, const column& w, denominator_flags how)
+template <class Cells>
+spread meanAndVarianceByShares(const Cells& x, int n, const Cells& w, denominator_flags how)
 {
     double s = 0.0;
     double mean = 0.0;
@@ -136,7 +140,8 @@ inline spread meanAndVarianceByShares(const column& x, int n, const column& w, d
     return {mean, divisor > 0.0 ? m2 / divisor : MISSING_DBL};
 }
 
-inline spread unweightedMeanAndDeviation(const column& x, int n, short int unbiased)
+template <class Cells>
+spread unweightedMeanAndDeviation(const Cells& x, int n, short int unbiased)
 {
     double c = 0.0;
     double mean = 0.0;
@@ -152,7 +157,8 @@ inline spread unweightedMeanAndDeviation(const column& x, int n, short int unbia
     return {mean, std::sqrt(unbiased == -1 ? m2 / (c - 1.0) : m2 / c)};
 }
 
-inline spread geometricMeanAndDeviation(const column& x, int n, const short int* flags, const column& w)
+template <class Cells>
+spread geometricMeanAndDeviation(const Cells& x, int n, const short int* flags, const Cells& w)
 {
     double s = 0.0;
     double g = 0.0;
@@ -193,8 +199,8 @@ inline double rootOrMissing(double x)
     return x < 0.0 ? MISSING_DBL : std::sqrt(x);
 }
 
-inline eight_moments moments(const column& x, int n, const short int* flags, const column& w,
-                             denominator_flags how)
+template <class Cells>
+eight_moments moments(const Cells& x, int n, const short int* flags, const Cells& w, denominator_flags how)
 {
     double s = 0.0;
     double mean = 0.0;

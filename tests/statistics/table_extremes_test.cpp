@@ -1,7 +1,8 @@
 #include "statistics/table_extremes.h"
 
-#include "ordering/sort_table.h"
+#include "reference/vector_extremes.h"
 #include "support/bits.h"
+#include "support/random_cells.h"
 
 #include <vector>
 
@@ -51,26 +52,17 @@ TEST(SmallestOfChunks, OfNothingIsMissing)
     EXPECT_TRUE(sameBits(V_Min_ST(&table, 0, 2, all), MISSING_DBL));
 }
 
-TEST(SortSparse, MovesRowsAndAlwaysRewritesTheKey)
+TEST(SmallestOfChunks, EqualToThePlainLoop)
 {
-    matrix<double> dense(3, 2, 0.0);
-    dense.setElement(0, 0, 1.0);
-    dense.setElement(1, 1, 2.0);
-    dense.setElement(2, 0, 3.0);
-    matrixSparse table(&dense);
-    matrixSparse companion(&dense);
-    matrix<double> key(3, 1, 3.0);
-    key[1] = 1.0;
-    key[2] = 2.0;
-    SortQ(&table, 3, 2, 1, 3, &key, &companion, 1, false, false);
-    const double expected[3][2] = {{0.0, 2.0}, {3.0, 0.0}, {1.0, 0.0}};
-    for (int i = 0; i < 3; ++i) {
-        for (int j = 0; j < 2; ++j) {
-            EXPECT_EQ(table.getElement(i, j), expected[i][j]) << i << " " << j;
+    korvel::test::forRandomVectors([](korvel::test::random_cells& cells, int n, int held) {
+        matrix3DVect<matrix<double>> table;
+        const int chunks = cells.integer(1, 4);
+        for (int j = 0; j < chunks; ++j) {
+            // One shorter than the others reads the spare slot at its end.
+            table.chunks.push_back(cells.values(j == 1 ? held : n));
         }
-        EXPECT_EQ(companion.getElement(i, 0), expected[i][0]);
-        EXPECT_EQ(key[i], i + 1.0);
-    }
-    EXPECT_EQ(table.nnz, 3);
-    EXPECT_EQ(companion.getElement(1, 1), 2.0);
+        auto flags = cells.flags(n * chunks);
+        const double expected = korvel::reference::smallestOfChunks(table.chunks, chunks, n, flags.data());
+        ASSERT_TRUE(sameBits(V_Min_ST(&table, chunks, n, flags.data()), expected));
+    });
 }

@@ -207,7 +207,29 @@ TEST(VectorSums, EqualToThePlainLoops)
         ASSERT_TRUE(sameBits(V_DiffSqW(&x, n, &y, &w), reference::diffSq(x, n, y, &w, 1)));
         ASSERT_TRUE(sameBits(V_DiffSqStart(&x, n, &y, start), reference::diffSq(x, n, y, nullptr, start)));
         ASSERT_TRUE(sameBits(korvel::sumOfProducts(x, n, w), reference::sumW(x, n, w)));
+        const int to = cells.integer(0, held);
+        const int from = cells.integer(1, to + 2);
+        ASSERT_TRUE(sameBits(korvel::sumFromTo(x.data, from, to), reference::sumFromTo(x, from, to)));
         auto counts = cells.integers(held, MISSING_LNG, std::numeric_limits<int>::max());
         ASSERT_TRUE(sameBits(V_Sum2(&counts, n), reference::wrappedSum(counts, n)));
+    });
+}
+
+TEST(VectorSums, RunningSumsEqualToThePlainLoop)
+{
+    forRandomVectors([](random_cells& cells, int n, int) {
+        if (n < 1) {
+            return;
+        }
+        auto x = cells.values(n);
+        matrix<double> out(n, 1, 0.0);
+        matrix<double> expected(n, 1, 0.0);
+        V_CuSum(&x, n, &out);
+        reference::runningSums(x, n, expected);
+        V_CuSum(&x, n, &x);
+        for (int i = 0; i < n; ++i) {
+            ASSERT_TRUE(sameBits(out[i], expected[i])) << i << " of " << n;
+            ASSERT_TRUE(sameBits(x[i], expected[i])) << i << " of " << n << ", in place";
+        }
     });
 }
