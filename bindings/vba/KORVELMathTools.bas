@@ -92,6 +92,33 @@ Public Declare PtrSafe Function Cpp_Test Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Sub dprint Lib "KORVELMathTools.dll" ( _
     ByVal value As Double, ByVal label As String)
 
+' ---- diagonal_scaling.h
+
+' c(i, k) = a(i, k) * d(k, k).
+Public Declare PtrSafe Function VB_M_ProductADiag Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' c(k, i) = a(i, k) * d(i, i).
+Public Declare PtrSafe Function VB_M_ProductTrADiag Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' c(i, k) = a(i, k) * d(k).
+Public Declare PtrSafe Function VB_M_ProductADiagV Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' c(i, k) = d(i) * a(i, k).
+Public Declare PtrSafe Function VB_M_ProductDiagVA Lib "KORVELMathTools.dll" ( _
+    ByRef d As Double, ByVal n As Long, ByRef a As Double, ByVal p As Long, ByRef c As Double) As Long
+
+' c(i, k) = (d1(i) * a(i, k)) * d2(k).
+Public Declare PtrSafe Function VB_M_ProductDiagV1ADiagV2 Lib "KORVELMathTools.dll" ( _
+    ByRef d1 As Double, ByVal n As Long, ByRef a As Double, ByVal p As Long, ByRef d2 As Double, _
+    ByRef c As Double) As Long
+
+' c(k, r) = a(r, k) * d(r).
+Public Declare PtrSafe Function VB_M_ProductTrADiagV Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
 ' ---- distinct.h
 
 ' The most frequent code of a vector of codes 0, 1, 2, ...; a number x is code trunc(x + 1) - 1.
@@ -125,6 +152,44 @@ Public Declare PtrSafe Function Cpp_V_NbDistinctStr Lib "KORVELMathTools.dll" ( 
 ' smaller of 2.220446049250313e-16 and the range of the data.
 Public Declare PtrSafe Function VB_V_ExtractDistinct Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef out As Double, ByRef nOut As Long) As Long
+
+' ---- element_wise.h
+
+' c(i, j) = s * a(i, j); a missing cell stays missing.
+Public Declare PtrSafe Function VB_M_ScalarsA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef c As Double) As Long
+
+' a(i, j) = s * a(i, j); a missing cell stays missing.
+Public Declare PtrSafe Function VB_M_ScalarsA2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double) As Long
+
+' c(j, i) = s * a(i, j); a missing cell stays missing.
+Public Declare PtrSafe Function VB_M_ScalarsTrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef c As Double) As Long
+
+' c(i, j) = a(i, j) + s.
+Public Declare PtrSafe Function VB_M_APlusVal Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef c As Double) As Long
+
+' a(i, j) = a(i, j) + s.
+Public Declare PtrSafe Function VB_M_APlusVal2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double) As Long
+
+' a(i, j) = a(i, j) * a(i, j); a missing cell stays missing.
+Public Declare PtrSafe Function VB_M_Square Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long) As Long
+
+' c(i, j) = a(i, j) * b(i, j).
+Public Declare PtrSafe Function VB_M_ProductByElement Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByRef c As Double) As Long
+
+' c(i, j) = a(i, j) + b(i, j).
+Public Declare PtrSafe Function Cpp_SumMat Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef c As Double) As Long
+
+' x(i, j) = x(i, j) * s.
+Public Declare PtrSafe Function Cpp_MultiplyByVal Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal s As Double) As Long
 
 ' ---- permutations.h
 
@@ -289,6 +354,20 @@ Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
 ' 1 to the smaller number of columns.
 Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
     ByVal src As LongPtr, ByVal dst As LongPtr) As Long
+
+' ---- reductions.h
+
+' The trace: the sum of a(i, i).
+Public Declare PtrSafe Function VB_M_Trace Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long) As Double
+
+' The trace of a' * b: the sum over the columns of the inner products of like columns.
+Public Declare PtrSafe Function VB_M_FrobeniusNorm Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double) As Double
+
+' The row sum norm: the largest sum of magnitudes of a row.
+Public Declare PtrSafe Function Cpp_M_RowSumNorm Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal m As Long) As Double
 
 ' ---- reverse.h
 
@@ -714,6 +793,32 @@ Public Declare PtrSafe Function VB_V_MeanVarSkewPKurtP Lib "KORVELMathTools.dll"
     ByRef skewP As Double, ByRef kurtP As Double, ByRef skew As Double, ByRef kurt As Double, _
     ByRef seSkew As Double, ByRef seKurt As Double, ByRef iMissing As Integer, ByRef w As Double, _
     ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' ---- vector_products.h
+
+' The inner product: the sum of x1(i) * x2(i).
+Public Declare PtrSafe Function VB_V_ProductTrV1V2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Double
+
+' y(i) = x1(i) * x2(i), missing when one of the two is.
+Public Declare PtrSafe Function VB_V_ProductV1V2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef y As Double) As Long
+
+' x1(i) = x1(i) * x2(i).
+Public Declare PtrSafe Function VB_V_ProductV1V22 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Long
+
+' The outer product: c(i, j) = x1(i) * x2(j).
+Public Declare PtrSafe Function VB_V_ProductV1TrV2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef c As Double) As Long
+
+' The product of all elements in ascending order, from 1.0.
+Public Declare PtrSafe Function VB_V_Product1toNDbl Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long) As Double
+
+' The product of all elements in ascending order, from 1.0, in Double.
+Public Declare PtrSafe Function VB_V_Product1toNLng Lib "KORVELMathTools.dll" ( _
+    ByRef v As Long, ByVal n As Long) As Double
 
 ' ---- vector_sums.h
 

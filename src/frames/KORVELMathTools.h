@@ -7,12 +7,15 @@
 
 #include "frames/apply_order.h"
 #include "frames/containers.h"
+#include "frames/diagonal_scaling.h"
 #include "frames/distinct.h"
+#include "frames/element_wise.h"
 #include "frames/permutations.h"
 #include "frames/quantiles.h"
 #include "frames/random.h"
 #include "frames/ranks.h"
 #include "frames/records.h"
+#include "frames/reductions.h"
 #include "frames/reverse.h"
 #include "frames/row_grouping.h"
 #include "frames/sampling.h"
@@ -24,6 +27,7 @@
 #include "frames/vector_frequencies.h"
 #include "frames/vector_means.h"
 #include "frames/vector_moments.h"
+#include "frames/vector_products.h"
 #include "frames/vector_sums.h"
 #include "frames/vector_variance.h"
 
