@@ -643,6 +643,141 @@ Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTo
     ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
     ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
 
+' ---- table_merge.h
+
+' Puts two tables of numbers side by side.
+Public Declare PtrSafe Function VB_HMergeTablesDbl Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal rowsA As Long, ByVal colsA As Long, ByRef b As Double, _
+    ByVal rowsB As Long, ByVal colsB As Long, ByRef out As Double) As Long
+
+' Puts two tables of flags side by side.
+Public Declare PtrSafe Function VB_HMergeTablesBool Lib "KORVELMathTools.dll" ( _
+    ByRef a As Integer, ByVal rowsA As Long, ByVal colsA As Long, ByRef b As Integer, _
+    ByVal rowsB As Long, ByVal colsB As Long, ByRef out As Integer) As Long
+
+' Puts two tables of texts side by side.
+Public Declare PtrSafe Function VB_HMergeTablesStr Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal rowsA As Long, ByVal colsA As Long, ByVal b As LongPtr, _
+    ByVal rowsB As Long, ByVal colsB As Long, ByVal out As LongPtr) As Long
+
+' Adds the columns of a table of numbers to the right of another, in place.
+Public Declare PtrSafe Function VB_HMergeTablesDbl2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal rowsA As Long, ByVal colsA As Long, ByRef b As Double, _
+    ByVal rowsB As Long, ByVal colsB As Long) As Long
+
+' Adds the columns of a table of integers to the right of another, in place.
+Public Declare PtrSafe Function VB_HMergeTablesLng2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Long, ByVal rowsA As Long, ByVal colsA As Long, ByRef b As Long, ByVal rowsB As Long, _
+    ByVal colsB As Long) As Long
+
+' Adds the columns of a table of flags to the right of another, in place.
+Public Declare PtrSafe Function VB_HMergeTablesBool2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Integer, ByVal rowsA As Long, ByVal colsA As Long, ByRef b As Integer, _
+    ByVal rowsB As Long, ByVal colsB As Long) As Long
+
+' Adds the columns of a table of texts to the right of another, in place.
+Public Declare PtrSafe Function VB_HMergeTablesStr2 Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal rowsA As Long, ByVal colsA As Long, ByVal b As LongPtr, _
+    ByVal rowsB As Long, ByVal colsB As Long) As Long
+
+' Adds the columns of a table of numbers to a chunked one, in place.
+Public Declare PtrSafe Function VB_HMergeTablesDbl2SPV Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal rowsA As Long, ByVal colsA As Long, ByRef b As Double, _
+    ByVal rowsB As Long, ByVal colsB As Long) As Long
+
+' Adds the columns of a chunked table of numbers to another, in place.
+Public Declare PtrSafe Function VB_HMergeTablesDbl2SPV2 Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal rowsA As Long, ByVal colsA As Long, ByVal b As LongPtr, _
+    ByVal rowsB As Long, ByVal colsB As Long) As Long
+
+' Puts two vectors side by side.
+Public Declare PtrSafe Function VB_HMergeVectors Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal nA As Long, ByRef b As Double, ByVal nB As Long, ByRef out As Double) As Long
+
+' Puts a vector to the right of a table.
+Public Declare PtrSafe Function VB_HMergeTableVect Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef v As Double, ByVal n As Long, _
+    ByRef out As Double, ByVal outRows As Long, ByVal outCols As Long) As Long
+
+' Adds a vector to the right of a table, in place.
+Public Declare PtrSafe Function VB_HMergeTableVect2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef v As Double, ByVal n As Long) As Long
+
+' Puts a vector to the left of a table.
+Public Declare PtrSafe Function VB_HMergeVectTable Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef x As Double, ByVal rows As Long, ByVal cols As Long, _
+    ByRef out As Double, ByVal outRows As Long, ByVal outCols As Long) As Long
+
+' Puts a vector to the left of one column of a table.
+Public Declare PtrSafe Function VB_HMergeVectColDbl Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef x As Double, ByVal rows As Long, ByVal cols As Long, _
+    ByVal col As Long, ByRef out As Double, ByVal outRows As Long) As Long
+
+' Puts a vector of numbers behind another.
+Public Declare PtrSafe Function VB_VMergeVectorsDbl Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal nA As Long, ByRef b As Double, ByVal nB As Long, ByRef out As Double) As Long
+
+' Puts a vector of texts behind another.
+Public Declare PtrSafe Function VB_VMergeVectorsStr Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal nA As Long, ByVal b As LongPtr, ByVal nB As Long, ByVal out As LongPtr) As Long
+
+' Adds a vector of numbers behind another, in place.
+Public Declare PtrSafe Function VB_VMergeVectorsDbl2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal nA As Long, ByRef b As Double, ByVal nB As Long) As Long
+
+' Adds a vector of flags behind another, in place.
+Public Declare PtrSafe Function VB_VMergeVectorsBool2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Integer, ByVal nA As Long, ByRef b As Integer, ByVal nB As Long) As Long
+
+' Adds a vector of texts behind another, in place.
+Public Declare PtrSafe Function VB_VMergeVectorsStr2 Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal nA As Long, ByVal b As LongPtr, ByVal nB As Long) As Long
+
+' Puts a table of numbers below another.
+Public Declare PtrSafe Function VB_VMergeTablesDbl Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal rowsA As Long, ByVal colsA As Long, ByRef b As Double, _
+    ByVal rowsB As Long, ByVal colsB As Long, ByRef out As Double) As Long
+
+' Puts a table of numbers below a chunked one.
+Public Declare PtrSafe Function Cpp_VMergeTablesDblSPV Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal rowsA As Long, ByVal colsA As Long, ByRef b As Double, _
+    ByVal rowsB As Long, ByVal colsB As Long, ByRef out As Double) As Long
+
+' ---- table_remove.h
+
+' Copies a table without one column.
+Public Declare PtrSafe Function VB_M_RemoveCol Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, ByRef out As Double) As Long
+
+' Copies a table without one row.
+Public Declare PtrSafe Function VB_M_RemoveRow Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, ByRef out As Double) As Long
+
+' Takes a run of columns out of a table in place: those behind it move left.
+Public Declare PtrSafe Function VB_M_RemoveCols2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal first As Long, _
+    ByVal last As Long) As Long
+
+' Takes a run of rows out of a table in place: those below it move up.
+Public Declare PtrSafe Function VB_M_RemoveRows2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal first As Long, _
+    ByVal last As Long) As Long
+
+' Takes a run of rows out of a table of texts in place: those below it move up.
+Public Declare PtrSafe Function Cpp_M_RemoveRowsStr2 Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal first As Long, _
+    ByVal last As Long) As Long
+
+' Copies a table without the columns in a list.
+Public Declare PtrSafe Function VB_M_RemoveColsInList Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef list As Double, _
+    ByVal n As Long, ByRef out As Double) As Long
+
+' Copies a table without the rows in a list.
+Public Declare PtrSafe Function VB_M_RemoveRowsInList Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef list As Long, ByVal n As Long, _
+    ByRef out As Double) As Long
+
 ' ---- transpose.h
 
 ' Transposes a table of numbers.

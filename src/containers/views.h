@@ -15,6 +15,10 @@
  * `column(j, rows)`, the first rows of a column; `table(rows, cols)`, the top left block, in any order; and,
  * of a table of chunks, `triangle(n)`, a symmetric table of which chunk j holds column j from the diagonal
  * down.
+ *
+ * What moves whole blocks asks for memory instead: `run(i, j, rows, cols)` points at the block from (i, j) on
+ * when it lies inside and its cells stand one behind the other, and is null otherwise. Whoever writes there
+ * says by `leave(j, value)` what the last store into column j was.
  */
 #ifndef KORVEL_CONTAINERS_VIEWS_H
 #define KORVEL_CONTAINERS_VIEWS_H
@@ -114,6 +118,18 @@ public:
                       [owner = owner_] { return raw_table<T>(*owner); });
     }
 
+    [[nodiscard]] T* run(std::int64_t i, std::int64_t j, std::int64_t rows, std::int64_t cols) const
+    {
+        const std::int64_t height = owner_->nbrows;
+        const bool inside = 0 <= i && 0 <= j && i + rows <= height && j + cols <= owner_->nbcols;
+        return inside && (cols == 1 || rows == height) ? owner_->data + (i + height * j) : nullptr;
+    }
+
+    void leave(std::int64_t, const value_type& value) const requires(!std::is_const_v<T>)
+    {
+        owner_->oobValue = value;
+    }
+
 private:
     matrix_of<T>* owner_;
 };
@@ -193,6 +209,12 @@ public:
         i >= j ? stored_.set(i - j, j, value) : stored_.set(j - i, i, value);
     }
 
+    /** Only what is stored can be had as memory: cells from the diagonal down. */
+    [[nodiscard]] auto run(std::int64_t i, std::int64_t j, std::int64_t rows, std::int64_t cols) const
+    {
+        return i >= j ? stored_.run(i - j, j, rows, cols) : nullptr;
+    }
+
 private:
     Access stored_;
 };
@@ -219,6 +241,20 @@ public:
     {
         return source(symmetric_access(*this), allHold(n, [n](int j) { return n - j; }),
                       [chunks = this->chunks_] { return symmetric_access(raw_access(chunks)); });
+    }
+
+    [[nodiscard]] T* run(std::int64_t i, std::int64_t j, std::int64_t rows, std::int64_t cols) const
+    {
+        if (cols != 1 || i < 0) {
+            return nullptr;
+        }
+        auto& chunk = this->chunks_.at(static_cast<int>(j));
+        return static_cast<std::uint64_t>(i + rows) <= chunk.nbElem ? chunk.data + i : nullptr;
+    }
+
+    void leave(std::int64_t j, const std::remove_const_t<T>& value) const requires(!std::is_const_v<T>)
+    {
+        this->chunks_.at(static_cast<int>(j)).oobValue = value;
     }
 
 private:
@@ -254,6 +290,11 @@ public:
     [[nodiscard]] auto column(int j, int) const { return never(column_access{*this, j}); }
 
     [[nodiscard]] auto table(int, int) const { return never(*this); }
+
+    [[nodiscard]] const double* run(std::int64_t, std::int64_t, std::int64_t, std::int64_t) const
+    {
+        return nullptr;
+    }
 
 private:
     struct column_access {

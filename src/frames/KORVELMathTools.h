@@ -23,6 +23,8 @@
 #include "frames/sort_vector.h"
 #include "frames/survey_boxes.h"
 #include "frames/transpose.h"
+#include "frames/table_merge.h"
+#include "frames/table_remove.h"
 #include "frames/vector_extremes.h"
 #include "frames/vector_frequencies.h"
 #include "frames/vector_means.h"

@@ -13,6 +13,7 @@
 #include "containers/records.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 #include <vector>
@@ -74,6 +75,73 @@ void copyOut(const matrix<T>& result, T* array)
 inline void writeTexts(const matrix<text>& result, OLECHAR** block)
 {
     writeBack(result.data, result.nbElem, block);
+}
+
+/**
+ * The caller's table, to be changed in place by a core routine: its numbers as they stand, or a copy of its
+ * texts, which `bringBack` returns.
+ */
+template <numeric_element T>
+[[nodiscard]] matrix<T> changing(T* array, int rows, int cols = 1)
+{
+    return borrow(array, rows, cols);
+}
+[[nodiscard]] inline matrix<text> changing(OLECHAR** block, int rows, int cols = 1)
+{
+    return readTexts(block, rows, cols);
+}
+
+/** What a core routine fills for the caller: the numbers in place, or empty texts for `bringBack`. */
+template <numeric_element T>
+[[nodiscard]] matrix<T> filling(T* array, int rows, int cols = 1)
+{
+    return borrow(array, rows, cols);
+}
+[[nodiscard]] inline matrix<text> filling(OLECHAR**, int rows, int cols = 1)
+{
+    return blank<text>(rows, cols);
+}
+
+/** Sets numbers to be filled to 0, for a core routine that may leave some of them out. */
+template <class T>
+void clearUnless(bool allStored, matrix<T>& result)
+{
+    if (!allStored) {
+        result.Redim(result.nbrows, result.nbcols, T{});
+    }
+}
+
+/** Returns the texts of `changing` and `filling`; numbers are where they belong already. */
+template <numeric_element T>
+void bringBack(const matrix<T>&, T*)
+{
+}
+inline void bringBack(const matrix<text>& result, OLECHAR** block)
+{
+    writeTexts(result, block);
+}
+
+/**
+ * The caller's table, to be read while `written` is written: its numbers as they stand, or a copy of them
+ * when they share memory with that; a copy of its texts.
+ */
+template <numeric_element T, class R>
+[[nodiscard]] matrix<T> besides(const matrix<R>& written, T* array, int rows, int cols = 1)
+{
+    const auto start = [](const auto* place) { return reinterpret_cast<std::uintptr_t>(place); };
+    const auto bytes = [](int height, int width, std::size_t cell) {
+        return height > 0 && width > 0
+                   ? static_cast<std::uintptr_t>(height) * static_cast<unsigned>(width) * cell
+                   : 0;
+    };
+    const bool apart = start(array) + bytes(rows, cols, sizeof(T)) <= start(written.data) ||
+                       start(written.data) + bytes(written.nbrows, written.nbcols, sizeof(R)) <= start(array);
+    return apart ? borrow(array, rows, cols) : copyIn(array, rows, cols);
+}
+template <class R>
+[[nodiscard]] matrix<text> besides(const matrix<R>&, OLECHAR** block, int rows, int cols = 1)
+{
+    return readTexts(block, rows, cols);
 }
 
 /** The caller's host array, in the shape of its descriptor. Numbers stay in place; texts return on

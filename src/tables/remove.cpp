@@ -1,0 +1,138 @@
+#include "tables/remove.h"
+
+#include "tables/block_copy.h"
+
+#include <algorithm>
+#include <vector>
+
+using korvel::copyBlock;
+using korvel::reading;
+using korvel::writing;
+
+namespace
+{
+
+/** Rows or columns that stay and stand one behind the other, from 0. */
+struct kept_run {
+    int first;
+    int count;
+};
+
+template <class T>
+std::vector<kept_run> notListed(const matrix<T>& list, int n)
+{
+    std::vector<bool> listed(static_cast<std::size_t>(std::max(n, 0)));
+    const auto length = static_cast<std::int64_t>(list.nbElem);
+    for (std::int64_t k = 0; k < length; ++k) {
+        const T number = list.data[k];
+        if (number >= T{1} && number <= static_cast<T>(n) &&
+            static_cast<T>(static_cast<int>(number)) == number) {
+            listed[static_cast<std::size_t>(number) - 1] = true;
+        }
+    }
+    std::vector<kept_run> runs;
+    for (int k = 0; k < n; ++k) {
+        if (listed[static_cast<std::size_t>(k)]) {
+            continue;
+        }
+        if (runs.empty() || runs.back().first + runs.back().count != k) {
+            runs.push_back({k, 0});
+        }
+        ++runs.back().count;
+    }
+    return runs;
+}
+
+/** How many of `n` stand before number `k`, and behind it; a number below 1 counts as 1. */
+struct neighbours {
+    int before;
+    int behind;
+
+    neighbours(int n, int k) : before(std::min(std::max(k, 1) - 1, std::max(n, 0))), behind(n - before - 1) {}
+};
+
+template <class T>
+void moveUp(matrix<T>& x, int rows, int cols, int first, int last)
+{
+    const int from = std::max(first, 1);
+    const int to = std::min(last, rows);
+    if (from <= to) {
+        copyBlock(reading(x), {to, 0}, writing(x), {from - 1, 0}, rows - to, cols);
+    }
+}
+
+} // namespace
+
+void M_RemoveCol(matrix<double>* x, int rows, int cols, int k, matrix<double>* out)
+{
+    const neighbours kept(cols, k);
+    copyBlock(reading(*x), {0, 0}, writing(*out), {0, 0}, rows, kept.before);
+    copyBlock(reading(*x), {0, kept.before + 1}, writing(*out), {0, kept.before}, rows, kept.behind);
+}
+
+void M_RemoveRow(matrix<double>* x, int rows, int cols, int k, matrix<double>* out)
+{
+    const neighbours kept(rows, k);
+    copyBlock(reading(*x), {0, 0}, writing(*out), {0, 0}, kept.before, cols);
+    copyBlock(reading(*x), {kept.before + 1, 0}, writing(*out), {kept.before, 0}, kept.behind, cols);
+}
+
+void M_RemoveCols2(matrix<double>* x, int rows, int cols, int first, int last)
+{
+    const int from = std::max(first, 1);
+    const int to = std::min(last, cols);
+    if (from <= to) {
+        copyBlock(reading(*x), {0, to}, writing(*x), {0, from - 1}, rows, cols - to);
+    }
+}
+
+void M_RemoveRows2(matrix<double>*& x, int rows, int cols, int first, int last)
+{
+    moveUp(*x, rows, cols, first, last);
+}
+
+void M_RemoveRows2(matrix<text>*& x, int rows, int cols, int first, int last)
+{
+    moveUp(*x, rows, cols, first, last);
+}
+
+int M_RemoveColsInList(matrix<double>* x, int rows, int cols, matrix<double>* list, matrix<double>* out)
+{
+    int stored = 0;
+    for (const kept_run& run : notListed(*list, cols)) {
+        copyBlock(reading(*x), {0, run.first}, writing(*out), {0, stored}, rows, run.count);
+        stored += run.count;
+    }
+    return 0;
+}
+
+int M_RemoveRowsInList(matrix<double>* x, int rows, int cols, matrix<int>* list, matrix<double>* out)
+{
+    const std::vector<kept_run> runs = notListed(*list, rows);
+    for (int j = 0; j < cols; ++j) {
+        int stored = 0;
+        for (const kept_run& run : runs) {
+            copyBlock(reading(*x), {run.first, j}, writing(*out), {stored, j}, run.count, 1);
+            stored += run.count;
+        }
+    }
+    return 0;
+}
+
+namespace korvel
+{
+
+template <class T>
+int countNotListed(const matrix<T>& list, int n)
+{
+    int count = 0;
+    for (const kept_run& run : notListed(list, n)) {
+        count += run.count;
+    }
+    return count;
+}
+
+template int countNotListed(const matrix<double>&, int);
+template int countNotListed(const matrix<int>&, int);
+
+} // namespace korvel
