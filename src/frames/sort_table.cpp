@@ -7,6 +7,57 @@
 
 using namespace korvel;
 
+namespace
+{
+
+/** The table, its key and its companion as they stand. */
+template <class T, class Key>
+int sortInPlace(T* x, int rows, int cols, int from, int to, Key* key, T* aux, int auxCols, short int bDesc,
+                short int bSortKey)
+{
+    auto table = frame::borrow(x, rows, frame::columns(cols));
+    auto keys = frame::borrow(key, rows);
+    auto companion = frame::borrow(aux, rows, frame::columns(auxCols));
+    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
+          bDesc != 0, bSortKey != 0);
+    return 0;
+}
+
+template <class T>
+int sortInPlaceBy01(T* x, int rows, int cols, double* key)
+{
+    auto table = frame::borrow(x, rows, frame::columns(cols));
+    auto keys = frame::borrow(key, rows);
+    SortDataBy01(&table, rows, frame::columns(cols), &keys);
+    return 0;
+}
+
+template <class T>
+int sortInPlaceByColumn(T* x, int rows, int cols, int keyCol, int from, int to, short int bDesc)
+{
+    auto table = frame::borrow(x, rows, cols);
+    SortQMatrixCol(&table, rows, cols, keyCol, from, to, bDesc != 0);
+    return 0;
+}
+
+template <class T>
+int sortInPlaceByAllColumns(T* x, int rows, int cols)
+{
+    auto table = frame::borrow(x, rows, cols);
+    SortMatrixSeqQ(&table, rows, cols);
+    return 0;
+}
+
+template <class T>
+int sortInPlaceByColumns(T* x, int rows, int cols, int p1, int p2)
+{
+    auto table = frame::borrow(x, rows, cols);
+    SortMatrixSeqQP1toP2(&table, rows, cols, p1, p2);
+    return 0;
+}
+
+} // namespace
+
 int VB_SortQDbl(double* x, int rows, int cols, int from, int to, double* key, double* aux, int auxCols,
                 short int bDesc, short int bSortKey)
 {
@@ -24,12 +75,7 @@ int VB_SortQDbl(double* x, int rows, int cols, int from, int to, double* key, do
 int VB_SortQDbl2(double* x, int rows, int cols, int from, int to, double* key, double* aux, int auxCols,
                  short int bDesc, short int bSortKey)
 {
-    auto table = frame::borrow(x, rows, frame::columns(cols));
-    auto keys = frame::borrow(key, rows);
-    auto companion = frame::borrow(aux, rows, frame::columns(auxCols));
-    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
-          bDesc != 0, bSortKey != 0);
-    return 0;
+    return sortInPlace(x, rows, cols, from, to, key, aux, auxCols, bDesc, bSortKey);
 }
 
 int VB_SortQByColDbl(double* x, int rows, int cols, int from, int to, double* key, double* aux, int auxRows,
@@ -49,23 +95,13 @@ int VB_SortQByColDbl(double* x, int rows, int cols, int from, int to, double* ke
 int VB_SortQLng(int* x, int rows, int cols, int from, int to, int* key, int* aux, int auxCols,
                 short int bDesc, short int bSortKey)
 {
-    auto table = frame::borrow(x, rows, frame::columns(cols));
-    auto keys = frame::borrow(key, rows);
-    auto companion = frame::borrow(aux, rows, frame::columns(auxCols));
-    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
-          bDesc != 0, bSortKey != 0);
-    return 0;
+    return sortInPlace(x, rows, cols, from, to, key, aux, auxCols, bDesc, bSortKey);
 }
 
 int VB_SortQBool(short int* x, int rows, int cols, int from, int to, double* key, short int* aux, int auxCols,
                  short int bDesc, short int bSortKey)
 {
-    auto table = frame::borrow(x, rows, frame::columns(cols));
-    auto keys = frame::borrow(key, rows);
-    auto companion = frame::borrow(aux, rows, frame::columns(auxCols));
-    SortQ(&table, rows, frame::columns(cols), from, to, &keys, &companion, frame::columns(auxCols),
-          bDesc != 0, bSortKey != 0);
-    return 0;
+    return sortInPlace(x, rows, cols, from, to, key, aux, auxCols, bDesc, bSortKey);
 }
 
 int VB_SortQStr(OLECHAR** x, int rows, int cols, int from, int to, double* key, OLECHAR** aux, int auxCols,
@@ -117,18 +153,12 @@ int Cpp_SortQStr_ST(ST_MVect* x, int rows, int cols, int from, int to, double* k
 
 int VB_SortDataBy01(double* x, int rows, int cols, double* key)
 {
-    auto table = frame::borrow(x, rows, frame::columns(cols));
-    auto keys = frame::borrow(key, rows);
-    SortDataBy01(&table, rows, frame::columns(cols), &keys);
-    return 0;
+    return sortInPlaceBy01(x, rows, cols, key);
 }
 
 int VB_SortDataBy01Bool(short int* x, int rows, int cols, double* key)
 {
-    auto table = frame::borrow(x, rows, frame::columns(cols));
-    auto keys = frame::borrow(key, rows);
-    SortDataBy01(&table, rows, frame::columns(cols), &keys);
-    return 0;
+    return sortInPlaceBy01(x, rows, cols, key);
 }
 
 int VB_SortDataBy01Str(OLECHAR** x, int rows, int cols, double* key)
@@ -142,16 +172,12 @@ int VB_SortDataBy01Str(OLECHAR** x, int rows, int cols, double* key)
 
 int Cpp_SortQMatrixCol(double* x, int rows, int cols, int keyCol, int from, int to, short int bDesc)
 {
-    auto table = frame::borrow(x, rows, cols);
-    SortQMatrixCol(&table, rows, cols, keyCol, from, to, bDesc != 0);
-    return 0;
+    return sortInPlaceByColumn(x, rows, cols, keyCol, from, to, bDesc);
 }
 
 int Cpp_SortQMatrixColLng(int* x, int rows, int cols, int keyCol, int from, int to, short int bDesc)
 {
-    auto table = frame::borrow(x, rows, cols);
-    SortQMatrixCol(&table, rows, cols, keyCol, from, to, bDesc != 0);
-    return 0;
+    return sortInPlaceByColumn(x, rows, cols, keyCol, from, to, bDesc);
 }
 
 int Cpp_SortQMatrixColStr(OLECHAR** x, int rows, int cols, int keyCol, int from, int to, short int bDesc)
@@ -164,28 +190,20 @@ int Cpp_SortQMatrixColStr(OLECHAR** x, int rows, int cols, int keyCol, int from,
 
 int VB_SortMatrixSeqQDbl(double* x, int rows, int cols)
 {
-    auto table = frame::borrow(x, rows, cols);
-    SortMatrixSeqQ(&table, rows, cols);
-    return 0;
+    return sortInPlaceByAllColumns(x, rows, cols);
 }
 
 int VB_SortMatrixSeqQLng(int* x, int rows, int cols)
 {
-    auto table = frame::borrow(x, rows, cols);
-    SortMatrixSeqQ(&table, rows, cols);
-    return 0;
+    return sortInPlaceByAllColumns(x, rows, cols);
 }
 
 int VB_SortMatrixSeqQP1toP2Dbl(double* x, int rows, int cols, int p1, int p2)
 {
-    auto table = frame::borrow(x, rows, cols);
-    SortMatrixSeqQP1toP2(&table, rows, cols, p1, p2);
-    return 0;
+    return sortInPlaceByColumns(x, rows, cols, p1, p2);
 }
 
 int VB_SortMatrixSeqQP1toP2Lng(int* x, int rows, int cols, int p1, int p2)
 {
-    auto table = frame::borrow(x, rows, cols);
-    SortMatrixSeqQP1toP2(&table, rows, cols, p1, p2);
-    return 0;
+    return sortInPlaceByColumns(x, rows, cols, p1, p2);
 }

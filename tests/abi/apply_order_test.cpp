@@ -7,27 +7,17 @@
 #include <string>
 #include <vector>
 
+using korvel::test::blockOf;
 using korvel::test::caller_memory;
 using korvel::test::columnOf;
+using korvel::test::doubles;
 using korvel::test::guarded;
+using korvel::test::ints;
 using korvel::test::numbersIn;
+using korvel::test::shorts;
+using korvel::test::texts;
 using korvel::test::textsIn;
 using korvel::test::valuesOf;
-
-namespace
-{
-
-using doubles = std::vector<double>;
-using ints = std::vector<int>;
-using flags = std::vector<short int>;
-using texts = std::vector<std::u16string>;
-
-OLECHAR** blockOf(SAFEARRAY* array)
-{
-    return static_cast<OLECHAR**>(array->pvData);
-}
-
-} // namespace
 
 TEST(FlatApplyOrder, TakesRowsInTheGivenOrder)
 {
@@ -66,7 +56,7 @@ TEST(FlatApplyOrder, WorksInPlaceOnEveryForm)
     EXPECT_EQ(valuesOf(integers), (ints{3, 1, 2}));
     guarded<short int> booleans{0, 0, -1};
     EXPECT_EQ(Cpp_SortApply2Bool(booleans.data(), 3, 1, order.data()), 0);
-    EXPECT_EQ(valuesOf(booleans), (flags{-1, 0, 0}));
+    EXPECT_EQ(valuesOf(booleans), (shorts{-1, 0, 0}));
 
     caller_memory memory;
     SAFEARRAY* labels = memory.texts({u"a", u"b", u"c"});

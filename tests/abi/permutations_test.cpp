@@ -8,21 +8,21 @@
 #include <string>
 #include <vector>
 
+using korvel::test::blockOf;
 using korvel::test::caller_memory;
+using korvel::test::doubles;
 using korvel::test::guarded;
+using korvel::test::ints;
 using korvel::test::plain_source;
 using korvel::test::plain_vector;
 using korvel::test::plainFill;
 using korvel::test::plainShuffle;
+using korvel::test::texts;
 using korvel::test::textsIn;
 using korvel::test::valuesOf;
 
 namespace
 {
-
-using doubles = std::vector<double>;
-using ints = std::vector<int>;
-using texts = std::vector<std::u16string>;
 
 constexpr int seedInUse = 2026;
 
@@ -50,11 +50,6 @@ std::vector<T> reordered(const std::vector<T>& column, const ints& places)
         result.push_back(column[static_cast<std::size_t>(place - 1)]);
     }
     return result;
-}
-
-OLECHAR** blockOf(SAFEARRAY* array)
-{
-    return static_cast<OLECHAR**>(array->pvData);
 }
 
 /** The seed triple of a call. */

@@ -1,20 +1,19 @@
+#include "containers/missing.h"
 #include "frames/KORVELMathTools.h"
 #include "support/bits.h"
+#include "support/caller_memory.h"
 #include "support/guarded.h"
 
 #include <cmath>
 #include <vector>
 
+using korvel::test::doubles;
 using korvel::test::guarded;
 using korvel::test::sameBits;
 using korvel::test::valuesOf;
 
 namespace
 {
-
-constexpr double missing = -1.79769313486231e308;
-
-using doubles = std::vector<double>;
 
 const guarded<double> sample{3.7, -1.25, 8, 0.5, 3.7, 12.125, -4, 0.5, 0.5, 7.75, 2.2};
 
@@ -59,22 +58,22 @@ TEST(FlatQuantiles, ShortcutsGiveElementsExactly)
 
 TEST(FlatQuantiles, MissingTakesPartAsTheSmallestNumber)
 {
-    guarded<double> x{2, missing, 1};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 0.0), missing));
+    guarded<double> x{2, MISSING_DBL, 1};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 0.0), MISSING_DBL));
     EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 0.5), 1.0));
 }
 
 TEST(FlatQuantiles, OfNothingAreMissing)
 {
-    guarded<double> x{missing};
+    guarded<double> x{MISSING_DBL};
     guarded<double> w{1};
     guarded<short int> flags{0};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 0, 0.5), missing));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 0, w.data(), 0.5), missing));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 1, w.data(), 0.5), missing));
-    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 1, w.data(), 0.5), missing));
-    EXPECT_TRUE(sameBits(VB_V_QuantileM(x.data(), 1, flags.data(), 0.5), missing));
-    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 1, flags.data(), w.data(), 0.5), missing));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 0, 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 0, w.data(), 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 1, w.data(), 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 1, w.data(), 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_QuantileM(x.data(), 1, flags.data(), 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 1, flags.data(), w.data(), 0.5), MISSING_DBL));
 }
 
 TEST(FlatQuantiles, APositionOutsideTheDataReadsTheSpareSlot)
@@ -98,17 +97,17 @@ TEST(FlatQuantiles, WeightedTakesTheFirstValueBeyondItsShare)
 TEST(FlatQuantiles, ConstantWeightsGiveThePlainQuantile)
 {
     guarded<double> x{1, 2, 3, 4};
-    guarded<double> w{0.3, 0.3, missing, 0.3};
+    guarded<double> w{0.3, 0.3, MISSING_DBL, 0.3};
     EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.25), 1.75));
     guarded<double> zeros{0, 0, 0, 0};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, zeros.data(), 0.25), missing));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, zeros.data(), 0.25), MISSING_DBL));
 }
 
 TEST(FlatQuantiles, OnlyTheSecondWeightedFormDropsWhatDoesNotCount)
 {
-    guarded<double> x{missing, 1, 2, 3};
+    guarded<double> x{MISSING_DBL, 1, 2, 3};
     guarded<double> w{1, 1, 1, 0};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.0), missing));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.0), MISSING_DBL));
     EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 1.0), 3.0));
     EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 0.0), 1.0));
     EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 1.0), 2.0));
@@ -117,7 +116,7 @@ TEST(FlatQuantiles, OnlyTheSecondWeightedFormDropsWhatDoesNotCount)
 
 TEST(FlatQuantiles, MaskedLeaveOutFlaggedAndMissing)
 {
-    guarded<double> x{9, missing, 1, 3};
+    guarded<double> x{9, MISSING_DBL, 1, 3};
     guarded<short int> flags{7, 0, 0, 0};
     guarded<double> w{5, 5, 1, 1};
     EXPECT_TRUE(sameBits(VB_V_QuantileM(x.data(), 4, flags.data(), 0.5), 2.0));
@@ -140,19 +139,19 @@ TEST(FlatQuantiles, ThirteenSortTheirDataAndShiftTheirPosition)
         EXPECT_NEAR(quantiles[k], expected[k], 1e-15 * expected[k]) << k;
     }
     Cpp_V_Quantiles13(x.data(), 0, out.data());
-    EXPECT_EQ(valuesOf(out), doubles(13, missing));
+    EXPECT_EQ(valuesOf(out), doubles(13, MISSING_DBL));
 }
 
 TEST(FlatDeviations, MeanAbsolute)
 {
-    guarded<double> x{1, 3, missing, 8};
+    guarded<double> x{1, 3, MISSING_DBL, 8};
     guarded<short int> flags{0, 0, 0, -1};
     guarded<double> w{1, 3, 5, 7};
     EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), w.data()), 1.0));
     EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 1.0, flags.data(), w.data()), 1.5));
     guarded<double> zeros{0, 0, 0, 0};
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), zeros.data()), missing));
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 0, 2.0, flags.data(), w.data()), missing));
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), zeros.data()), MISSING_DBL));
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 0, 2.0, flags.data(), w.data()), MISSING_DBL));
     // R 4.2.2: mean(abs(x - mean(x)))
     guarded<double> y = sample;
     guarded<short int> none{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
@@ -178,21 +177,21 @@ TEST(FlatDeviations, MedianAbsoluteIsWeightedUnlessTheWeightsAreConstant)
 TEST(FlatDeviations, AMissingCentreBecomesTheMedian)
 {
     guarded<double> x{1, 2, 9};
-    double centre = missing;
+    double centre = MISSING_DBL;
     EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 1.0));
     EXPECT_TRUE(sameBits(centre, 2.0));
     centre = 9.0;
     EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 7.0));
     EXPECT_TRUE(sameBits(centre, 9.0));
-    guarded<double> holes{missing, 2, 9};
+    guarded<double> holes{MISSING_DBL, 2, 9};
     EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(holes.data(), 3, &centre), 0.0));
 }
 
 TEST(FlatDeviations, WinsorizingPullsInTheTails)
 {
-    guarded<double> x{1, 2, 3, 4, missing, 10};
+    guarded<double> x{1, 2, 3, 4, MISSING_DBL, 10};
     EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.0, 1.0), 0);
-    EXPECT_EQ(valuesOf(x), (doubles{1, 2, 3, 4, missing, 10}));
+    EXPECT_EQ(valuesOf(x), (doubles{1, 2, 3, 4, MISSING_DBL, 10}));
     EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.4, 0.8), 0);
-    EXPECT_EQ(valuesOf(x), (doubles{2, 2, 3, 4, missing, 4}));
+    EXPECT_EQ(valuesOf(x), (doubles{2, 2, 3, 4, MISSING_DBL, 4}));
 }

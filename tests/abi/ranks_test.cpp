@@ -1,3 +1,4 @@
+#include "containers/missing.h"
 #include "frames/KORVELMathTools.h"
 #include "support/caller_memory.h"
 #include "support/guarded.h"
@@ -6,27 +7,15 @@
 #include <string>
 #include <vector>
 
+using korvel::test::blockOf;
 using korvel::test::caller_memory;
+using korvel::test::doubles;
 using korvel::test::guarded;
+using korvel::test::ints;
+using korvel::test::shorts;
+using korvel::test::texts;
 using korvel::test::textsIn;
 using korvel::test::valuesOf;
-
-namespace
-{
-
-constexpr double missing = -1.79769313486231e308;
-
-using doubles = std::vector<double>;
-using ints = std::vector<int>;
-using flags = std::vector<short int>;
-using texts = std::vector<std::u16string>;
-
-OLECHAR** blockOf(SAFEARRAY* array)
-{
-    return static_cast<OLECHAR**>(array->pvData);
-}
-
-} // namespace
 
 TEST(FlatRanks, DenseRanksKeepTheirData)
 {
@@ -105,37 +94,37 @@ TEST(FlatRanks, HeavyElementsCountAsGroupsUnlessTied)
 TEST(FlatRanks, TheFirstGroupLooksAtTheFirstTwoElementsWhateverIsMissing)
 {
     // Sorted: missing, missing, 4 (weight 3), 6. The first two are equal, so the heavy 4 opens no group.
-    guarded<double> x{missing, missing, 4, 6};
+    guarded<double> x{MISSING_DBL, MISSING_DBL, 4, 6};
     guarded<double> w{1, 1, 3, 1};
     guarded<double> ranks{0, 0, 0, 0};
     guarded<double> sizes{0, 0, 0, 0};
     int ties = -1;
     VB_V_GetRanksTiesDbl(x.data(), 4, -1, w.data(), ranks.data(), &ties, sizes.data());
-    EXPECT_EQ(valuesOf(ranks), (doubles{missing, missing, 2, 4}));
+    EXPECT_EQ(valuesOf(ranks), (doubles{MISSING_DBL, MISSING_DBL, 2, 4}));
     EXPECT_EQ(ties, 0);
 
-    guarded<double> y{missing, 4, 4};
+    guarded<double> y{MISSING_DBL, 4, 4};
     guarded<double> v{1, 3, 1};
     guarded<double> three{0, 0, 0};
     guarded<double> groups{0, 0, 0};
     VB_V_GetRanksTiesDbl(y.data(), 3, -1, v.data(), three.data(), &ties, groups.data());
-    EXPECT_EQ(valuesOf(three), (doubles{missing, 2.5, 2.5}));
+    EXPECT_EQ(valuesOf(three), (doubles{MISSING_DBL, 2.5, 2.5}));
     EXPECT_EQ(ties, 2);
     EXPECT_EQ(valuesOf(groups), (doubles{3, 4, 0}));
 }
 
 TEST(FlatRanks, MissingOnlyAndNothing)
 {
-    guarded<double> x{missing, missing};
+    guarded<double> x{MISSING_DBL, MISSING_DBL};
     guarded<double> w{1, 1};
     guarded<double> ranks{0, 0};
     guarded<double> sizes{0, 0};
     int ties = 9;
     VB_V_GetRanksTiesDbl(x.data(), 2, -1, w.data(), ranks.data(), &ties, sizes.data());
     EXPECT_EQ(ties, 0);
-    EXPECT_EQ(valuesOf(ranks), (doubles{missing, missing}));
+    EXPECT_EQ(valuesOf(ranks), (doubles{MISSING_DBL, MISSING_DBL}));
     VB_V_GetRanksTiesIntDbl(x.data(), 2, w.data(), ranks.data(), &ties, sizes.data());
-    EXPECT_EQ(valuesOf(ranks), (doubles{missing, missing}));
+    EXPECT_EQ(valuesOf(ranks), (doubles{MISSING_DBL, MISSING_DBL}));
     ties = 9;
     VB_V_GetRanksTiesDbl2(x.data(), 0, -1, ranks.data(), &ties, sizes.data());
     EXPECT_EQ(ties, 0);
@@ -186,10 +175,10 @@ TEST(FlatModes, Codes)
 {
     guarded<double> x{2, 2, 0, 0, 1};
     EXPECT_EQ(VB_V_ModeCatDbl(x.data(), 5), 0.0);
-    guarded<double> fractions{1.9, 1.2, 0.3, missing, missing, missing};
+    guarded<double> fractions{1.9, 1.2, 0.3, MISSING_DBL, MISSING_DBL, MISSING_DBL};
     EXPECT_EQ(VB_V_ModeCatDbl(fractions.data(), 6), 1.0);
-    EXPECT_EQ(VB_V_ModeCatDbl(fractions.data() + 3, 3), missing);
-    EXPECT_EQ(VB_V_ModeCatDbl(fractions.data(), 0), missing);
+    EXPECT_EQ(VB_V_ModeCatDbl(fractions.data() + 3, 3), MISSING_DBL);
+    EXPECT_EQ(VB_V_ModeCatDbl(fractions.data(), 0), MISSING_DBL);
     guarded<double> wide{-5, -5, 1e9};
     EXPECT_EQ(VB_V_ModeCatDbl(wide.data(), 3), 1e9);
 }
@@ -214,7 +203,7 @@ TEST(FlatModes, Texts)
 
 TEST(FlatDistinct, Counts)
 {
-    guarded<double> x{2, 1, missing, 2, 1 + 1e-16};
+    guarded<double> x{2, 1, MISSING_DBL, 2, 1 + 1e-16};
     EXPECT_EQ(VB_V_NbDistinct(x.data(), 5), 3);
     EXPECT_EQ(VB_V_NbDistinct(x.data(), 1), 1);
     EXPECT_EQ(VB_V_NbDistinct(x.data(), 0), 1);
@@ -256,9 +245,9 @@ TEST(FlatReverse, EveryForm)
     guarded<short int> booleans{-1, 0, 0};
     guarded<short int> booleansOut{0, 0, 0};
     EXPECT_EQ(VB_V_ReverseBool(booleans.data(), 3, booleansOut.data()), 0);
-    EXPECT_EQ(valuesOf(booleansOut), (flags{0, 0, -1}));
+    EXPECT_EQ(valuesOf(booleansOut), (shorts{0, 0, -1}));
     EXPECT_EQ(Cpp_V_Reverse2Bool(booleans.data(), 3), 0);
-    EXPECT_EQ(valuesOf(booleans), (flags{0, 0, -1}));
+    EXPECT_EQ(valuesOf(booleans), (shorts{0, 0, -1}));
     guarded<int> integers{1, 2, 3};
     EXPECT_EQ(Cpp_V_Reverse2Lng(integers.data(), 3), 0);
     EXPECT_EQ(valuesOf(integers), (ints{3, 2, 1}));

@@ -16,7 +16,6 @@ namespace
 {
 
 using numbers = std::vector<double>;
-using texts = std::vector<std::u16string>;
 
 } // namespace
 

@@ -1,3 +1,4 @@
+#include "containers/missing.h"
 #include "frames/KORVELMathTools.h"
 #include "support/caller_memory.h"
 #include "support/guarded.h"
@@ -7,18 +8,15 @@
 #include <vector>
 
 using korvel::test::caller_memory;
+using korvel::test::doubles;
 using korvel::test::guarded;
 using korvel::test::valuesOf;
 
 namespace
 {
 
-constexpr double missing = -1.79769313486231e308;
-
-using doubles = std::vector<double>;
-
 /** Keys 2, 1, 2, 1, 2; a quantitative column; codes. */
-const doubles table{2, 1, 2, 1, 2, 10, 4, 30, missing, 20, 7, 5, 7, 5, 8};
+const doubles table{2, 1, 2, 1, 2, 10, 4, 30, MISSING_DBL, 20, 7, 5, 7, 5, 8};
 
 struct grouped {
     int groups = -1;
@@ -41,8 +39,8 @@ grouped groupBy(int method)
 
 TEST(FlatGroupBy, EveryMethodAggregatesTheRunsOfTheKey)
 {
-    const double expected[8][2] = {{4, 60},       {4, 20}, {0, 20}, {4, 10},
-                                   {missing, 20}, {4, 10}, {4, 30}, {0, 20}};
+    const double expected[8][2] = {{4, 60},           {4, 20}, {0, 20}, {4, 10},
+                                   {MISSING_DBL, 20}, {4, 10}, {4, 30}, {0, 20}};
     for (int method = 0; method < 8; ++method) {
         const grouped result = groupBy(method);
         EXPECT_EQ(result.groups, 2);
@@ -56,7 +54,7 @@ TEST(FlatGroupBy, EveryMethodAggregatesTheRunsOfTheKey)
         EXPECT_EQ(result.cells[11], 7.0);
     }
     // The median of 4 and a missing value, which takes part as the smallest number.
-    EXPECT_EQ(groupBy(2).cells[5], 0.5 * missing + 0.5 * 4.0);
+    EXPECT_EQ(groupBy(2).cells[5], 0.5 * MISSING_DBL + 0.5 * 4.0);
 }
 
 TEST(FlatGroupBy, RowsBelowTheResultKeepTheSortedInput)
@@ -72,20 +70,20 @@ TEST(FlatGroupBy, AnUnknownMethodLeavesTheSortedInput)
         const grouped result = groupBy(method);
         EXPECT_EQ(result.groups, 2);
         EXPECT_EQ(result.cells[5], 4.0);
-        EXPECT_EQ(result.cells[6], missing);
+        EXPECT_EQ(result.cells[6], MISSING_DBL);
         EXPECT_EQ(result.cells[10], 5.0);
     }
 }
 
 TEST(FlatGroupBy, RangeOfNothingIsMissingAndOfOneRowIsZero)
 {
-    guarded<double> x{1, 2, 3, 5, missing, 7};
+    guarded<double> x{1, 2, 3, 5, MISSING_DBL, 7};
     guarded<int> kinds{0, 0};
     guarded<double> out{0, 0, 0, 0, 0, 0};
     int groups = -1;
     VB_M_GroupBy(x.data(), 3, 2, kinds.data(), 1, 7, &groups, out.data());
     EXPECT_EQ(groups, 3);
-    EXPECT_EQ(valuesOf(out), (doubles{1, 2, 3, 0, missing, 0}));
+    EXPECT_EQ(valuesOf(out), (doubles{1, 2, 3, 0, MISSING_DBL, 0}));
 }
 
 TEST(FlatGroupBy, ANaNKeyIsAGroupOfItsOwn)
@@ -164,12 +162,14 @@ TEST(FlatDedupe, DistinctRowsAreAllKept)
 TEST(FlatExtremes, SmallestOfARecord)
 {
     caller_memory memory;
-    ST_MVect record = memory.table(
-        {memory.column(u"p", doubles{5, missing, 3}), memory.column(u"q", doubles{4, 1, 9})}, {u"p", u"q"});
+    ST_MVect record =
+        memory.table({memory.column(u"p", doubles{5, MISSING_DBL, 3}), memory.column(u"q", doubles{4, 1, 9})},
+                     {u"p", u"q"});
     EXPECT_EQ(Cpp_V_Min3(&record, 3, 2), 1.0);
     EXPECT_EQ(Cpp_V_Min3(&record, 3, 1), 3.0);
     EXPECT_EQ(Cpp_V_Min3(&record, 1, 2), 4.0);
-    EXPECT_EQ(Cpp_V_Min3(&record, 0, 2), missing);
-    ST_MVect nothing = memory.table({memory.column(u"p", doubles{missing, 1.79769313486231e308})}, {u"p"});
-    EXPECT_EQ(Cpp_V_Min3(&nothing, 2, 1), missing);
+    EXPECT_EQ(Cpp_V_Min3(&record, 0, 2), MISSING_DBL);
+    ST_MVect nothing =
+        memory.table({memory.column(u"p", doubles{MISSING_DBL, 1.79769313486231e308})}, {u"p"});
+    EXPECT_EQ(Cpp_V_Min3(&nothing, 2, 1), MISSING_DBL);
 }

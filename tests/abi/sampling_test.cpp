@@ -11,25 +11,20 @@
 #include <string>
 #include <vector>
 
+using korvel::test::blockOf;
 using korvel::test::caller_memory;
+using korvel::test::doubles;
 using korvel::test::guarded;
 using korvel::test::numbersIn;
 using korvel::test::plain_source;
+using korvel::test::texts;
 using korvel::test::textsIn;
 using korvel::test::valuesOf;
 
 namespace
 {
 
-using doubles = std::vector<double>;
-using texts = std::vector<std::u16string>;
-
 constexpr int seedInUse = 2026;
-
-OLECHAR** blockOf(SAFEARRAY* array)
-{
-    return static_cast<OLECHAR**>(array->pvData);
-}
 
 /** A table of two columns in the caller's memory, with "a1", "a2", ... and "b1", "b2", ... */
 class FlatSampling : public ::testing::Test

@@ -6,27 +6,17 @@
 #include <string>
 #include <vector>
 
+using korvel::test::blockOf;
 using korvel::test::caller_memory;
 using korvel::test::columnOf;
+using korvel::test::doubles;
 using korvel::test::guarded;
+using korvel::test::ints;
 using korvel::test::numbersIn;
+using korvel::test::shorts;
+using korvel::test::texts;
 using korvel::test::textsIn;
 using korvel::test::valuesOf;
-
-namespace
-{
-
-using doubles = std::vector<double>;
-using ints = std::vector<int>;
-using flags = std::vector<short int>;
-using texts = std::vector<std::u16string>;
-
-OLECHAR** blockOf(SAFEARRAY* array)
-{
-    return static_cast<OLECHAR**>(array->pvData);
-}
-
-} // namespace
 
 TEST(FlatSort, TableOfNumbersByAKeyWithACompanion)
 {
@@ -48,7 +38,7 @@ TEST(FlatSort, TableOfNumbersByAKeyWithACompanion)
 
 TEST(FlatSort, EqualKeysKeepTheirRowsInBothDirections)
 {
-    for (const short int descending : flags{0, -1}) {
+    for (const short int descending : shorts{0, -1}) {
         guarded<double> x{1, 2, 3};
         guarded<double> key{1, 1, 1};
         guarded<double> aux{4, 5, 6};
@@ -105,8 +95,8 @@ TEST(FlatSort, TablesOfIntegersFlagsAndTexts)
     guarded<double> key{3, 1, 2};
     guarded<short int> booleanAux{0, -1, 0};
     EXPECT_EQ(VB_SortQBool(booleans.data(), 3, 1, 1, 3, key.data(), booleanAux.data(), 1, 0, 0), 0);
-    EXPECT_EQ(valuesOf(booleans), (flags{0, 0, -1}));
-    EXPECT_EQ(valuesOf(booleanAux), (flags{-1, 0, 0}));
+    EXPECT_EQ(valuesOf(booleans), (shorts{0, 0, -1}));
+    EXPECT_EQ(valuesOf(booleanAux), (shorts{-1, 0, 0}));
 
     caller_memory memory;
     SAFEARRAY* labels = memory.texts({u"a", u"b", u"c"});
@@ -163,7 +153,7 @@ TEST(FlatSort, RowsByAnIndicator)
     guarded<short int> booleans{0, -1};
     guarded<double> booleanKey{1, 0};
     EXPECT_EQ(VB_SortDataBy01Bool(booleans.data(), 2, 1, booleanKey.data()), 0);
-    EXPECT_EQ(valuesOf(booleans), (flags{-1, 0}));
+    EXPECT_EQ(valuesOf(booleans), (shorts{-1, 0}));
     EXPECT_EQ(valuesOf(booleanKey), (doubles{0, 1}));
 
     caller_memory memory;

@@ -15,7 +15,6 @@ namespace
 {
 
 using numbers = std::vector<double>;
-using texts = std::vector<std::u16string>;
 
 /** A chunked table in the caller's memory. */
 struct caller_table {

@@ -9,7 +9,6 @@ namespace
 {
 
 using numbers = std::vector<double>;
-using texts = std::vector<std::u16string>;
 
 std::string jsonOf(JsonMakerBase& object)
 {

@@ -8,7 +8,6 @@ namespace
 {
 
 using numbers = std::vector<double>;
-using texts = std::vector<std::u16string>;
 
 template <class T>
 std::vector<T> column(const cST_MVect<T>& table, std::size_t j)

@@ -11,7 +11,6 @@ namespace
 {
 
 using numbers = std::vector<double>;
-using texts = std::vector<std::u16string>;
 
 texts labelsOf(const matrix<text>& labels)
 {

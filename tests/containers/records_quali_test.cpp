@@ -14,7 +14,6 @@ namespace
 {
 
 using numbers = std::vector<double>;
-using texts = std::vector<std::u16string>;
 
 ST_QualiInfo fullRecord(caller_memory& caller)
 {

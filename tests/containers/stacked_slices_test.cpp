@@ -17,7 +17,6 @@ namespace
 {
 
 using numbers = std::vector<double>;
-using texts = std::vector<std::u16string>;
 
 /** Room for slices, which are deleted in the end. */
 template <class T, std::size_t n>

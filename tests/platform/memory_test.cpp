@@ -1,7 +1,5 @@
 #include "platform/memory.h"
 
-#include "platform/threads.h"
-
 #include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
@@ -81,8 +79,3 @@ TEST(Memory, ALimitOfTheProcessCounts)
 }
 
 #endif
-
-TEST(Threads, TheMachineHasAtLeastOne)
-{
-    EXPECT_GE(hardwareThreads(), 1u);
-}

@@ -19,6 +19,12 @@
 namespace korvel::test
 {
 
+/** What tests compare with the contents of a caller's arrays. */
+using doubles = std::vector<double>;
+using ints = std::vector<int>;
+using shorts = std::vector<short int>;
+using texts = std::vector<std::u16string>;
+
 /** The BSTR's characters, NUL included where its length says so. */
 inline std::u16string contentOf(BSTR source)
 {
@@ -163,6 +169,12 @@ inline std::vector<std::u16string> textsIn(const SAFEARRAY* array)
         found.push_back(contentOf(place));
     }
     return found;
+}
+
+/** The block of BSTR in a host array of texts. */
+inline OLECHAR** blockOf(SAFEARRAY* array)
+{
+    return static_cast<OLECHAR**>(array->pvData);
 }
 
 /** The record of column `j` of a table. */
