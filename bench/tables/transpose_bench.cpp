@@ -2,38 +2,18 @@
 // run: the counters are the best time of each in milliseconds, and the speed of transposing as a share of the
 // copy's.
 
+#include "support/stop_watch.h"
 #include "tables/transpose.h"
 
 #include <Eigen/Core>
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstddef>
 #include <cstring>
-#include <limits>
 
 namespace
 {
 
-/** The best time of a routine over all rounds. */
-class stop_watch
-{
-public:
-    template <class Routine>
-    void time(Routine routine)
-    {
-        const auto start = std::chrono::steady_clock::now();
-        routine();
-        benchmark::ClobberMemory();
-        const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
-        best_ = std::min(best_, taken.count());
-    }
-
-    [[nodiscard]] double milliseconds() const { return best_; }
-
-private:
-    double best_ = std::numeric_limits<double>::infinity();
-};
+using korvel::bench::stop_watch;
 
 matrix<double> numbered(int rows, int cols)
 {

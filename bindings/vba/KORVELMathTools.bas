@@ -643,6 +643,172 @@ Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTo
     ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
     ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
 
+' ---- table_blocks.h
+
+' Copies a block of a table of numbers.
+Public Declare PtrSafe Function VB_M_CopyBlock Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByVal firstCol As Long, ByVal lastCol As Long, ByRef out As Double) As Long
+
+' Copies a block of a table of texts.
+Public Declare PtrSafe Function VB_M_CopyBlockStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByVal firstCol As Long, ByVal lastCol As Long, ByVal out As LongPtr) As Long
+
+' Copies a block of a chunked table.
+Public Declare PtrSafe Function VB_M_CopyBlockSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByVal firstCol As Long, ByVal lastCol As Long, ByVal out As LongPtr) As Long
+
+' Copies a block of a chunked table.
+Public Declare PtrSafe Function Cpp_M_CopyBlockSPV2 Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByVal firstCol As Long, ByVal lastCol As Long, ByVal out As LongPtr) As Long
+
+' Copies a block of a symmetric table, of which each column is held from the diagonal down.
+Public Declare PtrSafe Function Cpp_M_CopyBlockSPV2_T Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal firstRow As Long, ByVal lastRow As Long, _
+    ByVal firstCol As Long, ByVal lastCol As Long, ByVal out As LongPtr) As Long
+
+' Writes a table of numbers into a larger one.
+Public Declare PtrSafe Function VB_M_PasteBlock Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Writes a table of integers into a larger one.
+Public Declare PtrSafe Function VB_M_PasteBlockLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByRef y As Long, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a block of a table of numbers to a place in another, which may be the same.
+Public Declare PtrSafe Function Cpp_M_CopyPasteBlock Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByVal firstCol As Long, ByVal lastCol As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a block of a table of texts to a place in another, which may be the same.
+Public Declare PtrSafe Function Cpp_M_CopyPasteBlockStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByVal firstCol As Long, ByVal lastCol As Long, ByVal y As LongPtr, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a block of a chunked table to a place in another.
+Public Declare PtrSafe Function Cpp_M_CopyPasteBlockSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByVal firstCol As Long, ByVal lastCol As Long, ByVal y As LongPtr, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' ---- table_columns.h
+
+' Copies a column of a table into a column of another.
+Public Declare PtrSafe Function VB_CopyMatrixColToMatrixCol Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal colTo As Long, ByVal bReset As Integer) As Long
+
+' Copies a row of a table into a row of another.
+Public Declare PtrSafe Function VB_CopyMatrixRowToMatrixRow Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal row As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal rowTo As Long, ByVal bReset As Integer) As Long
+
+' Copies a column of a table into a vector.
+Public Declare PtrSafe Function VB_CopyMatrixColToVector Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, ByRef y As Double) As Long
+
+' Copies a column of a table of texts into a vector.
+Public Declare PtrSafe Function VB_CopyMatrixColToOneColMatStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
+    ByVal y As LongPtr) As Long
+
+' Moves a row of a table to another place, in place; the rows between the two move up or down by
+' one.
+Public Declare PtrSafe Function VB_M_MoveRow Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
+    ByVal toValue As Long) As Long
+
+' ---- table_duplicate.h
+
+' Copies a table of numbers into another.
+Public Declare PtrSafe Function VB_M_DuplicateDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a table of integers into another.
+Public Declare PtrSafe Function VB_M_DuplicateLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByRef y As Long, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a table of texts into another.
+Public Declare PtrSafe Function VB_M_DuplicateStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a chunked table of texts into a dense one.
+Public Declare PtrSafe Function VB_M_DuplicateStrSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a table of labelled columns of numbers into another.
+Public Declare PtrSafe Function Cpp_M_DuplicateDbl_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a table of labelled columns of texts into another.
+Public Declare PtrSafe Function Cpp_M_DuplicateStr_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a chunked table into a dense one.
+Public Declare PtrSafe Function Cpp_M_DuplicateDblSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a dense table into a chunked one.
+Public Declare PtrSafe Function Cpp_M_DuplicateDblSPV2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a dense table into a triangle, of which each column is held from the diagonal down.
+Public Declare PtrSafe Function Cpp_M_DuplicateDblSPV2_T Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' Copies a chunked table into another.
+Public Declare PtrSafe Function Cpp_M_DuplicateDblSPV3 Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr, _
+    ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
+
+' ---- table_extract.h
+
+' Takes a range of rows of a table of numbers.
+Public Declare PtrSafe Function VB_M_ExtractMatToMatDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByRef out As Double) As Long
+
+' Takes a range of rows of a table of texts.
+Public Declare PtrSafe Function VB_M_ExtractMatToMatStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByVal out As LongPtr) As Long
+
+' Takes a range of rows of a chunked table of numbers.
+Public Declare PtrSafe Function VB_M_ExtractMatToMatDblSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByRef out As Double) As Long
+
+' Takes a range of rows of a chunked table of texts.
+Public Declare PtrSafe Function VB_M_ExtractMatToMatStrSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal firstRow As Long, _
+    ByVal lastRow As Long, ByVal out As LongPtr) As Long
+
+' Takes a range of rows of a table of numbers.
+Public Declare PtrSafe Function Cpp_Extractij Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal i As Long, ByVal j As Long, _
+    ByRef out As Double) As Long
+
+' Takes a range of columns of a table.
+Public Declare PtrSafe Function VB_M_ExtractMatToMatByColDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal firstCol As Long, _
+    ByVal lastCol As Long, ByRef out As Double) As Long
+
 ' ---- table_merge.h
 
 ' Puts two tables of numbers side by side.
@@ -778,6 +944,28 @@ Public Declare PtrSafe Function VB_M_RemoveRowsInList Lib "KORVELMathTools.dll" 
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef list As Long, ByVal n As Long, _
     ByRef out As Double) As Long
 
+' ---- table_resize.h
+
+' Copies a table of numbers into another shape.
+Public Declare PtrSafe Function VB_M_CopyResize Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
+    ByVal newRows As Long, ByVal newCols As Long) As Long
+
+' Copies a table of flags into another shape.
+Public Declare PtrSafe Function VB_M_CopyResizeBool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByRef y As Integer, _
+    ByVal newRows As Long, ByVal newCols As Long) As Long
+
+' Copies a table of texts into another shape.
+Public Declare PtrSafe Function VB_M_CopyResizeStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr, _
+    ByVal newRows As Long, ByVal newCols As Long) As Long
+
+' Copies a table to the top left corner of a larger one, of which all other cells stay.
+Public Declare PtrSafe Function VB_M_CopyToBigger Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByVal yCols As Long) As Long
+
 ' ---- transpose.h
 
 ' Transposes a table of numbers.
@@ -807,6 +995,62 @@ Public Declare PtrSafe Function VB_M_Transpose2Str Lib "KORVELMathTools.dll" ( _
 ' Transposes a table of separate columns of numbers.
 Public Declare PtrSafe Function VB_M_TransposeSPV Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr) As Long
+
+' ---- vector_duplicate.h
+
+' Copies a range of rows of a column of numbers to a place in a table.
+Public Declare PtrSafe Function VB_V_DuplicateDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByRef y As Double, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of integers to a place in a table.
+Public Declare PtrSafe Function VB_V_DuplicateLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef y As Long, ByVal yRows As Long, ByVal yCols As Long, _
+    ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of numbers to a place in a table of integers.
+Public Declare PtrSafe Function VB_V_DuplicateDblToLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByRef y As Long, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of integers to a place in a table of numbers.
+Public Declare PtrSafe Function VB_V_DuplicateLngToDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef y As Double, ByVal yRows As Long, ByVal yCols As Long, _
+    ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of texts to a place in a table.
+Public Declare PtrSafe Function VB_V_DuplicateStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByVal y As LongPtr, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of flags to a place in a table.
+Public Declare PtrSafe Function Cpp_V_DuplicateBool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByRef y As Integer, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of numbers to a place in a table, both host arrays that come
+' out of a record.
+Public Declare PtrSafe Function Cpp_V_DuplicateDbl_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Double, ByVal col As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByRef y() As Double, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of integers to a place in a table, both host arrays that come
+' out of a record.
+Public Declare PtrSafe Function Cpp_V_DuplicateLng_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Long, ByVal col As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByRef y() As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of texts to a place in a table, both host arrays that come out
+' of a record.
+Public Declare PtrSafe Function Cpp_V_DuplicateStr_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal col As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByVal y As LongPtr, ByVal row As Long, ByVal yCol As Long) As Long
 
 ' ---- vector_extremes.h
 

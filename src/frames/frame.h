@@ -91,7 +91,10 @@ template <numeric_element T>
     return readTexts(block, rows, cols);
 }
 
-/** What a core routine fills for the caller: the numbers in place, or empty texts for `bringBack`. */
+/**
+ * What a core routine fills for the caller: the numbers in place, or empty texts for `bringBack`. A result
+ * without columns has no cell.
+ */
 template <numeric_element T>
 [[nodiscard]] matrix<T> filling(T* array, int rows, int cols = 1)
 {
@@ -99,7 +102,7 @@ template <numeric_element T>
 }
 [[nodiscard]] inline matrix<text> filling(OLECHAR**, int rows, int cols = 1)
 {
-    return blank<text>(rows, cols);
+    return cols > 0 ? blank<text>(rows, cols) : matrix<text>();
 }
 
 /** Sets numbers to be filled to 0, for a core routine that may leave some of them out. */

@@ -41,9 +41,10 @@ struct cell_place {
 }
 
 /** How many numbers there are from `first` to `last`; none when `first` is above `last`. */
-[[nodiscard]] constexpr std::int64_t countOf(int first, int last) noexcept
+[[nodiscard]] constexpr int countOf(int first, int last) noexcept
 {
-    return first <= last ? std::int64_t{last} - first + 1 : 0;
+    constexpr std::int64_t most = std::numeric_limits<int>::max();
+    return first <= last ? static_cast<int>(std::min(std::int64_t{last} - first + 1, most)) : 0;
 }
 
 namespace detail
@@ -180,6 +181,20 @@ void copyClipped(const From& from, int rows, int cols, const To& to, int toRows,
     copyBlock(from, skipped, to, {target.row + skipped.row, target.col + skipped.col},
               std::min<std::int64_t>(rows, toRows - target.row) - skipped.row,
               std::min<std::int64_t>(cols, toCols - target.col) - skipped.col);
+}
+
+/**
+ * Copies `rows` cells of one column of a symmetric table, of which chunk j of `stored` holds column j from
+ * the diagonal down.
+ */
+template <class Stored, class To>
+void copySymmetricColumn(const Stored& stored, cell_place source, const To& to, cell_place target,
+                         std::int64_t rows)
+{
+    const symmetric_access whole(stored);
+    const std::int64_t above = std::min(std::max<std::int64_t>(source.col - source.row, 0), rows);
+    copyBlock(whole, source, to, target, above, 1);
+    copyBlock(whole, {source.row + above, source.col}, to, {target.row + above, target.col}, rows - above, 1);
 }
 
 /** Stores one value in `rows` by `cols` cells of a dense table, by the rules of `copyBlock`. */

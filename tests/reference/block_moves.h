@@ -49,6 +49,26 @@ void store(matrix<T>** y, std::int64_t i, std::int64_t j, const T& value)
     chunk.oobValue = value;
 }
 
+/**
+ * The symmetric table that chunks hold from the diagonal down: chunk c its column c. What goes above the
+ * diagonal is not stored.
+ */
+struct triangle {
+    matrix<double>** chunks;
+};
+
+inline double cell(const triangle& x, std::int64_t i, std::int64_t j)
+{
+    return i >= j ? cell(x.chunks, i - j + 1, j) : cell(x.chunks, j - i + 1, i);
+}
+
+inline void store(const triangle& y, std::int64_t i, std::int64_t j, double value)
+{
+    if (i >= j) {
+        store(y.chunks, i - j + 1, j, value);
+    }
+}
+
 /** y(rowTo + i, colTo + j) = x(row + i, col + j) for i below `rows` and j below `cols`. */
 template <class From, class To>
 void copy(const From& x, std::int64_t row, std::int64_t col, To& y, std::int64_t rowTo, std::int64_t colTo,
