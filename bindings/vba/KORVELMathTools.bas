@@ -244,6 +244,147 @@ Public Declare PtrSafe Function Cpp_M_ShuffleStr Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr, _
     ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Long
 
+' ---- products.h
+
+' Product of two tables, c = a * b.
+Public Declare PtrSafe Function VB_M_ProductAB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double) As Long
+
+' Product of two tables of integers, c = a * b, in 32-bit arithmetic that wraps around.
+Public Declare PtrSafe Function VB_M_ProductABLng Lib "KORVELMathTools.dll" ( _
+    ByRef a As Long, ByVal n As Long, ByVal p As Long, ByRef b As Long, ByVal q As Long, _
+    ByRef c As Long) As Long
+
+' Product of two tables that heeds missing cells: where a term has a missing factor, c(i,j) is
+' missing.
+Public Declare PtrSafe Function VB_M_ProductABMissing Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double) As Long
+
+' Product of a transposed table and a table, c = a' * b.
+Public Declare PtrSafe Function VB_M_ProductTrAB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double) As Long
+
+' Product of a table and a transposed table, c = a * b'.
+Public Declare PtrSafe Function VB_M_ProductATrB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal m As Long, _
+    ByRef c As Double) As Long
+
+' Product of a table with itself, c = a' * a.
+Public Declare PtrSafe Function VB_M_ProductTrAA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef c As Double) As Long
+
+' Product of a table of integers with itself, c = a' * a.
+Public Declare PtrSafe Function Cpp_M_ProductTrAALng Lib "KORVELMathTools.dll" ( _
+    ByRef a As Long, ByVal n As Long, ByVal p As Long, ByRef c As Long) As Long
+
+' Product of a table with itself, c = a * a'.
+Public Declare PtrSafe Function VB_M_ProductATrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef c As Double) As Long
+
+' Product with a diagonal, c = a * d * a', each term from left to right.
+Public Declare PtrSafe Function VB_M_ProductADTrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' Product with a diagonal, c = a' * d * a, each term from left to right.
+Public Declare PtrSafe Function VB_M_ProductTrADA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' Product with a diagonal that is given as a vector, c = a' * diag(d) * a, each term from left to
+' right.
+Public Declare PtrSafe Function VB_M_ProductTrADiagVA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' Product with a diagonal that is given as a vector, c = a * diag(d) * a', each term from left to
+' right.
+Public Declare PtrSafe Function VB_M_ProductADiagVTrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' ---- products_triple.h
+
+' Product of three tables, c = a * b * a'.
+Public Declare PtrSafe Function VB_M_ProductABTrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, _
+    ByVal symmetric As Integer, ByRef c As Double) As Long
+
+' Product of three tables, c = a' * b * a.
+Public Declare PtrSafe Function VB_M_ProductTrABA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, _
+    ByVal symmetric As Integer, ByRef c As Double) As Long
+
+' Product of three tables, d = a * b * c.
+Public Declare PtrSafe Function VB_M_ProductABC Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double, ByVal r As Long, ByRef d As Double) As Long
+
+' Product of three tables, d = a' * b * c.
+Public Declare PtrSafe Function VB_M_ProductTrABC Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double, ByVal r As Long, ByRef d As Double) As Long
+
+' Product of three tables, d = a * b' * c.
+Public Declare PtrSafe Function VB_M_ProductATrBC Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double, ByVal r As Long, ByRef d As Double) As Long
+
+' Product of two tables and a vector, y = a' * b * v.
+Public Declare PtrSafe Function Cpp_M_ProductTrABV Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef v As Double, ByRef y As Double) As Long
+
+' ---- products_vector.h
+
+' Table times vector, y = b * v.
+Public Declare PtrSafe Function VB_M_ProductBV Lib "KORVELMathTools.dll" ( _
+    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
+
+' Vector times table, y = v' * b, that heeds missing cells: where a term has a missing factor, y(j)
+' is missing.
+Public Declare PtrSafe Function VB_M_ProductVB Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal q As Long, ByRef y As Double) As Long
+
+' Transposed table times vector, y = b' * v.
+Public Declare PtrSafe Function VB_M_ProductTrBV Lib "KORVELMathTools.dll" ( _
+    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
+
+' Vector times transposed table, y = v' * b'.
+Public Declare PtrSafe Function VB_M_ProductVTrB Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal m As Long, ByRef y As Double) As Long
+
+' The quadratic form v' * b * v.
+Public Declare PtrSafe Function VB_M_ProductTrVBV Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double) As Double
+
+' The bilinear form x1' * b * x2.
+Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef b As Double, ByRef x2 As Double) As Double
+
+' Inner product of two vectors, missing elements too.
+Public Declare PtrSafe Function VB_V_ProductTrV1V2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Double
+
+' Product of two vectors, element by element; missing where either is.
+Public Declare PtrSafe Function VB_V_ProductV1V2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef y As Double) As Long
+
+' Multiplies a vector by another in place, element by element, missing ones too.
+Public Declare PtrSafe Function VB_V_ProductV1V22 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Long
+
+' Outer product of two vectors, c(i,j) = x1(i) * x2(j), missing elements too.
+Public Declare PtrSafe Function VB_V_ProductV1TrV2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef c As Double) As Long
+
+' Product of all elements of a vector, missing ones too.
+Public Declare PtrSafe Function VB_V_Product1toNDbl Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long) As Double
+
+' Product of all elements of a vector of integers, in double precision.
+Public Declare PtrSafe Function VB_V_Product1toNLng Lib "KORVELMathTools.dll" ( _
+    ByRef v As Long, ByVal n As Long) As Double
+
 ' ---- quantiles.h
 
 ' Quantile by linear interpolation between order statistics (type 7 of Hyndman and Fan).

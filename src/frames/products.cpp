@@ -1,0 +1,111 @@
+#include "frames/products.h"
+
+#include "frames/frame.h"
+#include "linalg/products.h"
+#include "linalg/products_missing.h"
+#include "linalg/products_symmetric.h"
+
+using namespace korvel;
+
+int VB_M_ProductAB(double* a, int n, int p, double* b, int q, double* c)
+{
+    auto left = frame::copyIn(a, n, p);
+    auto right = frame::copyIn(b, p, q);
+    auto product = frame::borrow(c, n, q);
+    return M_ProductAB(left, n, p, right, q, product);
+}
+
+int VB_M_ProductABLng(int* a, int n, int p, int* b, int q, int* c)
+{
+    auto left = frame::copyIn(a, n, p);
+    auto right = frame::copyIn(b, p, q);
+    auto product = frame::borrow(c, n, q);
+    return M_ProductAB(&left, n, p, &right, q, &product);
+}
+
+int VB_M_ProductABMissing(double* a, int n, int p, double* b, int q, double* c)
+{
+    auto left = frame::copyIn(a, n, p);
+    auto right = frame::copyIn(b, p, q);
+    auto product = frame::borrow(c, n, q);
+    return M_ProductABMissing(&left, n, p, &right, q, &product);
+}
+
+int VB_M_ProductTrAB(double* a, int n, int p, double* b, int q, double* c)
+{
+    auto left = frame::copyIn(a, n, p);
+    auto right = frame::copyIn(b, n, q);
+    auto product = frame::borrow(c, p, q);
+    auto* result = &product;
+    M_ProductTrAB(&left, n, p, &right, q, result);
+    return 0;
+}
+
+int VB_M_ProductATrB(double* a, int n, int p, double* b, int m, double* c)
+{
+    auto left = frame::copyIn(a, n, p);
+    auto right = frame::copyIn(b, m, p);
+    auto product = frame::borrow(c, n, m);
+    M_ProductATrB(&left, n, p, &right, m, &product);
+    return 0;
+}
+
+int VB_M_ProductTrAA(double* a, int n, int p, double* c)
+{
+    auto table = frame::copyIn(a, n, p);
+    auto product = frame::borrow(c, p, p);
+    M_ProductTrAA(&table, n, p, &product);
+    return 0;
+}
+
+int Cpp_M_ProductTrAALng(int* a, int n, int p, int* c)
+{
+    auto table = frame::copyIn(a, n, p);
+    auto product = frame::borrow(c, p, p);
+    M_ProductTrAA(&table, n, p, &product);
+    return 0;
+}
+
+int VB_M_ProductATrA(double* a, int n, int p, double* c)
+{
+    auto table = frame::copyIn(a, n, p);
+    auto product = frame::borrow(c, n, n);
+    M_ProductATrA(&table, n, p, &product);
+    return 0;
+}
+
+int VB_M_ProductADTrA(double* a, int n, int p, double* d, double* c)
+{
+    auto table = frame::copyIn(a, n, p);
+    auto diagonal = frame::copyIn(d, p, p);
+    auto product = frame::borrow(c, n, n);
+    M_ProductADTrA(&table, n, p, &diagonal, &product);
+    return 0;
+}
+
+int VB_M_ProductTrADA(double* a, int n, int p, double* d, double* c)
+{
+    auto table = frame::copyIn(a, n, p);
+    auto diagonal = frame::copyIn(d, n, n);
+    auto product = frame::borrow(c, p, p);
+    M_ProductTrADA(&table, n, p, &diagonal, &product);
+    return 0;
+}
+
+int VB_M_ProductTrADiagVA(double* a, int n, int p, double* d, double* c)
+{
+    auto table = frame::copyIn(a, n, p);
+    auto diagonal = frame::copyIn(d, n);
+    auto product = frame::borrow(c, p, p);
+    M_ProductTrADiagVA(&table, n, p, &diagonal, &product);
+    return 0;
+}
+
+int VB_M_ProductADiagVTrA(double* a, int n, int p, double* d, double* c)
+{
+    auto table = frame::copyIn(a, n, p);
+    auto diagonal = frame::copyIn(d, p);
+    auto product = frame::borrow(c, n, n);
+    M_ProductADiagVTrA(&table, n, p, &diagonal, &product);
+    return 0;
+}

@@ -1,0 +1,168 @@
+/**
+ * @file
+ * Flat functions: products of tables. Every element is one sum from 0.0 in ascending order, each term a
+ * multiplication and then an addition. No cell is looked at for being missing where nothing else is said.
+ * What is read is copied first, so a result may be written over an array that is read.
+ */
+#ifndef KORVEL_FRAMES_PRODUCTS_H
+#define KORVEL_FRAMES_PRODUCTS_H
+
+#include "frames/types.h"
+
+/**
+ * Product of two tables, c = a * b. The work is shared among threads.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param b [in] numbers, p by q, column after column
+ * @param q columns of b
+ * @param c [out] n by q numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductAB(double* a, int n, int p, double* b, int q, double* c);
+
+/**
+ * Product of two tables of integers, c = a * b, in 32-bit arithmetic that wraps around. No integer is missing
+ * here.
+ *
+ * @param a [in] integers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param b [in] integers, p by q, column after column
+ * @param q columns of b
+ * @param c [out] n by q integers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductABLng(int* a, int n, int p, int* b, int q, int* c);
+
+/**
+ * Product of two tables that heeds missing cells: where a term has a missing factor, c(i,j) is missing. So
+ * one missing cell of a blanks a row of c, and one of b a column.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param b [in] numbers, p by q, column after column
+ * @param q columns of b
+ * @param c [out] n by q numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductABMissing(double* a, int n, int p, double* b, int q, double* c);
+
+/**
+ * Product of a transposed table and a table, c = a' * b.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param b [in] numbers, n by q, column after column
+ * @param q columns of b
+ * @param c [out] p by q numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductTrAB(double* a, int n, int p, double* b, int q, double* c);
+
+/**
+ * Product of a table and a transposed table, c = a * b'.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param b [in] numbers, m by p, column after column
+ * @param m rows of b
+ * @param c [out] n by m numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductATrB(double* a, int n, int p, double* b, int m, double* c);
+
+/**
+ * Product of a table with itself, c = a' * a. Only the elements of the upper half are summed; each is stored
+ * in both halves.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param c [out] p by p numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductTrAA(double* a, int n, int p, double* c);
+
+/**
+ * Product of a table of integers with itself, c = a' * a. Each product is in 32-bit arithmetic that wraps
+ * around, the sum in double precision, cut off to an integer; what no integer can hold gives -2147483648.
+ * Only the elements of the upper half are summed; each is stored in both halves.
+ *
+ * @param a [in] integers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param c [out] p by p integers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int Cpp_M_ProductTrAALng(int* a, int n, int p, int* c);
+
+/**
+ * Product of a table with itself, c = a * a'. Only the elements of the upper half are summed; each is stored
+ * in both halves.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param c [out] n by n numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductATrA(double* a, int n, int p, double* c);
+
+/**
+ * Product with a diagonal, c = a * d * a', each term from left to right. Only the elements of the upper half
+ * are summed; each is stored in both halves.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param d [in] numbers, p by p, column after column; only the diagonal is read
+ * @param c [out] n by n numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductADTrA(double* a, int n, int p, double* d, double* c);
+
+/**
+ * Product with a diagonal, c = a' * d * a, each term from left to right. Only the elements of the upper half
+ * are summed; each is stored in both halves.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param d [in] numbers, n by n, column after column; only the diagonal is read
+ * @param c [out] p by p numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductTrADA(double* a, int n, int p, double* d, double* c);
+
+/**
+ * Product with a diagonal that is given as a vector, c = a' * diag(d) * a, each term from left to right. Only
+ * the elements of the upper half are summed; each is stored in both halves.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param d [in] n numbers
+ * @param c [out] p by p numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductTrADiagVA(double* a, int n, int p, double* d, double* c);
+
+/**
+ * Product with a diagonal that is given as a vector, c = a * diag(d) * a', each term from left to right. Only
+ * the elements of the upper half are summed; each is stored in both halves.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param d [in] p numbers
+ * @param c [out] n by n numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductADiagVTrA(double* a, int n, int p, double* d, double* c);
+
+#endif

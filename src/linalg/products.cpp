@@ -1,0 +1,145 @@
+#include "linalg/products.h"
+
+#include "linalg/product_forms.h"
+#include "linalg/team.h"
+
+#include <cstdint>
+
+namespace
+{
+
+using korvel::clearResult;
+using korvel::formProduct;
+using korvel::product_side;
+using korvel::summed;
+using korvel::term_factors;
+
+/** The checked form of the column update: columns of A times an element of B are added to a column of C. */
+void addProductChecked(const matrix<double>& A, int n, int p, const matrix<double>& B, int q,
+                       matrix<double>& C)
+{
+    for (int j = 0; j < q; ++j) {
+        for (int k = 0; k < p; ++k) {
+            const double factor = B.getElement(k, j);
+            for (int i = 0; i < n; ++i) {
+                C.setElement(i, j, C.getElement(i, j) + factor * A.getElement(i, k));
+            }
+        }
+    }
+}
+
+/** Unsigned arithmetic wraps where signed arithmetic has no result. */
+int addWrapping(int sum, int a, int b)
+{
+    return static_cast<int>(static_cast<std::uint32_t>(sum) +
+                            static_cast<std::uint32_t>(a) * static_cast<std::uint32_t>(b));
+}
+
+/** Rows of C = A·B for the integers that lie inside, column after column. */
+void multiplyRows(const matrix<int>& A, korvel::stretch rows, int p, const matrix<int>& B, int q,
+                  matrix<int>& C)
+{
+    for (std::ptrdiff_t j = 0; j < q; ++j) {
+        int* const sums = C.data + j * C.nbrows + rows.first;
+        std::fill_n(sums, rows.count, 0);
+        for (std::ptrdiff_t k = 0; k < p; ++k) {
+            const int factor = B.data[k + j * B.nbrows];
+            const int* const column = A.data + k * A.nbrows + rows.first;
+            for (std::ptrdiff_t i = 0; i < rows.count; ++i) {
+                sums[i] = addWrapping(sums[i], column[i], factor);
+            }
+        }
+    }
+}
+
+void multiplyChecked(const matrix<int>& A, int n, int p, const matrix<int>& B, int q, matrix<int>& C)
+{
+    for (int i = 0; i < n; ++i) {
+        for (int j = 0; j < q; ++j) {
+            int sum = 0;
+            for (int k = 0; k < p; ++k) {
+                sum = addWrapping(sum, A.getElement(i, k), B.getElement(k, j));
+            }
+            C.setElement(i, j, sum);
+        }
+    }
+}
+
+template <class T>
+bool allInside(const matrix<T>& A, int n, int p, const matrix<T>& B, int q, const matrix<T>& C)
+{
+    return n <= A.nbrows && p <= A.nbcols && p <= B.nbrows && q <= B.nbcols && n <= C.nbrows && q <= C.nbcols;
+}
+
+/** C = A·B' into a dense table or chunks. */
+template <class Result>
+void multiplyByTransposed(matrix<double>& A, int n, int p, matrix<double>& B, int m, Result& C)
+{
+    formProduct(n, m, p, product_side(A, summed::along, n, p), product_side(B, summed::along, m, p),
+                term_factors::none(), C);
+}
+
+} // namespace
+
+int M_ProductAB(const matrix<double>& A, int n, int p, const matrix<double>& B, int q, matrix<double>& C)
+{
+    clearResult(C, n, q);
+    if (n < 1 || p < 1 || q < 1) {
+        return 0;
+    }
+    if (!allInside(A, n, p, B, q, C)) {
+        addProductChecked(A, n, p, B, q, C);
+        return 0;
+    }
+    korvel::kernels::product form{n, q, p};
+    form.left = {{A.data, A.nbrows}, false};
+    form.right = {{B.data, B.nbrows}, true};
+    form.result = {C.data, C.nbrows};
+    form.onto = true;
+    korvel::multiplyInTeam(form, korvel::shared_out::columns);
+    return 0;
+}
+
+int M_ProductAB(matrix<int>* A, int n, int p, matrix<int>* B, int q, matrix<int>* C)
+{
+    clearResult(*C, n, q);
+    if (allInside(*A, n, p, *B, q, *C)) {
+        korvel::inTeam(n, [&](int, korvel::stretch rows) { multiplyRows(*A, rows, p, *B, q, *C); });
+    } else {
+        multiplyChecked(*A, n, p, *B, q, *C);
+    }
+    return 0;
+}
+
+int M_ProductABSPV(matrix<double>** A, int n, int p, matrix<double>* B, int q, matrix<double>*& C)
+{
+    clearResult(*C, n, q);
+    formProduct(n, q, p, product_side(A, summed::along, n, p), product_side(*B, summed::down, q, p),
+                term_factors::none(), *C, true);
+    return 0;
+}
+
+int M_ProductABSPV2(matrix<double>** A, int n, int p, matrix<double>** B, int q, matrix<double>** C)
+{
+    formProduct(n, q, p, product_side(A, summed::along, n, p), product_side(B, summed::down, q, p),
+                term_factors::none(), C, true);
+    return 0;
+}
+
+void M_ProductTrAB(matrix<double>* A, int n, int p, matrix<double>* B, int q, matrix<double>*& C)
+{
+    clearResult(*C, p, q);
+    formProduct(p, q, n, product_side(*A, summed::down, p, n), product_side(*B, summed::down, q, n),
+                term_factors::none(), *C);
+}
+
+void M_ProductATrB(matrix<double>* A, int n, int p, matrix<double>* B, int m, matrix<double>* C)
+{
+    clearResult(*C, n, m);
+    multiplyByTransposed(*A, n, p, *B, m, *C);
+}
+
+void M_ProductATrBSPV(matrix<double>* A, int n, int p, matrix<double>* B, int m, matrix3D<matrix<double>>* C)
+{
+    multiplyByTransposed(*A, n, p, *B, m, *C);
+}

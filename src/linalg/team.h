@@ -1,0 +1,80 @@
+/**
+ * @file
+ * Teams of threads for the product family: who does which stretch of the work, and the scratch of each.
+ */
+#ifndef KORVEL_LINALG_TEAM_H
+#define KORVEL_LINALG_TEAM_H
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <omp.h>
+
+namespace korvel
+{
+
+/** Threads that a team can have. */
+[[nodiscard]] inline int mostThreads()
+{
+    return std::max(1, omp_get_max_threads());
+}
+
+/** Rows or columns in a row. */
+struct stretch {
+    std::ptrdiff_t first = 0;
+    std::ptrdiff_t count = 0;
+};
+
+/** A thread's stretch of `total`, in order, as even as can be, the first ones taking what is left over. */
+[[nodiscard]] constexpr stretch shareOf(std::ptrdiff_t total, int thread, int threads)
+{
+    const std::ptrdiff_t even = total / threads;
+    const std::ptrdiff_t over = total % threads;
+    return {thread * even + std::min<std::ptrdiff_t>(thread, over), even + (thread < over ? 1 : 0)};
+}
+
+/** Calls `work(thread, stretch)` on each thread that has something to do. The team is forked whatever the
+ * size. `work` must not throw. */
+template <class Work>
+void inTeam(std::ptrdiff_t total, Work work)
+{
+#pragma omp parallel
+    {
+        const int thread = omp_get_thread_num();
+        const stretch share = shareOf(total, thread, omp_get_num_threads());
+        if (share.count > 0) {
+            work(thread, share);
+        }
+    }
+}
+
+/**
+ * Scratch for each thread, allocated before the team is forked, since an exception could not leave it. Small
+ * scratch is the thread's own array, so that small products allocate nothing.
+ */
+class scratch_space
+{
+public:
+    static constexpr std::size_t smallSize = 2048;
+
+    scratch_space(std::size_t size, int threads) : size_(size)
+    {
+        if (size > smallSize) {
+            block_ = std::make_unique_for_overwrite<double[]>(size * static_cast<std::size_t>(threads));
+        }
+    }
+
+    /** The scratch of a thread, which offers `atHand`, an array of `smallSize`. */
+    [[nodiscard]] double* of(int thread, double* atHand) const
+    {
+        return block_ == nullptr ? atHand : block_.get() + size_ * static_cast<std::size_t>(thread);
+    }
+
+private:
+    std::size_t size_;
+    std::unique_ptr<double[]> block_;
+};
+
+} // namespace korvel
+
+#endif
