@@ -361,30 +361,6 @@ Public Declare PtrSafe Function VB_M_ProductTrVBV Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KORVELMathTools.dll" ( _
     ByRef x1 As Double, ByVal n As Long, ByRef b As Double, ByRef x2 As Double) As Double
 
-' Inner product of two vectors, missing elements too.
-Public Declare PtrSafe Function VB_V_ProductTrV1V2 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Double
-
-' Product of two vectors, element by element; missing where either is.
-Public Declare PtrSafe Function VB_V_ProductV1V2 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef y As Double) As Long
-
-' Multiplies a vector by another in place, element by element, missing ones too.
-Public Declare PtrSafe Function VB_V_ProductV1V22 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Long
-
-' Outer product of two vectors, c(i,j) = x1(i) * x2(j), missing elements too.
-Public Declare PtrSafe Function VB_V_ProductV1TrV2 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef c As Double) As Long
-
-' Product of all elements of a vector, missing ones too.
-Public Declare PtrSafe Function VB_V_Product1toNDbl Lib "KORVELMathTools.dll" ( _
-    ByRef v As Double, ByVal n As Long) As Double
-
-' Product of all elements of a vector of integers, in double precision.
-Public Declare PtrSafe Function VB_V_Product1toNLng Lib "KORVELMathTools.dll" ( _
-    ByRef v As Long, ByVal n As Long) As Double
-
 ' ---- quantiles.h
 
 ' Quantile by linear interpolation between order statistics (type 7 of Hyndman and Fan).

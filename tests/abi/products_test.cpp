@@ -249,26 +249,6 @@ TEST(FlatProducts, WithVectors)
     EXPECT_TRUE(sameBits(VB_M_ProductTrVBV(three.data(), 3, square.data()), quadratic.cells[0]));
 }
 
-TEST(FlatProducts, OfVectors)
-{
-    numbers x{1, MISSING_DBL, 3};
-    numbers z{4, 5, 6};
-    EXPECT_TRUE(sameBits(VB_V_ProductTrV1V2(x.data(), 1, z.data()), 4.0));
-    EXPECT_TRUE(sameBits(VB_V_ProductTrV1V2(z.data(), 3, z.data()), 77.0));
-    guarded<double> y{9, 9, 9};
-    EXPECT_EQ(VB_V_ProductV1V2(x.data(), 3, z.data(), y.data()), 0);
-    EXPECT_EQ(valuesOf(y), (numbers{4, MISSING_DBL, 18}));
-    guarded<double> inPlace{1, 2, 3};
-    EXPECT_EQ(VB_V_ProductV1V22(inPlace.data(), 3, z.data()), 0);
-    EXPECT_EQ(valuesOf(inPlace), (numbers{4, 10, 18}));
-    guarded<double> outer(numbers(9, 9.0));
-    EXPECT_EQ(VB_V_ProductV1TrV2(z.data(), 3, inPlace.data(), outer.data()), 0);
-    EXPECT_EQ(valuesOf(outer), (numbers{16, 20, 24, 40, 50, 60, 72, 90, 108}));
-    EXPECT_TRUE(sameBits(VB_V_Product1toNDbl(z.data(), 3), 120.0));
-    integers k{2147483647, 2};
-    EXPECT_TRUE(sameBits(VB_V_Product1toNLng(k.data(), 2), 4294967294.0));
-}
-
 TEST(FlatProducts, OfNothing)
 {
     guarded<double> c{9, 9};
@@ -279,7 +259,4 @@ TEST(FlatProducts, OfNothing)
     EXPECT_EQ(VB_M_ProductABTrA(nullptr, 0, 0, nullptr, 0, kept.data()), 0);
     EXPECT_EQ(valuesOf(kept), (numbers{9, 9}));
     EXPECT_TRUE(sameBits(VB_M_ProductTrVBV(nullptr, 0, nullptr), 0.0));
-    EXPECT_TRUE(sameBits(VB_V_ProductTrV1V2(nullptr, 0, nullptr), 0.0));
-    EXPECT_TRUE(sameBits(VB_V_Product1toNDbl(nullptr, 0), 1.0));
-    EXPECT_TRUE(sameBits(VB_V_Product1toNLng(nullptr, 0), 1.0));
 }

@@ -114,8 +114,6 @@ TEST(Products, OfNothingAreClearedResults)
     EXPECT_TRUE(sameBits(M_ProductTrVBV(&none, 0, &none), 0.0));
     EXPECT_TRUE(sameBits(M_ProductTrVBV(&none, -2, &none), 0.0));
     EXPECT_TRUE(sameBits(M_ProductTrV1BV2(&none, 0, &none, &none), 0.0));
-    EXPECT_TRUE(sameBits(V_ProductTrV1V2(&none, -1, &none), 0.0));
-    EXPECT_TRUE(sameBits(V_Product1toN(&none, 0), 1.0));
 }
 
 TEST(Products, LeaveABorrowedResultThatIsTooSmall)
@@ -323,69 +321,4 @@ TEST(IntegerProducts, OfNumbersCutEachSum)
     matrix<int> kept(1, 1, 7);
     M_ProductTrAA(&odd, 1, 0, &kept);
     EXPECT_TRUE(sameIntegers(kept, integersOf(1, 1, {7})));
-}
-
-TEST(VectorProducts, ElementByElement)
-{
-    matrix<double> x = vectorOf<double>({1, MISSING_DBL, 3, 4});
-    matrix<double> z = vectorOf<double>({2, 5, MISSING_DBL, 0.5});
-    matrix<double> y(4, 1, 9.0);
-    V_ProductV1V2(&x, 4, &z, &y);
-    EXPECT_TRUE(sameTables(y, vectorOf<double>({2, MISSING_DBL, MISSING_DBL, 2})));
-    EXPECT_TRUE(sameBits(y.oobValue, 2.0));
-    V_ProductV1V2(&x, 4, &z, &x);
-    EXPECT_TRUE(sameTables(x, y)) << "in place";
-    matrix<double> u = vectorOf<double>({3, MISSING_DBL});
-    V_ProductV1V22(&u, 2, &z);
-    EXPECT_TRUE(sameTables(u, vectorOf<double>({6, MISSING_DBL * 5.0}))) << "missing ones multiply through";
-    EXPECT_TRUE(sameBits(u.oobValue, MISSING_DBL * 5.0));
-    matrix<double> shorter = vectorOf<double>({2});
-    V_ProductV1V22(&shorter, 2, &z);
-    EXPECT_TRUE(sameBits(shorter.data[0], 4.0));
-    EXPECT_TRUE(sameBits(shorter.oobValue, 20.0)) << "the slot held the element stored before, times 5";
-}
-
-TEST(VectorProducts, InnerAndOuter)
-{
-    matrix<double> x = vectorOf<double>({1, 2, MISSING_DBL});
-    matrix<double> z = vectorOf<double>({3, 4, 5});
-    EXPECT_TRUE(sameBits(V_ProductTrV1V2(&x, 2, &z), 11.0));
-    EXPECT_TRUE(sameBits(V_ProductTrV1V2(&x, 3, &z), 11.0 + MISSING_DBL * 5.0));
-    matrix<double> ordered = vectorOf<double>({0x1p53, 1, -0x1p53, 1});
-    matrix<double> ones(4, 1, 1.0);
-    EXPECT_TRUE(sameBits(V_ProductTrV1V2(&ordered, 4, &ones), 1.0)) << "ascending: the first 1 is lost";
-    matrix<double> C(3, 3, 9.0);
-    V_ProductV1TrV2(&x, 2, &z, &C);
-    EXPECT_TRUE(sameTables(C, tableOf({{3, 4, 9}, {6, 8, 9}, {0, 9, 9}})));
-    EXPECT_TRUE(sameBits(C.oobValue, 8.0));
-    matrix<double> grown;
-    V_ProductV1TrV2(&z, 3, &z, &grown);
-    EXPECT_EQ(grown.nbrows, 3);
-    EXPECT_TRUE(sameBits(grown.getElement(2, 1), 20.0));
-}
-
-TEST(VectorProducts, WeightedMeanProductCountsTheWeightOfDroppedRows)
-{
-    matrix<double> x = vectorOf<double>({1, MISSING_DBL, 3, 4});
-    matrix<double> z = vectorOf<double>({2, 5, MISSING_DBL, 6});
-    matrix<double> w = vectorOf<double>({1, 2, 3, MISSING_DBL});
-    EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, 4, &z, &w), 2.0 / 6.0));
-    matrix<double> none = vectorOf<double>({0, 0, 0, 0});
-    EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, 4, &z, &none), 0.0));
-    matrix<double> cancelling = vectorOf<double>({2, -2, 0, 0});
-    EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, 4, &z, &cancelling), 4.0)) << "the sum itself when W is 0";
-    matrix<double> negative = vectorOf<double>({-2, 0, 0, 0});
-    EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, 4, &z, &negative), -4.0));
-    EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, 0, &z, &w), 0.0));
-}
-
-TEST(VectorProducts, OfAllElements)
-{
-    matrix<double> v = vectorOf<double>({2, -3, 0.5});
-    EXPECT_TRUE(sameBits(V_Product1toN(&v, 3), -3.0));
-    EXPECT_TRUE(sameBits(V_Product1toN(&v, 4), 3.0)) << "outside reads -1";
-    matrix<int> k = integersOf(3, 1, {largestInt, 2, 3});
-    EXPECT_TRUE(sameBits(V_Product1toN(&k, 3), 6.0 * largestInt));
-    matrix<int> empty;
-    EXPECT_TRUE(sameBits(V_Product1toN(&empty, 0), 1.0));
 }
