@@ -9,8 +9,8 @@
  * is stored after one panel and loaded again for the next is still the same accumulator. Nothing in this
  * alters a rounding.
  *
- * It is compiled for the baseline, for AVX2 and for AVX-512; which one is called is decided once, when the library is
- * loaded.
+ * It is compiled for the baseline, for AVX2 and for AVX-512; which one is called is decided once, when the
+ * library is loaded.
  */
 #ifndef KORVEL_LINALG_KERNELS_PRODUCT_H
 #define KORVEL_LINALG_KERNELS_PRODUCT_H
