@@ -69,6 +69,33 @@ Public Declare PtrSafe Function Cpp_SortApply2Bool Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_SortApply2_ST Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
 
+' ---- cell_maps.h
+
+' Natural logarithms.
+Public Declare PtrSafe Function VB_M_LogMatrix Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+
+' Logarithms to base 10.
+Public Declare PtrSafe Function VB_M_Log10Matrix Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+
+' Square roots.
+Public Declare PtrSafe Function Cpp_M_SquareRootAij Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+
+' Square roots, in place.
+Public Declare PtrSafe Function Cpp_M_SquareRootAij2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Subtracts the first cell of its row from each cell, in place; the first column becomes 0.
+Public Declare PtrSafe Function Cpp_M_SubstractFirstCol2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Tells whether all cells of a table lie in an interval.
+Public Declare PtrSafe Function VB_M_IsInIntervalSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal lo As Double, _
+    ByVal hi As Double, ByVal bOpen As Integer, ByVal bSkipMissing As Integer) As Integer
+
 ' ---- containers.h
 
 ' Tells whether a number is missing: whether it is at or below the sentinel -1.79769313486231e308.
@@ -190,6 +217,47 @@ Public Declare PtrSafe Function Cpp_SumMat Lib "KORVELMathTools.dll" ( _
 ' x(i, j) = x(i, j) * s.
 Public Declare PtrSafe Function Cpp_MultiplyByVal Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal s As Double) As Long
+
+' ---- fill.h
+
+' Numbers a vector: element k, from 1, becomes k.
+Public Declare PtrSafe Function VB_V_Set1toNDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' Numbers a vector: element k, from 1, becomes k.
+Public Declare PtrSafe Function VB_V_Set1toNLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Long
+
+' Numbers a vector: element k, from 1, becomes k, in decimal digits.
+Public Declare PtrSafe Function VB_V_Set1toNStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long) As Long
+
+' Sets flags to false.
+Public Declare PtrSafe Function VB_InitVectorToFalse Lib "KORVELMathTools.dll" ( _
+    ByRef flags As Integer, ByVal n As Long) As Long
+
+' Sets flags to true.
+Public Declare PtrSafe Function VB_InitVectorToTrue Lib "KORVELMathTools.dll" ( _
+    ByRef flags As Integer, ByVal n As Long) As Long
+
+' Flags the cells of a table that equal a number.
+Public Declare PtrSafe Function Cpp_M_SetBooleanIfLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal value As Long, _
+    ByRef flags As Integer) As Long
+
+' ---- matrix_dump.h
+
+' Writes a table of numbers to a text file.
+Public Declare PtrSafe Sub Cpp_WriteMatrixDbl Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal rows As Long, ByVal cols As Long, ByVal name As String)
+
+' Writes a table of integers to a text file.
+Public Declare PtrSafe Sub Cpp_WriteMatrixLng Lib "KORVELMathTools.dll" ( _
+    ByRef a As Long, ByVal rows As Long, ByVal cols As Long, ByVal name As String)
+
+' Writes a table of texts to a text file.
+Public Declare PtrSafe Function Cpp_WriteMatrixStr Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal name As String) As Long
 
 ' ---- permutations.h
 
@@ -535,6 +603,22 @@ Public Declare PtrSafe Function VB_M_GroupByW Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function VB_M_Dedupe Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal p As Long, ByRef nOut As Long, ByRef out As Double) As Long
 
+' ---- row_maps.h
+
+' The column of the largest cell of each row.
+Public Declare PtrSafe Function Cpp_M_MaxPosByRow Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef positions As Long) As Long
+
+' A new variable as a weighted sum of those of a table.
+Public Declare PtrSafe Function VB_ComputeNewVar Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef coefficients As Double, _
+    ByRef out As Double) As Long
+
+' Picks the rows that are not negligible.
+Public Declare PtrSafe Function Cpp_FilterOnSumOfSquares Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal threshold As Double, _
+    ByRef kept As Integer) As Long
+
 ' ---- sampling.h
 
 ' Marks a range of elements.
@@ -759,6 +843,57 @@ Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTo
     ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef group As Double, _
     ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
     ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
+
+' ---- symmetric.h
+
+' Makes a table symmetric: both cells of a pair (i, j), (j, i) become their mean.
+Public Declare PtrSafe Function VB_M_Symmetrize Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Makes a table symmetric: both cells of a pair (i, j), (j, i) become their mean.
+Public Declare PtrSafe Function VB_M_SymmetrizeSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Tells whether a square table is symmetric.
+Public Declare PtrSafe Function VB_M_IsSymmetric Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Integer
+
+' Tells whether a square table is symmetric.
+Public Declare PtrSafe Function VB_M_IsSymmetricSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long) As Integer
+
+' Tells whether the diagonal of a square table is constant.
+Public Declare PtrSafe Function VB_M_IsDiagConstant Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Integer
+
+' Packs a symmetric table: its lower triangle row after row.
+Public Declare PtrSafe Function Cpp_M_CopySymMatToVector Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef v As Double) As Long
+
+' Unpacks a vector that holds a triangle row after row into both halves of a table.
+Public Declare PtrSafe Function Cpp_M_CopyVectorToSymMat Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef x As Double) As Long
+
+' Tells similarities from dissimilarities.
+Public Declare PtrSafe Function VB_M_CheckIfSimOrDissim Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Tells similarities from dissimilarities.
+Public Declare PtrSafe Function VB_M_CheckIfSimOrDissimSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Turns similarities into dissimilarities: every cell becomes the largest cell of the table less
+' itself.
+Public Declare PtrSafe Function VB_M_TransformSimToDissim Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' Tells which half of a square table is filled, and fills the other half from it on request.
+Public Declare PtrSafe Function VB_M_IsTriangular Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bMirror As Integer) As Long
+
+' Tells which half of a square table is filled, and fills the other half from it on request.
+Public Declare PtrSafe Function VB_M_IsTriangularSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal bMirror As Integer) As Long
 
 ' ---- table_blocks.h
 
@@ -1083,6 +1218,16 @@ Public Declare PtrSafe Function VB_M_CopyToBigger Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
     ByVal yRows As Long, ByVal yCols As Long) As Long
 
+' ---- text_rows.h
+
+' Joins the cells of each row of texts, from the first column on, with nothing between them.
+Public Declare PtrSafe Function Cpp_M_MergeStringsByRow Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr) As Long
+
+' Tells whether two vectors have the same texts in the same order.
+Public Declare PtrSafe Function Cpp_CheckSameVectorStr Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal nA As Long, ByVal b As LongPtr, ByVal nB As Long) As Integer
+
 ' ---- transpose.h
 
 ' Transposes a table of numbers.
@@ -1374,6 +1519,33 @@ Public Declare PtrSafe Function Cpp_V_DiffSqStart Lib "KORVELMathTools.dll" ( _
 ' Running sum over all elements, missing ones too.
 Public Declare PtrSafe Function Cpp_V_CuSum Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
+
+' ---- vector_table.h
+
+' The columns of a table one below the other, as a vector.
+Public Declare PtrSafe Function Cpp_MatToVect Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef v As Double) As Long
+
+' A vector back in the shape of the table that Cpp_MatToVect laid it out from.
+Public Declare PtrSafe Function Cpp_VectToMat Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByRef pattern As Double, ByVal rows As Long, ByVal cols As Long, _
+    ByRef x As Double) As Long
+
+' The rows of a table one after the other, as a vector.
+Public Declare PtrSafe Function Cpp_M_CopyTabletoVectorByRowDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef v As Double) As Long
+
+' The rows of a table one after the other, as a vector.
+Public Declare PtrSafe Function Cpp_M_CopyTabletoVectorByRowStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal v As LongPtr) As Long
+
+' A vector cut into the rows of a table.
+Public Declare PtrSafe Function Cpp_M_CopyVectortoTableByRowDbl Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal rows As Long, ByVal cols As Long, ByRef x As Double) As Long
+
+' A vector cut into the rows of a table.
+Public Declare PtrSafe Function Cpp_M_CopyVectortoTableByRowStr Lib "KORVELMathTools.dll" ( _
+    ByVal v As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal x As LongPtr) As Long
 
 ' ---- vector_variance.h
 

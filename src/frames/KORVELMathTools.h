@@ -6,10 +6,13 @@
 #define KORVELMATHTOOLS_H
 
 #include "frames/apply_order.h"
+#include "frames/cell_maps.h"
 #include "frames/containers.h"
 #include "frames/diagonal_scaling.h"
 #include "frames/distinct.h"
 #include "frames/element_wise.h"
+#include "frames/fill.h"
+#include "frames/matrix_dump.h"
 #include "frames/permutations.h"
 #include "frames/products.h"
 #include "frames/products_triple.h"
@@ -21,10 +24,12 @@
 #include "frames/reductions.h"
 #include "frames/reverse.h"
 #include "frames/row_grouping.h"
+#include "frames/row_maps.h"
 #include "frames/sampling.h"
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
 #include "frames/survey_boxes.h"
+#include "frames/symmetric.h"
 #include "frames/table_blocks.h"
 #include "frames/table_columns.h"
 #include "frames/table_duplicate.h"
@@ -32,6 +37,7 @@
 #include "frames/table_merge.h"
 #include "frames/table_remove.h"
 #include "frames/table_resize.h"
+#include "frames/text_rows.h"
 #include "frames/transpose.h"
 #include "frames/vector_duplicate.h"
 #include "frames/vector_extremes.h"
@@ -40,6 +46,7 @@
 #include "frames/vector_moments.h"
 #include "frames/vector_products.h"
 #include "frames/vector_sums.h"
+#include "frames/vector_table.h"
 #include "frames/vector_variance.h"
 
 #endif

@@ -20,7 +20,8 @@ TEST(DesktopFolder, IsTheOneThatTheShellNames)
 
 #else
 
-#include <cstdlib>
+#include "support/environment.h"
+
 #include <fstream>
 #include <optional>
 #include <string>
@@ -28,39 +29,11 @@ TEST(DesktopFolder, IsTheOneThatTheShellNames)
 #include <unistd.h>
 
 using korvel::platform::desktopFolder;
+using korvel::test::environment_guard;
 using std::filesystem::path;
 
 namespace
 {
-
-/** Sets an environment variable, or removes it, and puts the old value back at the end. */
-class environment_guard
-{
-public:
-    environment_guard(const char* name, const std::optional<std::string>& value) : name_(name)
-    {
-        if (const char* old = std::getenv(name)) {
-            old_ = old;
-        }
-        set(value);
-    }
-    ~environment_guard() { set(old_); }
-    environment_guard(const environment_guard&) = delete;
-    environment_guard& operator=(const environment_guard&) = delete;
-
-private:
-    void set(const std::optional<std::string>& value) const
-    {
-        if (value) {
-            setenv(name_, value->c_str(), 1);
-        } else {
-            unsetenv(name_);
-        }
-    }
-
-    const char* name_;
-    std::optional<std::string> old_;
-};
 
 /** A home folder of its own for each test, with no configuration in it. */
 class DesktopFolder : public ::testing::Test

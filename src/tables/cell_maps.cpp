@@ -1,0 +1,65 @@
+#include "tables/cell_maps.h"
+
+#include "containers/views.h"
+#include "tables/cell_loops.h"
+
+#include <cmath>
+
+namespace
+{
+
+double rootOrMissing(double x)
+{
+    return x < 0.0 ? MISSING_DBL : std::sqrt(x);
+}
+
+} // namespace
+
+void M_LogMatrix(matrix<double>* x, int rows, int cols, matrix<double>* y)
+{
+    korvel::mapCells(korvel::reading(*x), rows, cols, korvel::writing(*y),
+                     [](double cell) { return cell <= 0.0 ? MISSING_DBL : std::log(cell); });
+}
+
+void M_Log10Matrix(matrix<double>* x, int rows, int cols, matrix<double>* y)
+{
+    korvel::mapCells(korvel::reading(*x), rows, cols, korvel::writing(*y),
+                     [](double cell) { return cell <= 0.0 ? MISSING_DBL : std::log10(cell); });
+}
+
+void M_SquareRootAij(matrix<double>* x, int rows, int cols, matrix<double>* y)
+{
+    korvel::mapCells(korvel::reading(*x), rows, cols, korvel::writing(*y), rootOrMissing);
+}
+
+void M_SquareRootAij2(matrix<double>* x, int rows, int cols)
+{
+    M_SquareRootAij(x, rows, cols, x);
+}
+
+void M_SubstractFirstCol2(matrix<double>* x, int rows, int cols)
+{
+    // The first column comes last: the others need it.
+    for (int j = cols - 1; j >= 0; --j) {
+        korvel::withCells(
+            [rows](auto first, auto& cells) {
+                for (int i = 0; i < rows; ++i) {
+                    const bool isMissing = cells[i] == MISSING_DBL || first[i] == MISSING_DBL;
+                    cells.set(i, isMissing ? MISSING_DBL : cells[i] - first[i]);
+                }
+            },
+            korvel::reading(*x).column(0, rows), korvel::writing(*x).column(j, rows));
+    }
+}
+
+short int M_IsInIntervalSPV(matrix<double>** x, int rows, int cols, double lo, double hi, short int bOpen,
+                            short int bSkipMissing)
+{
+    const bool isInside = korvel::allCells(korvel::reading(x), rows, cols, [=](double cell) {
+        if (bSkipMissing == -1 && cell == MISSING_DBL) {
+            return true;
+        }
+        return bOpen == -1 ? lo < cell && cell < hi : lo <= cell && cell <= hi;
+    });
+    return isInside ? -1 : 0;
+}
