@@ -93,12 +93,7 @@ double quantileOf(ranked_values& ranked, double q)
     if (ranked.size() == 0) {
         return MISSING_DBL;
     }
-    if (q == 0.0) {
-        return ranked[0];
-    }
-    if (q == 1.0) {
-        return ranked[ranked.size() - 1];
-    }
+    // A q of 0 or 1 is a whole position as well.
     const double position = (ranked.size() - 1) * q;
     if (isWholePosition(position)) {
         return ranked[truncateToInt(position)];

@@ -5,6 +5,7 @@
 #include "support/guarded.h"
 
 #include <cmath>
+#include <limits>
 #include <vector>
 
 using korvel::test::doubles;
@@ -56,6 +57,14 @@ TEST(FlatQuantiles, ShortcutsGiveElementsExactly)
     EXPECT_TRUE(sameBits(VB_V_Quantile(many.data(), 91, 0.7), 62.0));
 }
 
+TEST(FlatQuantiles, BetweenTwoElementsEachTakesItsShare)
+{
+    // One step from the lower element would give 0.92500000000000004.
+    guarded<double> x{0.3, 2.8};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 0.25), 0.75 * 0.3 + 0.25 * 2.8));
+    EXPECT_FALSE(sameBits(0.75 * 0.3 + 0.25 * 2.8, 0.3 + 0.25 * (2.8 - 0.3)));
+}
+
 TEST(FlatQuantiles, MissingTakesPartAsTheSmallestNumber)
 {
     guarded<double> x{2, MISSING_DBL, 1};
@@ -92,6 +101,26 @@ TEST(FlatQuantiles, WeightedTakesTheFirstValueBeyondItsShare)
     EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.0), 1.0));
     EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 1.0), 3.0));
     EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.9), 3.0));
+}
+
+TEST(FlatQuantiles, WeightedWithOddWeights)
+{
+    // A missing weight is left out of the total of 4, and takes the sum below the target of 2 to the end.
+    guarded<double> x{1, 2, 3, 4};
+    guarded<double> w{1, MISSING_DBL, 1, 2};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.5), 4.0));
+
+    // A target of -1 is passed, and one of 0 hit, before the first element: there a read gives -1.
+    guarded<double> two{1, 2};
+    guarded<double> negative{1, -3};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(two.data(), 2, negative.data(), 0.5), -1.0));
+    guarded<double> none{1, -1};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(two.data(), 2, none.data(), 0.5), 0.0));
+
+    // Weight on a missing element alone is none.
+    guarded<double> missing{MISSING_DBL, 5, 7};
+    guarded<double> onlyThere{1, 0, 0};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(missing.data(), 3, onlyThere.data(), 1.0), MISSING_DBL));
 }
 
 TEST(FlatQuantiles, ConstantWeightsGiveThePlainQuantile)
@@ -142,6 +171,29 @@ TEST(FlatQuantiles, ThirteenSortTheirDataAndShiftTheirPosition)
     EXPECT_EQ(valuesOf(out), doubles(13, MISSING_DBL));
 }
 
+TEST(FlatQuantiles, ThirteenTakeWholePositionsAndEqualNeighboursAsTheyAre)
+{
+    guarded<double> out{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    // 0.7 * 90 + 1 is just below 64; the element at the integer part counts.
+    std::vector<double> many(91);
+    for (int i = 0; i < 91; ++i) {
+        many[static_cast<std::size_t>(i)] = i + 1;
+    }
+    ASSERT_LT(90 * 0.7 + 1, 64.0);
+    Cpp_V_Quantiles13(many.data(), 91, out.data());
+    EXPECT_TRUE(sameBits(valuesOf(out)[8], 63.0));
+
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    guarded<double> equal{infinite, infinite, infinite};
+    Cpp_V_Quantiles13(equal.data(), 3, out.data());
+    EXPECT_EQ(valuesOf(out), doubles(13, infinite));
+
+    // One step from the lower element; shares of both would give 1.5499999999999998.
+    guarded<double> x{0.3, 2.8, 3.1};
+    Cpp_V_Quantiles13(x.data(), 3, out.data());
+    EXPECT_TRUE(sameBits(valuesOf(out)[6], 1.55));
+}
+
 TEST(FlatDeviations, MeanAbsolute)
 {
     guarded<double> x{1, 3, MISSING_DBL, 8};
@@ -172,6 +224,8 @@ TEST(FlatDeviations, MedianAbsoluteIsWeightedUnlessTheWeightsAreConstant)
     EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), uneven.data()), 8.0));
     guarded<short int> one{0, 0, 0, 1};
     EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, one.data(), constant.data()), 2.0));
+    guarded<double> holes{1, 2, 4, MISSING_DBL};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(holes.data(), 4, 0.0, flags.data(), constant.data()), 2.0));
 }
 
 TEST(FlatDeviations, AMissingCentreBecomesTheMedian)
@@ -185,6 +239,8 @@ TEST(FlatDeviations, AMissingCentreBecomesTheMedian)
     EXPECT_TRUE(sameBits(centre, 9.0));
     guarded<double> holes{MISSING_DBL, 2, 9};
     EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(holes.data(), 3, &centre), 0.0));
+    guarded<double> mostlyHoles{MISSING_DBL, MISSING_DBL, 9};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(mostlyHoles.data(), 3, &centre), MISSING_DBL));
 }
 
 TEST(FlatDeviations, WinsorizingPullsInTheTails)
@@ -194,4 +250,9 @@ TEST(FlatDeviations, WinsorizingPullsInTheTails)
     EXPECT_EQ(valuesOf(x), (doubles{1, 2, 3, 4, MISSING_DBL, 10}));
     EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.4, 0.8), 0);
     EXPECT_EQ(valuesOf(x), (doubles{2, 2, 3, 4, MISSING_DBL, 4}));
+
+    // Both bounds come from the data as it was, and what was raised is not lowered again.
+    guarded<double> crossed{1, 2, 3, 4, 5};
+    EXPECT_EQ(Cpp_V_Winsorize2(crossed.data(), 5, 1.0, 0.0), 0);
+    EXPECT_EQ(valuesOf(crossed), (doubles{5, 5, 5, 5, 1}));
 }

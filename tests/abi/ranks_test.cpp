@@ -75,6 +75,11 @@ TEST(FlatRanks, WeightsCountAsRepetitions)
     EXPECT_EQ(valuesOf(y), (doubles{2, 1}));
     EXPECT_EQ(valuesOf(v), (doubles{1, 3}));
     EXPECT_EQ(valuesOf(ranks), (doubles{4, 2}));
+
+    VB_V_GetRanksTiesDbl(y.data(), 2, 1, v.data(), ranks.data(), &ties, sizes.data());
+    EXPECT_EQ(valuesOf(y), (doubles{1, 2})) << "restored at -1 only";
+    EXPECT_EQ(valuesOf(v), (doubles{3, 1}));
+    EXPECT_EQ(valuesOf(ranks), (doubles{2, 4}));
 }
 
 TEST(FlatRanks, HeavyElementsCountAsGroupsUnlessTied)
@@ -139,6 +144,13 @@ TEST(FlatRanks, TiesAreCloserThanTheirWidth)
     VB_V_GetRanksTiesDbl2(x.data(), 3, -1, ranks.data(), &ties, sizes.data());
     EXPECT_EQ(valuesOf(ranks), (doubles{1.5, 1.5, 3}));
     EXPECT_EQ(ties, 1);
+
+    guarded<double> apart{0, 1e-15, 1.9e-15};
+    VB_V_GetRanksTiesDbl2(apart.data(), 3, -1, ranks.data(), &ties, sizes.data());
+    EXPECT_EQ(valuesOf(ranks), (doubles{1, 2.5, 2.5})) << "exactly the width is no tie";
+    guarded<double> close{2e-16, 1e-16, 3e-16};
+    VB_V_GetRanksDbl(close.data(), 3, ranks.data());
+    EXPECT_EQ(valuesOf(ranks), (doubles{2, 1, 3})) << "dense ranks know no ties but equals";
 }
 
 TEST(FlatRanks, PositionsInSquareTables)
@@ -181,6 +193,8 @@ TEST(FlatModes, Codes)
     EXPECT_EQ(VB_V_ModeCatDbl(fractions.data(), 0), MISSING_DBL);
     guarded<double> wide{-5, -5, 1e9};
     EXPECT_EQ(VB_V_ModeCatDbl(wide.data(), 3), 1e9);
+    guarded<double> belowZero{-0.5, -0.5, 1};
+    EXPECT_EQ(VB_V_ModeCatDbl(belowZero.data(), 3), 1.0) << "no code";
 }
 
 TEST(FlatModes, Texts)
@@ -198,6 +212,9 @@ TEST(FlatModes, Texts)
     EXPECT_EQ(textsIn(mode), (texts{u"b"}));
     EXPECT_EQ(Cpp_V_ModeW2(blockOf(labels), 0, w.data(), blockOf(mode)), 0);
     EXPECT_EQ(textsIn(mode), (texts{u""}));
+    guarded<double> zeros{0, 0};
+    EXPECT_EQ(Cpp_V_ModeW2(blockOf(labels), 2, zeros.data(), blockOf(mode)), 0);
+    EXPECT_EQ(textsIn(mode), (texts{u"a"})) << "the greatest sum of weights is 0";
     EXPECT_TRUE(memory.guardsIntact());
 }
 
@@ -246,6 +263,8 @@ TEST(FlatReverse, EveryForm)
     guarded<short int> booleansOut{0, 0, 0};
     EXPECT_EQ(VB_V_ReverseBool(booleans.data(), 3, booleansOut.data()), 0);
     EXPECT_EQ(valuesOf(booleansOut), (shorts{0, 0, -1}));
+    EXPECT_EQ(VB_V_ReverseBool(booleansOut.data(), 3, booleansOut.data()), 0);
+    EXPECT_EQ(valuesOf(booleansOut), (shorts{-1, 0, 0})) << "onto itself";
     EXPECT_EQ(Cpp_V_Reverse2Bool(booleans.data(), 3), 0);
     EXPECT_EQ(valuesOf(booleans), (shorts{0, 0, -1}));
     guarded<int> integers{1, 2, 3};
@@ -307,6 +326,11 @@ TEST(FlatSurveyBoxes, AreCumulative)
     guarded<double> fewOnes{1, 1, 1};
     EXPECT_EQ(boxesOf(few, 3, fewOnes), (doubles{2, 1, 3, 3, 3, 3}));
     EXPECT_EQ(boxesOf(x, 0, ones), (doubles{0, 0, 0, 0, 0, 0}));
+    guarded<double> apart{1, 1 + 1e-11, 1 + 2e-11};
+    EXPECT_EQ(boxesOf(apart, 3, fewOnes), (doubles{1, 1, 2, 2, 3, 3}));
+    guarded<double> drifting{0, 6e-13, 1.2e-12};
+    EXPECT_EQ(boxesOf(drifting, 3, fewOnes), (doubles{2, 2, 3, 3, 3, 3}))
+        << "compared with the level's first";
 }
 
 TEST(FlatSurveyBoxes, OfAGroupCountTheWeightThatStoodAtTheSortedPosition)

@@ -1,6 +1,8 @@
+#include "ordering/apply_order.h"
 #include "ordering/distinct.h"
 #include "ordering/quantiles.h"
 #include "ordering/ranks.h"
+#include "ordering/reverse.h"
 #include "ordering/selection.h"
 #include "ordering/sort_vector.h"
 
@@ -110,4 +112,20 @@ TEST(Ranks, OfEachColumnInTurn)
     EXPECT_EQ(ties[1], 1);
     EXPECT_EQ(sizes.getElement(0, 1), 2.0);
     EXPECT_EQ(std::vector<double>(x.data, x.data + 6), (std::vector<double>{3, 1, 2, 5, 5, 4}));
+}
+
+TEST(ApplyOrder, InPlaceReadsTheTablesOwnSpareSlot)
+{
+    matrix<double> x = vectorOf({1, 2, 3});
+    x.oobValue = 9.0;
+    matrix<double> order = vectorOf({3, 7, 1});
+    SortApply2(&x, 3, 1, &order);
+    EXPECT_EQ(std::vector<double>(x.data, x.data + 3), (std::vector<double>{3, 9, 1}));
+}
+
+TEST(Reverse, InPlaceLeavesAVectorThatDoesNotHoldTheCount)
+{
+    matrix<double> x = vectorOf({1, 2, 3});
+    V_Reverse2(&x, 4);
+    EXPECT_EQ(std::vector<double>(x.data, x.data + 3), (std::vector<double>{1, 2, 3}));
 }

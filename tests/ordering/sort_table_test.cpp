@@ -198,13 +198,13 @@ TEST(SortQ, MissingSortsFirstAscendingAndLastDescending)
 TEST(SortQ, ARangeOutsideTheTableChangesNothing)
 {
     double cells[] = {3, 1, 2};
+    double keys[] = {9, 5, 7};
     matrix<double> table(3, 1, cells, true);
-    matrix<double> key(3, 1, 0.0);
-    key[0] = 9.0;
+    matrix<double> key(3, 1, keys, true);
     for (const auto& [from, to] : {std::pair{0, 2}, std::pair{2, 4}, std::pair{3, 1}, std::pair{-5, -1}}) {
         SortQ(&table, 3, 1, from, to, &key, nullptr, 0, false, true);
         EXPECT_TRUE(std::equal(cells, cells + 3, std::vector<double>{3, 1, 2}.begin()));
-        EXPECT_EQ(key[0], 9.0);
+        EXPECT_TRUE(std::equal(keys, keys + 3, std::vector<double>{9, 5, 7}.begin())) << from;
     }
     SortQ(&table, 3, 1, 1, 1, &key, nullptr, 0, false, true);
     EXPECT_EQ(cells[0], 3.0);
@@ -222,6 +222,34 @@ TEST(SortQByCol, WholeColumnsFollowTheirKeys)
     EXPECT_TRUE(std::equal(cells, cells + 8, std::vector<double>{1, 10, 3, 30, 4, 40, 2, 20}.begin()));
     EXPECT_TRUE(std::equal(keys, keys + 4, std::vector<double>{9, 1, 2, 3}.begin()));
     EXPECT_TRUE(std::equal(more, more + 4, std::vector<double>{5, 7, 8, 6}.begin()));
+}
+
+TEST(SortQByCol, KeepsItsKeysUnlessAskedAndTheRowsBelowThoseThatMove)
+{
+    double cells[] = {1, 10, 2, 20, 3, 30};
+    double keys[] = {3, 2, 1};
+    matrix<double> table(2, 3, cells, true);
+    matrix<double> key(3, 1, keys, true);
+    SortQByCol(&table, 1, 3, 1, 3, &key, nullptr, 0, false, false);
+    EXPECT_TRUE(std::equal(cells, cells + 6, std::vector<double>{3, 10, 2, 20, 1, 30}.begin()));
+    EXPECT_TRUE(std::equal(keys, keys + 3, std::vector<double>{3, 2, 1}.begin()));
+}
+
+TEST(SortByColumn, SortsItsRangeOfRowsOnly)
+{
+    const double start[] = {9, 3, 1, 0, 90, 30, 10, 5};
+    double cells[8];
+    std::copy(start, start + 8, cells);
+    matrix<double> table(4, 2, cells, true);
+    SortQMatrixCol(&table, 4, 2, 1, 2, 3, false);
+    EXPECT_TRUE(std::equal(cells, cells + 8, std::vector<double>{9, 1, 3, 0, 90, 10, 30, 5}.begin()));
+    std::copy(start, start + 8, cells);
+    for (const int keyCol : {0, 3, -1}) {
+        SortQMatrixCol(&table, 4, 2, keyCol, 1, 4, false);
+        EXPECT_TRUE(std::equal(start, start + 8, cells)) << keyCol;
+    }
+    SortQMatrixCol(&table, 4, 2, 1, 3, 2, false);
+    EXPECT_TRUE(std::equal(start, start + 8, cells)) << "a range that ends before it begins";
 }
 
 TEST(SortByColumns, TheWholeTableFormEndsWithColumnOneFirst)
@@ -251,6 +279,19 @@ TEST(SortQVector, SortsItsRangeOnly)
     EXPECT_TRUE(sameBits(x[2], 0.0));
     EXPECT_EQ(x[3], 4.0);
     EXPECT_EQ(x[4], 1.0);
+}
+
+TEST(SortQVector, ARangeOutsideChangesNothing)
+{
+    const double start[] = {3, 2, 1};
+    double cells[] = {3, 2, 1};
+    matrix<double> x(3, 1, cells, true);
+    for (const auto& [from, to] : {std::pair{0, 2}, std::pair{2, 4}, std::pair{3, 1}, std::pair{-5, -1}}) {
+        SortQVector(&x, 3, from, to, false);
+        EXPECT_TRUE(std::equal(start, start + 3, cells)) << from << " to " << to;
+    }
+    SortQVector(&x, 5, 2, 5, false);
+    EXPECT_TRUE(std::equal(start, start + 3, cells)) << "a count that the vector does not hold";
 }
 
 TEST(IsSorted, TellsStrictFromWeak)
@@ -287,4 +328,20 @@ TEST(SortSparse, MovesRowsAndAlwaysRewritesTheKey)
     }
     EXPECT_EQ(table.nnz, 3);
     EXPECT_EQ(companion.getElement(1, 1), 2.0);
+}
+
+TEST(SortSparse, ACompanionThatIsTheTableIsMovedOnce)
+{
+    matrix<double> dense(3, 1, 0.0);
+    dense[0] = 1.0;
+    dense[1] = 2.0;
+    dense[2] = 3.0;
+    matrixSparse table(&dense);
+    matrix<double> key(3, 1, 3.0);
+    key[1] = 1.0;
+    key[2] = 2.0;
+    SortQ(&table, 3, 1, 1, 3, &key, &table, 1, false, true);
+    EXPECT_EQ(table.getElement(0, 0), 2.0);
+    EXPECT_EQ(table.getElement(1, 0), 3.0);
+    EXPECT_EQ(table.getElement(2, 0), 1.0);
 }

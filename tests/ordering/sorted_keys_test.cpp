@@ -143,6 +143,19 @@ TEST_P(SortedKeys, TextsComeOutAsFromAStableSort)
 
 INSTANTIATE_TEST_SUITE_P(Threads, SortedKeys, ::testing::Values(1, 2, 3, 7));
 
+TEST(SortedKeysWithNaN, StayWhereNoComparisonMovesThem)
+{
+    // By insertion: no key is below the NaN, and the NaN is below none.
+    const double keys[] = {3.0, std::numeric_limits<double>::quiet_NaN(), 1.0, 2.0};
+    for (const bool descending : {false, true}) {
+        const korvel::sorted_keys<double> sorted(4, descending, [&](std::int32_t k) { return keys[k]; });
+        EXPECT_EQ(sorted.position(0), 0);
+        EXPECT_EQ(sorted.position(1), 1);
+        EXPECT_EQ(sorted.position(2), descending ? 3 : 2);
+        EXPECT_EQ(sorted.position(3), descending ? 2 : 3);
+    }
+}
+
 TEST(SortedKeysWithNaN, KeepEveryKeyAndTheSameOrderOnAnyNumberOfThreads)
 {
     std::mt19937_64 random(4);
