@@ -55,9 +55,8 @@ template <class T>
 void moveUp(matrix<T>& x, int rows, int cols, int first, int last)
 {
     const int from = std::max(first, 1);
-    const int to = std::min(last, rows);
-    if (from <= to) {
-        copyBlock(reading(x), {to, 0}, writing(x), {from - 1, 0}, rows - to, cols);
+    if (from <= last) {
+        copyBlock(reading(x), {last, 0}, writing(x), {from - 1, 0}, std::int64_t{rows} - last, cols);
     }
 }
 
@@ -80,9 +79,8 @@ void M_RemoveRow(matrix<double>* x, int rows, int cols, int k, matrix<double>* o
 void M_RemoveCols2(matrix<double>* x, int rows, int cols, int first, int last)
 {
     const int from = std::max(first, 1);
-    const int to = std::min(last, cols);
-    if (from <= to) {
-        copyBlock(reading(*x), {0, to}, writing(*x), {0, from - 1}, rows, cols - to);
+    if (from <= last) {
+        copyBlock(reading(*x), {0, last}, writing(*x), {0, from - 1}, rows, std::int64_t{cols} - last);
     }
 }
 

@@ -86,6 +86,8 @@ TEST(FlatTableRemove, ARunOfColumns)
     EXPECT_EQ(removed(2, highest), square);
     EXPECT_EQ(removed(2, 1), square) << "an empty run";
     EXPECT_EQ(removed(4, 4), square) << "no such column";
+    EXPECT_EQ(removed(-3, -1), square) << "no such columns";
+    EXPECT_EQ(removed(0, 0), square) << "no such column";
 }
 
 TEST(FlatTableRemove, ARunOfRows)
@@ -97,6 +99,7 @@ TEST(FlatTableRemove, ARunOfRows)
         EXPECT_EQ(removed(3, 2, highest), square) << "nothing stands below them";
         EXPECT_EQ(removed(3, 2, 1), square) << "an empty run";
         EXPECT_EQ(removed(3, 4, 4), square) << "no such row";
+        EXPECT_EQ(removed(3, -3, -1), square) << "no such rows";
         EXPECT_EQ(removed(0, 1, 1), (codes{12, 13, 13, 21, 22, 23, 31, 32, 33})) << "0 is one column";
     };
     expectRuns([](int cols, int first, int last) {
