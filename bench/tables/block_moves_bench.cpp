@@ -7,6 +7,7 @@
 #include "frames/KORVELMathTools.h"
 #include "support/stop_watch.h"
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstddef>
 #include <cstring>

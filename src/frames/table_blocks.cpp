@@ -10,6 +10,38 @@ namespace
 {
 
 template <class Cell>
+int copyToCorner(Cell* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol, Cell* out)
+{
+    auto block = frame::filling(out, countOf(firstRow, lastRow), countOf(firstCol, lastCol));
+    auto table = frame::besides(block, x, rows, cols);
+    M_CopyBlock(&table, firstRow, lastRow, firstCol, lastCol, &block);
+    frame::bringBack(block, out);
+    return 0;
+}
+
+/** `core` copies a block of chunks to the corner of others. */
+template <class Core>
+int copyBlockOfChunks(Core core, const frame::chunk_list<double>& table, int firstRow, int lastRow,
+                      int firstCol, int lastCol, Hostarray** out)
+{
+    const auto block = frame::chunks(out, countOf(firstCol, lastCol), countOf(firstRow, lastRow));
+    core(table.get(), firstRow, lastRow, firstCol, lastCol, block.get());
+    return 0;
+}
+
+/** `core` copies a block of a table to a place in another. */
+template <class Cell, class Core>
+int copyAndPaste(Core core, Cell* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
+                 Cell* y, int yRows, int yCols, int row, int col)
+{
+    auto other = frame::changing(y, yRows, yCols);
+    auto table = frame::besides(other, x, rows, cols);
+    core(&table, firstRow, lastRow, firstCol, lastCol, &other, row, col);
+    frame::bringBack(other, y);
+    return 0;
+}
+
+template <class Cell>
 int paste(Cell* x, int rows, int cols, Cell* y, int yRows, int yCols, int row, int col)
 {
     auto larger = frame::changing(y, yRows, yCols);
@@ -23,48 +55,34 @@ int paste(Cell* x, int rows, int cols, Cell* y, int yRows, int yCols, int row, i
 int VB_M_CopyBlock(double* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
                    double* out)
 {
-    auto block = frame::filling(out, countOf(firstRow, lastRow), countOf(firstCol, lastCol));
-    auto table = frame::besides(block, x, rows, frame::columns(cols));
-    M_CopyBlock(&table, firstRow, lastRow, firstCol, lastCol, &block);
-    frame::bringBack(block, out);
-    return 0;
+    return copyToCorner(x, rows, frame::columns(cols), firstRow, lastRow, firstCol, lastCol, out);
 }
 
 int VB_M_CopyBlockStr(OLECHAR** x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
                       OLECHAR** out)
 {
-    auto block = frame::filling(out, countOf(firstRow, lastRow), countOf(firstCol, lastCol));
-    auto table = frame::besides(block, x, rows, frame::columns(cols));
-    M_CopyBlock(&table, firstRow, lastRow, firstCol, lastCol, &block);
-    frame::bringBack(block, out);
-    return 0;
+    return copyToCorner(x, rows, frame::columns(cols), firstRow, lastRow, firstCol, lastCol, out);
 }
 
 int VB_M_CopyBlockSPV(Hostarray** x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
                       Hostarray** out)
 {
-    const auto table = frame::chunks(x, cols, rows);
-    const auto block = frame::chunks(out, countOf(firstCol, lastCol), countOf(firstRow, lastRow));
-    M_CopyBlockSPV(table.get(), firstRow, lastRow, firstCol, lastCol, block.get());
-    return 0;
+    const auto core = [](auto... arguments) { M_CopyBlockSPV(arguments...); };
+    return copyBlockOfChunks(core, frame::chunks(x, cols, rows), firstRow, lastRow, firstCol, lastCol, out);
 }
 
 int Cpp_M_CopyBlockSPV2(Hostarray** x, int rows, int cols, int firstRow, int lastRow, int firstCol,
                         int lastCol, Hostarray** out)
 {
-    const auto table = frame::chunks(x, cols, rows);
-    const auto block = frame::chunks(out, countOf(firstCol, lastCol), countOf(firstRow, lastRow));
-    M_CopyBlockSPV2(table.get(), firstRow, lastRow, firstCol, lastCol, block.get());
-    return 0;
+    return copyBlockOfChunks(M_CopyBlockSPV2, frame::chunks(x, cols, rows), firstRow, lastRow, firstCol,
+                             lastCol, out);
 }
 
 int Cpp_M_CopyBlockSPV2_T(Hostarray** x, int n, int firstRow, int lastRow, int firstCol, int lastCol,
                           Hostarray** out)
 {
-    const auto table = frame::triangularChunks(x, n);
-    const auto block = frame::chunks(out, countOf(firstCol, lastCol), countOf(firstRow, lastRow));
-    M_CopyBlockSPV2_T(table.get(), firstRow, lastRow, firstCol, lastCol, block.get());
-    return 0;
+    return copyBlockOfChunks(M_CopyBlockSPV2_T, frame::triangularChunks(x, n), firstRow, lastRow, firstCol,
+                             lastCol, out);
 }
 
 int VB_M_PasteBlock(double* x, int rows, int cols, double* y, int yRows, int yCols, int row, int col)
@@ -80,21 +98,15 @@ int VB_M_PasteBlockLng(int* x, int rows, int cols, int* y, int yRows, int yCols,
 int Cpp_M_CopyPasteBlock(double* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
                          double* y, int yRows, int yCols, int row, int col)
 {
-    auto other = frame::changing(y, yRows, frame::columns(yCols));
-    auto table = frame::besides(other, x, rows, frame::columns(cols));
-    M_CopyPasteBlock(&table, firstRow, lastRow, firstCol, lastCol, &other, row, col);
-    frame::bringBack(other, y);
-    return 0;
+    return copyAndPaste(M_CopyPasteBlock, x, rows, frame::columns(cols), firstRow, lastRow, firstCol, lastCol,
+                        y, yRows, frame::columns(yCols), row, col);
 }
 
 int Cpp_M_CopyPasteBlockStr(OLECHAR** x, int rows, int cols, int firstRow, int lastRow, int firstCol,
                             int lastCol, OLECHAR** y, int yRows, int yCols, int row, int col)
 {
-    auto other = frame::changing(y, yRows, frame::columns(yCols));
-    auto table = frame::besides(other, x, rows, frame::columns(cols));
-    M_CopyPasteBlockStr(&table, firstRow, lastRow, firstCol, lastCol, &other, row, col);
-    frame::bringBack(other, y);
-    return 0;
+    return copyAndPaste(M_CopyPasteBlockStr, x, rows, frame::columns(cols), firstRow, lastRow, firstCol,
+                        lastCol, y, yRows, frame::columns(yCols), row, col);
 }
 
 int Cpp_M_CopyPasteBlockSPV(Hostarray** x, int rows, int cols, int firstRow, int lastRow, int firstCol,

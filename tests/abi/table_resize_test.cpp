@@ -29,9 +29,10 @@ void expectResized(Function resize)
     EXPECT_EQ(resized(3, 2, table, 0, 2, 0), codes{});
     EXPECT_EQ(resized(2, 0, {1, 2}, 3, 0, 3), (codes{1, 2, none})) << "0 is one column in both shapes";
 
-    caller_cells<Cell> inPlace({1, 2, 3, 4, 70, 70});
-    resize(inPlace.data(), 2, 2, inPlace.data(), 3, 2);
-    EXPECT_EQ(inPlace.values(), (codes{1, 2, none, 3, 4, none})) << "over the table itself";
+    caller_cells<Cell> inPlace({1, 2, 3, 4, 5, 6, 70, 70, 70, 70, 70, 70});
+    resize(inPlace.data(), 2, 3, inPlace.data(), 4, 3);
+    EXPECT_EQ(inPlace.values(), (codes{1, 2, none, none, 3, 4, none, none, 5, 6, none, none}))
+        << "over the table itself";
 }
 
 } // namespace
