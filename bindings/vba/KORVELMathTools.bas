@@ -370,6 +370,40 @@ Public Declare PtrSafe Function VB_M_ProductTrADiagVA Lib "KORVELMathTools.dll" 
 Public Declare PtrSafe Function VB_M_ProductADiagVTrA Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
 
+' Product with a diagonal that is given as a vector, c = a * diag(d) * b, each term from left to
+' right.
+Public Declare PtrSafe Function VB_M_ProductADiagVB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef b As Double, _
+    ByVal q As Long, ByRef c As Double) As Long
+
+' Product with a diagonal that is given as a vector, c = a * diag(d) * b', each term from left to
+' right.
+Public Declare PtrSafe Function VB_M_ProductADiagVTrB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef b As Double, _
+    ByVal m As Long, ByRef c As Double) As Long
+
+' ---- products_records.h
+
+' Product of two labelled tables, c = a * b.
+Public Declare PtrSafe Function Cpp_M_ProductAB_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, ByVal q As Long, _
+    ByVal c As LongPtr) As Long
+
+' Product of a transposed labelled table and another, c = a' * b.
+Public Declare PtrSafe Function Cpp_M_ProductTrAB_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, ByVal q As Long, _
+    ByVal c As LongPtr) As Long
+
+' Product of a labelled table and another transposed, c = a * b'.
+Public Declare PtrSafe Function Cpp_M_ProductATrB_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, ByVal m As Long, _
+    ByVal c As LongPtr) As Long
+
+' Product of three labelled tables, c = a * b * a'.
+Public Declare PtrSafe Function Cpp_M_ProductABTrA_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, _
+    ByVal symmetric As Integer, ByVal c As LongPtr) As Long
+
 ' ---- products_triple.h
 
 ' Product of three tables, c = a * b * a'.

@@ -15,6 +15,7 @@
 #include "frames/matrix_dump.h"
 #include "frames/permutations.h"
 #include "frames/products.h"
+#include "frames/products_records.h"
 #include "frames/products_triple.h"
 #include "frames/products_vector.h"
 #include "frames/quantiles.h"

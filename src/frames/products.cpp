@@ -109,3 +109,23 @@ int VB_M_ProductADiagVTrA(double* a, int n, int p, double* d, double* c)
     M_ProductADiagVTrA(&table, n, p, &diagonal, &product);
     return 0;
 }
+
+int VB_M_ProductADiagVB(double* a, int n, int p, double* d, double* b, int q, double* c)
+{
+    auto left = frame::copyIn(a, n, p);
+    auto diagonal = frame::copyIn(d, p);
+    auto right = frame::copyIn(b, p, q);
+    auto product = frame::borrow(c, n, q);
+    M_ProductADiagVB(&left, n, p, &diagonal, &right, q, &product);
+    return 0;
+}
+
+int VB_M_ProductADiagVTrB(double* a, int n, int p, double* d, double* b, int m, double* c)
+{
+    auto left = frame::copyIn(a, n, p);
+    auto diagonal = frame::copyIn(d, p);
+    auto right = frame::copyIn(b, m, p);
+    auto product = frame::borrow(c, n, m);
+    M_ProductADiagVTrB(&left, n, p, &diagonal, &right, m, &product);
+    return 0;
+}

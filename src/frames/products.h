@@ -165,4 +165,32 @@ KORVEL_FLAT int VB_M_ProductTrADiagVA(double* a, int n, int p, double* d, double
  */
 KORVEL_FLAT int VB_M_ProductADiagVTrA(double* a, int n, int p, double* d, double* c);
 
+/**
+ * Product with a diagonal that is given as a vector, c = a * diag(d) * b, each term from left to right.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param d [in] p numbers
+ * @param b [in] numbers, p by q, column after column
+ * @param q columns of b
+ * @param c [out] n by q numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductADiagVB(double* a, int n, int p, double* d, double* b, int q, double* c);
+
+/**
+ * Product with a diagonal that is given as a vector, c = a * diag(d) * b', each term from left to right.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param d [in] p numbers
+ * @param b [in] numbers, m by p, column after column
+ * @param m rows of b
+ * @param c [out] n by m numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductADiagVTrB(double* a, int n, int p, double* d, double* b, int m, double* c);
+
 #endif

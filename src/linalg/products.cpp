@@ -143,3 +143,17 @@ void M_ProductATrBSPV(matrix<double>* A, int n, int p, matrix<double>* B, int m,
 {
     multiplyByTransposed(*A, n, p, *B, m, *C);
 }
+
+void M_ProductADiagVB(matrix<double>* A, int n, int p, matrix<double>* d, matrix<double>* B, int q,
+                      matrix<double>* C)
+{
+    formProduct(n, q, p, product_side(*A, summed::along, n, p), product_side(*B, summed::down, q, p),
+                term_factors::vector(*d), *C);
+}
+
+void M_ProductADiagVTrB(matrix<double>* A, int n, int p, matrix<double>* d, matrix<double>* B, int m,
+                        matrix<double>* C)
+{
+    formProduct(n, m, p, product_side(*A, summed::along, n, p), product_side(*B, summed::along, m, p),
+                term_factors::vector(*d), *C);
+}

@@ -92,4 +92,28 @@ KORVEL_API void M_ProductATrB(matrix<double>* A, int n, int p, matrix<double>* B
 KORVEL_API void M_ProductATrBSPV(matrix<double>* A, int n, int p, matrix<double>* B, int m,
                                  matrix3D<matrix<double>>* C);
 
+/**
+ * C = A·diag(d)·B, the sum over k of `A(i,k) * d(k) * B(k,j)`, from left to right.
+ *
+ * @param A `n` by `p`
+ * @param d `p` elements
+ * @param B `p` by `q`
+ * @param C receives `n` by `q`
+ * @throws std::bad_alloc when memory is short
+ */
+KORVEL_API void M_ProductADiagVB(matrix<double>* A, int n, int p, matrix<double>* d, matrix<double>* B, int q,
+                                 matrix<double>* C);
+
+/**
+ * C = A·diag(d)·B', the sum over k of `A(i,k) * d(k) * B(j,k)`, from left to right.
+ *
+ * @param A `n` by `p`
+ * @param d `p` elements
+ * @param B `m` by `p`
+ * @param C receives `n` by `m`
+ * @throws std::bad_alloc when memory is short
+ */
+KORVEL_API void M_ProductADiagVTrB(matrix<double>* A, int n, int p, matrix<double>* d, matrix<double>* B,
+                                   int m, matrix<double>* C);
+
 #endif

@@ -1,6 +1,7 @@
 #include "containers/missing.h"
 #include "frames/KORVELMathTools.h"
 #include "support/bits.h"
+#include "support/caller_memory.h"
 #include "support/guarded.h"
 
 #include <vector>
@@ -71,6 +72,35 @@ whole_table diagonalOf(const numbers& d)
 guarded<double> roomFor(const whole_table& expected)
 {
     return guarded<double>(numbers(expected.cells.size(), 9.0));
+}
+
+/** A caller's labelled table of the cells. */
+ST_MVect labelled(caller_memory& caller, const whole_table& x)
+{
+    std::vector<ST_Vect> columns;
+    std::vector<std::u16string> names;
+    for (int j = 0; j < x.cols; ++j) {
+        const auto first = x.cells.begin() + x.rows * j;
+        columns.push_back(caller.column(u"x", numbers(first, first + x.rows)));
+        names.push_back(u"x");
+    }
+    return caller.table(columns, names);
+}
+
+numbers cellsOf(const ST_MVect& table)
+{
+    numbers found;
+    for (int j = 0; j < table.nbcols; ++j) {
+        const numbers column = numbersIn<double>(columnOf(table, j).Vect);
+        found.insert(found.end(), column.begin(), column.end());
+    }
+    return found;
+}
+
+whole_table blankLike(whole_table x)
+{
+    x.cells.assign(x.cells.size(), 9.0);
+    return x;
 }
 
 whole_table symmetricTable(int n)
@@ -181,6 +211,65 @@ TEST(FlatProducts, OfATableWithItself)
     guarded<double> adTrA = roomFor(byColumns);
     EXPECT_EQ(VB_M_ProductADiagVTrA(a.data(), 4, 3, along.data(), adTrA.data()), 0);
     EXPECT_EQ(valuesOf(adTrA), byColumns.cells);
+}
+
+TEST(FlatProducts, WithADiagonalBetweenTwoTables)
+{
+    whole_table a = counting(4, 3, 1);
+    whole_table b = counting(3, 2, 4);
+    whole_table c = counting(5, 3, 6);
+    numbers d{4, 7, -2};
+    const whole_table scaled = times(a, diagonalOf(d));
+    guarded<double> first = roomFor(times(scaled, b));
+    EXPECT_EQ(VB_M_ProductADiagVB(a.data(), 4, 3, d.data(), b.data(), 2, first.data()), 0);
+    EXPECT_EQ(valuesOf(first), times(scaled, b).cells);
+    guarded<double> second = roomFor(times(scaled, transposed(c)));
+    EXPECT_EQ(VB_M_ProductADiagVTrB(a.data(), 4, 3, d.data(), c.data(), 5, second.data()), 0);
+    EXPECT_EQ(valuesOf(second), times(scaled, transposed(c)).cells);
+}
+
+TEST(FlatProducts, OfLabelledTables)
+{
+    caller_memory caller;
+    const whole_table a = counting(4, 3, 1);
+    const whole_table b = counting(3, 2, 4);
+    const whole_table c = counting(4, 2, 7);
+    const whole_table d = counting(5, 3, 2);
+    const whole_table inner = symmetricTable(3);
+    ST_MVect left = labelled(caller, a);
+    ST_MVect right = labelled(caller, b);
+    ST_MVect below = labelled(caller, c);
+    ST_MVect rows = labelled(caller, d);
+    ST_MVect middle = labelled(caller, inner);
+    const auto expectCells = [](const ST_MVect& actual, const whole_table& expected) {
+        EXPECT_EQ(cellsOf(actual), expected.cells);
+        EXPECT_EQ(actual.nbcols, expected.cols);
+        EXPECT_EQ(actual.nbrowsmax, expected.rows);
+        EXPECT_EQ(actual.samenbrows, -1);
+    };
+    ST_MVect ab = labelled(caller, blankLike(times(a, b)));
+    ab.nbcols = 0;
+    ab.nbrowsmax = 0;
+    EXPECT_EQ(Cpp_M_ProductAB_ST(&left, 4, 3, &right, 2, &ab), 0);
+    expectCells(ab, times(a, b));
+    ST_MVect trAC = labelled(caller, blankLike(times(transposed(a), c)));
+    EXPECT_EQ(Cpp_M_ProductTrAB_ST(&left, 4, 3, &below, 2, &trAC), 0);
+    expectCells(trAC, times(transposed(a), c));
+    ST_MVect aTrD = labelled(caller, blankLike(times(a, transposed(d))));
+    EXPECT_EQ(Cpp_M_ProductATrB_ST(&left, 4, 3, &rows, 5, &aTrD), 0);
+    expectCells(aTrD, times(a, transposed(d)));
+    const whole_table three = times(times(a, inner), transposed(a));
+    for (const short int symmetric : {short{0}, short{-1}, short{1}}) {
+        ST_MVect result = labelled(caller, blankLike(three));
+        EXPECT_EQ(Cpp_M_ProductABTrA_ST(&left, 4, 3, &middle, symmetric, &result), 0);
+        expectCells(result, three);
+    }
+    const whole_table lopsided = counting(3, 3, 1);
+    ST_MVect crooked = labelled(caller, lopsided);
+    ST_MVect whole = labelled(caller, blankLike(three));
+    Cpp_M_ProductABTrA_ST(&left, 4, 3, &crooked, 1, &whole);
+    expectCells(whole, times(times(a, lopsided), transposed(a)));
+    EXPECT_TRUE(caller.guardsIntact());
 }
 
 TEST(FlatProducts, OfThreeTables)

@@ -2,6 +2,7 @@
 
 #include "linalg/products.h"
 #include "linalg/products_missing.h"
+#include "linalg/products_records.h"
 #include "linalg/products_symmetric.h"
 #include "linalg/products_triple.h"
 #include "linalg/products_vector.h"
@@ -64,6 +65,28 @@ void copyChunks(const matrix3D<table>& from, table& to)
         std::copy_n(column.data, column.nbElem, to.data + std::int64_t{to.nbrows} * j);
     }
     to.oobValue = from.chunks.back().oobValue;
+}
+
+/** A labelled table of its own. */
+cST_MVect<double> recordOf(const table& from)
+{
+    cST_MVect<double> made(from.nbrows, from.nbcols);
+    for (int j = 0; j < from.nbcols; ++j) {
+        std::copy_n(from.data + std::int64_t{from.nbrows} * j, from.nbrows,
+                    made.Vectors[static_cast<std::size_t>(j)].Vect.data);
+    }
+    return made;
+}
+
+void copyRecord(const cST_MVect<double>& from, shape counts, table& to)
+{
+    EXPECT_EQ(from.nbrowsmax, counts.rows);
+    EXPECT_EQ(from.nbcols, counts.cols);
+    for (int j = 0; j < to.nbcols; ++j) {
+        const table& column = from.Vectors[static_cast<std::size_t>(j)].Vect;
+        std::copy_n(column.data, column.nbElem, to.data + std::int64_t{to.nbrows} * j);
+    }
+    to.oobValue = from.Vectors.back().Vect.oobValue;
 }
 
 const auto shapesAB = [](counts c) { return shapes{{c.n, c.p}, {c.p, c.q}}; };
@@ -163,6 +186,89 @@ std::vector<product_member> members()
                            plainATrB(t[0], c.n, c.p, t[1], c.q, C);
                        }
                    }});
+    all.push_back({"ABST", shapesAB, shapeNQ,
+                   [](operands& t, counts c, table& C) {
+                       auto A = recordOf(t[0]);
+                       auto B = recordOf(t[1]);
+                       auto result = recordOf(C);
+                       EXPECT_EQ(M_ProductAB_ST(A, c.n, c.p, B, c.q, result), 0);
+                       copyRecord(result, {c.n, c.q}, C);
+                   },
+                   [](operands& t, counts c, table& C) {
+                       plainSums(c.n, c.q, c.p, storeIn(C), [&](int i, int j, int k) {
+                           return t[0].getElement(i, k) * t[1].getElement(k, j);
+                       });
+                   }});
+    all.push_back({"TrABST",
+                   [](counts c) {
+                       return shapes{{c.n, c.p}, {c.n, c.q}};
+                   },
+                   [](counts c) {
+                       return shape{c.p, c.q};
+                   },
+                   [](operands& t, counts c, table& C) {
+                       auto A = recordOf(t[0]);
+                       auto B = recordOf(t[1]);
+                       auto result = recordOf(C);
+                       M_ProductTrAB_ST(A, c.n, c.p, B, c.q, result);
+                       copyRecord(result, {c.p, c.q}, C);
+                   },
+                   [](operands& t, counts c, table& C) {
+                       plainSums(c.p, c.q, c.n, storeIn(C), [&](int i, int j, int r) {
+                           return t[0].getElement(r, i) * t[1].getElement(r, j);
+                       });
+                   }});
+    all.push_back({"ATrBST", shapesATrB, shapeNQ,
+                   [](operands& t, counts c, table& C) {
+                       auto A = recordOf(t[0]);
+                       auto B = recordOf(t[1]);
+                       auto result = recordOf(C);
+                       M_ProductATrB_ST(A, c.n, c.p, B, c.q, result);
+                       copyRecord(result, {c.n, c.q}, C);
+                   },
+                   [](operands& t, counts c, table& C) {
+                       plainSums(c.n, c.q, c.p, storeIn(C), [&](int i, int j, int k) {
+                           return t[0].getElement(i, k) * t[1].getElement(j, k);
+                       });
+                   }});
+    for (const int flag : {0, 1, -1}) {
+        all.push_back(
+            {"ABTrAST" + std::string(flag < 0    ? "Symmetric"
+                                     : flag == 0 ? ""
+                                                 : "OtherFlag"),
+             [](counts c) {
+                 return shapes{{c.n, c.p}, {c.p, c.p}};
+             },
+             shapeNN,
+             [=](operands& t, counts c, table& C) {
+                 auto A = recordOf(t[0]);
+                 auto B = recordOf(t[1]);
+                 auto result = recordOf(C);
+                 M_ProductABTrA_ST(A, c.n, c.p, B, static_cast<short int>(flag), result);
+                 copyRecord(result, {c.n, c.n}, C);
+             },
+             [=](operands& t, counts c, table& C) { plainABTrA(t[0], c.n, c.p, t[1], flag == -1, C); }, false,
+             false});
+    }
+    const auto plainBetween = [](auto twin) {
+        return [twin](operands& t, counts c, table& C) { twin(t[0], c.n, c.p, t[1], t[2], c.q, C); };
+    };
+    all.push_back(
+        {"ADiagVB",
+         [](counts c) {
+             return shapes{{c.n, c.p}, {c.p, 1}, {c.p, c.q}};
+         },
+         shapeNQ,
+         [](operands& t, counts c, table& C) { M_ProductADiagVB(&t[0], c.n, c.p, &t[1], &t[2], c.q, &C); },
+         plainBetween(plainADiagVB)});
+    all.push_back(
+        {"ADiagVTrB",
+         [](counts c) {
+             return shapes{{c.n, c.p}, {c.p, 1}, {c.q, c.p}};
+         },
+         shapeNQ,
+         [](operands& t, counts c, table& C) { M_ProductADiagVTrB(&t[0], c.n, c.p, &t[1], &t[2], c.q, &C); },
+         plainBetween(plainADiagVTrB)});
     const auto plainSelf = [](auto twin) {
         return [twin](operands& t, counts c, table& C) { twin(t[0], c.n, c.p, C); };
     };
@@ -334,12 +440,14 @@ operands cutDown(const operands& tables, random_cells& cells)
     return made;
 }
 
-/** Those that take no list of columns: its columns must be there. */
+/** Those that take neither a list of columns, which must be there, nor a record, whose columns have their own
+ * lengths. */
 std::vector<product_member> denseMembers()
 {
     std::vector<product_member> dense = members();
-    std::erase_if(dense,
-                  [](const product_member& member) { return member.name.find("SPV") != std::string::npos; });
+    std::erase_if(dense, [](const product_member& member) {
+        return member.name.find("SPV") != std::string::npos || member.name.find("ST") != std::string::npos;
+    });
     return dense;
 }
 

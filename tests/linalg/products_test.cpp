@@ -2,6 +2,7 @@
 
 #include "linalg/product_members.h"
 #include "linalg/products_missing.h"
+#include "linalg/products_records.h"
 #include "linalg/products_symmetric.h"
 #include "linalg/products_triple.h"
 #include "linalg/products_vector.h"
@@ -321,4 +322,22 @@ TEST(IntegerProducts, OfNumbersCutEachSum)
     matrix<int> kept(1, 1, 7);
     M_ProductTrAA(&odd, 1, 0, &kept);
     EXPECT_TRUE(sameIntegers(kept, integersOf(1, 1, {7})));
+}
+
+TEST(RecordProducts, ReachNoColumnThatIsNotThere)
+{
+    cST_MVect<double> A(2, 1);
+    A.Vectors[0].Vect.data[0] = 3.0;
+    A.Vectors[0].Vect.data[1] = 5.0;
+    cST_MVect<double> C(1, 1);
+    M_ProductATrB_ST(A, 2, 2, A, 2, C);
+    // The second column of A reads -1, and of C there is one element.
+    EXPECT_TRUE(sameBits(C.Vectors[0].Vect.data[0], 10.0));
+    EXPECT_TRUE(sameBits(C.Vectors[0].Vect.oobValue, 16.0));
+    EXPECT_EQ(C.nbcols, 2);
+    EXPECT_EQ(C.nbrowsmax, 2);
+    cST_MVect<double> D(2, 1);
+    M_ProductABTrA_ST(A, 2, 1, C, 0, D);
+    EXPECT_TRUE(sameBits(D.Vectors[0].Vect.data[0], 90.0));
+    EXPECT_TRUE(sameBits(D.Vectors[0].Vect.data[1], 150.0));
 }

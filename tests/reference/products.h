@@ -166,6 +166,20 @@ inline void plainADiagVTrA(const matrix<double>& A, int n, int p, const matrix<d
               [&](int i, int j, int k) { return A.getElement(i, k) * d[k] * A.getElement(j, k); });
 }
 
+inline void plainADiagVB(const matrix<double>& A, int n, int p, const matrix<double>& d,
+                         const matrix<double>& B, int q, matrix<double>& C)
+{
+    plainSums(n, q, p, storeIn(C),
+              [&](int i, int j, int k) { return A.getElement(i, k) * d[k] * B.getElement(k, j); });
+}
+
+inline void plainADiagVTrB(const matrix<double>& A, int n, int p, const matrix<double>& d,
+                           const matrix<double>& B, int m, matrix<double>& C)
+{
+    plainSums(n, m, p, storeIn(C),
+              [&](int i, int j, int k) { return A.getElement(i, k) * d[k] * B.getElement(j, k); });
+}
+
 /** For each row i a row w of `middle` sums, and then a row of the result, or half of it and its mirror. */
 template <class First, class Second>
 void plainRows(int rows, int middle, int depth, int cols, bool symmetric, matrix<double>& C, First first,
