@@ -20,10 +20,10 @@ namespace korvel
     return std::int64_t{i} * (i + 1) / 2 + j;
 }
 
-/** Elements of the packed triangle of order `n`. */
+/** Elements of the packed triangle of order `n`; none below 1. */
 [[nodiscard]] constexpr int packedLength(int n) noexcept
 {
-    return static_cast<int>(packedPlace(n, 0));
+    return n > 0 ? static_cast<int>(packedPlace(n, 0)) : 0;
 }
 
 } // namespace korvel

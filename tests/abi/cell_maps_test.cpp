@@ -1,6 +1,7 @@
 #include "frames/KORVELMathTools.h"
 #include "support/bits.h"
 #include "support/caller_tables.h"
+#include "support/guarded.h"
 #include "support/special_values.h"
 
 #include <bit>
@@ -17,10 +18,6 @@ namespace
 {
 
 constexpr double missing = -1.79769313486231e308;
-
-using doubles = std::vector<double>;
-using ints = std::vector<int>;
-using flags = std::vector<short int>;
 
 /** At most one unit in the last place apart, as the systems' logarithms may be; otherwise as `sameBits`. */
 ::testing::AssertionResult nearlySame(double actual, double expected)
@@ -64,33 +61,33 @@ const std::vector<map_case> maps{
 TEST(FlatCellMaps, MapEveryCell)
 {
     for (const map_case& given : maps) {
-        caller_block<double> x(mapped);
-        caller_block<double> y(doubles(12, 5.0));
-        EXPECT_EQ(given.map(x.argument(), 4, 3, y.argument()), 0);
-        const doubles found = y.cells();
+        guarded<double> x(mapped);
+        guarded<double> y(doubles(12, 5.0));
+        EXPECT_EQ(given.map(x.data(), 4, 3, y.data()), 0);
+        const doubles found = valuesOf(y);
         for (std::size_t k = 0; k < 12; ++k) {
             EXPECT_TRUE(nearlySame(found[k], given.expected[k])) << given.name << " of " << mapped[k];
         }
-        EXPECT_TRUE(sameBits(x.cells()[0], 2.0)) << "the source stays";
+        EXPECT_TRUE(sameBits(valuesOf(x)[0], 2.0)) << "the source stays";
 
-        EXPECT_EQ(given.map(x.argument(), 12, 0, x.argument()), 0);
-        const doubles inPlace = x.cells();
+        EXPECT_EQ(given.map(x.data(), 12, 0, x.data()), 0);
+        const doubles inPlace = valuesOf(x);
         for (std::size_t k = 0; k < 12; ++k) {
             EXPECT_TRUE(sameBits(inPlace[k], found[k])) << given.name << ", one array, no columns for one";
         }
 
-        caller_block<double> none(doubles{7, 7});
-        EXPECT_EQ(given.map(x.argument(), 0, 2, none.argument()), 0);
-        EXPECT_EQ(none.cells(), (doubles{7, 7}));
+        guarded<double> none(doubles{7, 7});
+        EXPECT_EQ(given.map(x.data(), 0, 2, none.data()), 0);
+        EXPECT_EQ(valuesOf(none), (doubles{7, 7}));
     }
 }
 
 TEST(FlatCellMaps, SquareRootsInPlace)
 {
     for (const int cols : {1, 0}) {
-        caller_block<double> x(mapped);
-        EXPECT_EQ(Cpp_M_SquareRootAij2(x.argument(), 12, cols), 0);
-        const doubles found = x.cells();
+        guarded<double> x(mapped);
+        EXPECT_EQ(Cpp_M_SquareRootAij2(x.data(), 12, cols), 0);
+        const doubles found = valuesOf(x);
         for (std::size_t k = 0; k < 12; ++k) {
             EXPECT_TRUE(sameBits(found[k], maps[2].expected[k])) << "of " << mapped[k];
         }
@@ -99,12 +96,12 @@ TEST(FlatCellMaps, SquareRootsInPlace)
 
 TEST(FlatCellMaps, SubtractTheFirstColumn)
 {
-    caller_block<double> x(doubles{1, missing, 3, 5, 5, missing, -1, 0.5, 3});
-    EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.argument(), 3, 3), 0);
-    EXPECT_EQ(x.cells(), (doubles{0, missing, 0, 4, missing, missing, -2, missing, 0}));
-    EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.argument(), 0, 3), 0);
-    EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.argument(), 3, 0), 0);
-    EXPECT_EQ(x.cells(), (doubles{0, missing, 0, 4, missing, missing, -2, missing, 0}));
+    guarded<double> x(doubles{1, missing, 3, 5, 5, missing, -1, 0.5, 3});
+    EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.data(), 3, 3), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{0, missing, 0, 4, missing, missing, -2, missing, 0}));
+    EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.data(), 0, 3), 0);
+    EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.data(), 3, 0), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{0, missing, 0, 4, missing, missing, -2, missing, 0}));
 }
 
 TEST(FlatCellMaps, TellWhetherAllCellsLieInAnInterval)
@@ -138,48 +135,48 @@ TEST(FlatCellMaps, TellWhetherAllCellsLieInAnInterval)
     caller_columns x(caller_columns::columns(1, {9, 9}));
     EXPECT_EQ(VB_M_IsInIntervalSPV(x.argument(), 0, 1, 1, 4, 0, 0), -1);
     EXPECT_EQ(VB_M_IsInIntervalSPV(x.argument(), 2, 0, 1, 4, 0, 0), -1);
-    EXPECT_EQ(x.cells(), caller_columns::columns(1, {9, 9}));
+    EXPECT_EQ(x.values(), caller_columns::columns(1, {9, 9}));
 }
 
 TEST(FlatRowMaps, FindTheLargestCellOfARow)
 {
-    caller_block<double> x(
+    guarded<double> x(
         doubles{1, 5, missing, notANumber, 2, 3, 5, missing, 7, notANumber, 3, 4, missing, 9, 1});
-    caller_block<int> positions(ints(5));
-    EXPECT_EQ(Cpp_M_MaxPosByRow(x.argument(), 5, 3, positions.argument()), 0);
-    EXPECT_EQ(positions.cells(), (ints{2, 1, 1, 1, 1}));
-    EXPECT_EQ(Cpp_M_MaxPosByRow(x.argument(), 3, 5, positions.argument()), 0);
-    EXPECT_EQ(positions.cells(), (ints{3, 5, 3, 1, 1}));
-    EXPECT_EQ(Cpp_M_MaxPosByRow(x.argument(), 5, 0, positions.argument()), 0);
-    EXPECT_EQ(positions.cells(), (ints{1, 1, 1, 1, 1}));
-    caller_block<int> none(ints{8});
-    EXPECT_EQ(Cpp_M_MaxPosByRow(x.argument(), 0, 3, none.argument()), 0);
-    EXPECT_EQ(none.cells(), ints{8});
+    guarded<int> positions(ints(5));
+    EXPECT_EQ(Cpp_M_MaxPosByRow(x.data(), 5, 3, positions.data()), 0);
+    EXPECT_EQ(valuesOf(positions), (ints{2, 1, 1, 1, 1}));
+    EXPECT_EQ(Cpp_M_MaxPosByRow(x.data(), 3, 5, positions.data()), 0);
+    EXPECT_EQ(valuesOf(positions), (ints{3, 5, 3, 1, 1}));
+    EXPECT_EQ(Cpp_M_MaxPosByRow(x.data(), 5, 0, positions.data()), 0);
+    EXPECT_EQ(valuesOf(positions), (ints{1, 1, 1, 1, 1}));
+    guarded<int> none(ints{8});
+    EXPECT_EQ(Cpp_M_MaxPosByRow(x.data(), 0, 3, none.data()), 0);
+    EXPECT_EQ(valuesOf(none), ints{8});
 }
 
 TEST(FlatRowMaps, AddWeightedColumnsUp)
 {
-    caller_block<double> x(doubles{1, 2, missing, 10, 20, 30, 0x1p60, 0, 5});
-    caller_block<double> factors(doubles{3, 0.5, 1});
-    caller_block<double> out(doubles(3));
-    EXPECT_EQ(VB_ComputeNewVar(x.argument(), 3, 3, factors.argument(), out.argument()), 0);
-    EXPECT_EQ(out.cells(), (doubles{0x1p60, 16, missing}));
+    guarded<double> x(doubles{1, 2, missing, 10, 20, 30, 0x1p60, 0, 5});
+    guarded<double> factors(doubles{3, 0.5, 1});
+    guarded<double> out(doubles(3));
+    EXPECT_EQ(VB_ComputeNewVar(x.data(), 3, 3, factors.data(), out.data()), 0);
+    EXPECT_EQ(valuesOf(out), (doubles{0x1p60, 16, missing}));
 
-    caller_block<double> lacking(doubles{3, missing});
-    EXPECT_EQ(VB_ComputeNewVar(x.argument(), 2, 2, lacking.argument(), out.argument()), 0);
-    EXPECT_EQ(out.cells(), (doubles{missing, missing, missing}));
-    EXPECT_EQ(VB_ComputeNewVar(x.argument(), 2, 0, factors.argument(), out.argument()), 0);
-    EXPECT_EQ(out.cells(), (doubles{0, 0, missing}));
+    guarded<double> lacking(doubles{3, missing});
+    EXPECT_EQ(VB_ComputeNewVar(x.data(), 2, 2, lacking.data(), out.data()), 0);
+    EXPECT_EQ(valuesOf(out), (doubles{missing, missing, missing}));
+    EXPECT_EQ(VB_ComputeNewVar(x.data(), 2, 0, factors.data(), out.data()), 0);
+    EXPECT_EQ(valuesOf(out), (doubles{0, 0, missing}));
 }
 
 TEST(FlatRowMaps, PickTheRowsThatAreNotNegligible)
 {
-    caller_block<double> x(doubles{3, 0, 1, missing, 2, missing, 4, 0, 2, 5, 1, missing});
-    caller_block<short int> kept(flags(6, 7));
-    EXPECT_EQ(Cpp_FilterOnSumOfSquares(x.argument(), 6, 2, 5.0, kept.argument()), 2);
-    EXPECT_EQ(kept.cells(), (flags{-1, 0, 0, -1, 0, 0}));
-    EXPECT_EQ(Cpp_FilterOnSumOfSquares(x.argument(), 6, 2, 0.0, kept.argument()), 4);
-    EXPECT_EQ(kept.cells(), (flags{-1, 0, -1, -1, -1, 0}));
-    EXPECT_EQ(Cpp_FilterOnSumOfSquares(x.argument(), 0, 2, 0.0, kept.argument()), 0);
-    EXPECT_EQ(kept.cells(), (flags{-1, 0, -1, -1, -1, 0}));
+    guarded<double> x(doubles{3, 0, 1, missing, 2, missing, 4, 0, 2, 5, 1, missing});
+    guarded<short int> kept(shorts(6, 7));
+    EXPECT_EQ(Cpp_FilterOnSumOfSquares(x.data(), 6, 2, 5.0, kept.data()), 2);
+    EXPECT_EQ(valuesOf(kept), (shorts{-1, 0, 0, -1, 0, 0}));
+    EXPECT_EQ(Cpp_FilterOnSumOfSquares(x.data(), 6, 2, 0.0, kept.data()), 4);
+    EXPECT_EQ(valuesOf(kept), (shorts{-1, 0, -1, -1, -1, 0}));
+    EXPECT_EQ(Cpp_FilterOnSumOfSquares(x.data(), 0, 2, 0.0, kept.data()), 0);
+    EXPECT_EQ(valuesOf(kept), (shorts{-1, 0, -1, -1, -1, 0}));
 }

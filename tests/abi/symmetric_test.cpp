@@ -1,5 +1,6 @@
 #include "frames/KORVELMathTools.h"
 #include "support/caller_tables.h"
+#include "support/guarded.h"
 #include "support/special_values.h"
 
 #include <cmath>
@@ -13,20 +14,18 @@ namespace
 
 constexpr double missing = -1.79769313486231e308;
 
-using doubles = std::vector<double>;
-
 /** A square table, dense or as separate columns, so that one test serves both forms of a function. */
 struct dense_form {
-    caller_block<double> block;
+    guarded<double> block;
     int order;
 
     dense_form(const doubles& cells, int n) : block(cells), order(n) {}
-    doubles cells() const { return block.cells(); }
+    doubles cells() const { return valuesOf(block); }
 
-    short int isSymmetric() { return VB_M_IsSymmetric(block.argument(), order); }
-    int symmetrize() { return VB_M_Symmetrize(block.argument(), order, order); }
-    int kind() { return VB_M_CheckIfSimOrDissim(block.argument(), order, order); }
-    int triangle(short int bMirror) { return VB_M_IsTriangular(block.argument(), order, bMirror); }
+    short int isSymmetric() { return VB_M_IsSymmetric(block.data(), order); }
+    int symmetrize() { return VB_M_Symmetrize(block.data(), order, order); }
+    int kind() { return VB_M_CheckIfSimOrDissim(block.data(), order, order); }
+    int triangle(short int bMirror) { return VB_M_IsTriangular(block.data(), order, bMirror); }
 };
 
 struct chunked_form {
@@ -38,7 +37,7 @@ struct chunked_form {
     doubles cells() const
     {
         doubles joined;
-        for (const doubles& column : columns.cells()) {
+        for (const doubles& column : columns.values()) {
             joined.insert(joined.end(), column.begin(), column.end());
         }
         return joined;
@@ -209,38 +208,38 @@ TYPED_TEST(FlatSquare, TellsWhichHalfIsFilledAndMirrorsIt)
 
 TEST(FlatSquareTable, WhichIsNotSquareIsNoProximity)
 {
-    caller_block<double> x(doubles{0, 1, 2, 0, 1, 3});
-    EXPECT_EQ(VB_M_CheckIfSimOrDissim(x.argument(), 3, 2), 0);
-    EXPECT_EQ(VB_M_CheckIfSimOrDissim(x.argument(), 2, 3), 0);
+    guarded<double> x(doubles{0, 1, 2, 0, 1, 3});
+    EXPECT_EQ(VB_M_CheckIfSimOrDissim(x.data(), 3, 2), 0);
+    EXPECT_EQ(VB_M_CheckIfSimOrDissim(x.data(), 2, 3), 0);
     caller_columns y({{0, 1, 2}, {1, 0, 3}});
     EXPECT_EQ(VB_M_CheckIfSimOrDissimSPV(y.argument(), 3, 2), 0);
 }
 
 TEST(FlatSquareTable, IsMadeSymmetricInItsTopLeftCorner)
 {
-    caller_block<double> x(doubles{1, 2, 9, 4, 1, 9});
-    VB_M_Symmetrize(x.argument(), 3, 2);
-    EXPECT_EQ(x.cells(), (doubles{1, 3, 9, 3, 1, 9}));
-    caller_block<double> wide(doubles{1, 2, 4, 1, 9, 9});
-    VB_M_Symmetrize(wide.argument(), 2, 3);
-    EXPECT_EQ(wide.cells(), (doubles{1, 3, 3, 1, 9, 9}));
+    guarded<double> x(doubles{1, 2, 9, 4, 1, 9});
+    VB_M_Symmetrize(x.data(), 3, 2);
+    EXPECT_EQ(valuesOf(x), (doubles{1, 3, 9, 3, 1, 9}));
+    guarded<double> wide(doubles{1, 2, 4, 1, 9, 9});
+    VB_M_Symmetrize(wide.data(), 2, 3);
+    EXPECT_EQ(valuesOf(wide), (doubles{1, 3, 3, 1, 9, 9}));
     caller_columns columns({{1, 2, 9}, {4, 1, 9}});
     VB_M_SymmetrizeSPV(columns.argument(), 3, 2);
-    EXPECT_EQ(columns.cells(), (caller_columns::columns{{1, 3, 9}, {3, 1, 9}}));
+    EXPECT_EQ(columns.values(), (caller_columns::columns{{1, 3, 9}, {3, 1, 9}}));
 }
 
 TEST(FlatSquareTable, HasAConstantDiagonal)
 {
-    caller_block<double> x(doubles{2, 1, 5, 7, 2, 1, 0, 3, 2});
-    EXPECT_EQ(VB_M_IsDiagConstant(x.argument(), 3), -1);
-    caller_block<double> other(doubles{2, 1, 5, 7, 2, 1, 0, 3, std::nextafter(2.0, 3.0)});
-    EXPECT_EQ(VB_M_IsDiagConstant(other.argument(), 3), 0);
-    caller_block<double> none(doubles{missing, 1, 1, missing});
-    EXPECT_EQ(VB_M_IsDiagConstant(none.argument(), 2), -1);
-    caller_block<double> nans(doubles{notANumber, 1, 1, notANumber});
-    EXPECT_EQ(VB_M_IsDiagConstant(nans.argument(), 2), 0);
-    EXPECT_EQ(VB_M_IsDiagConstant(nans.argument(), 1), -1);
-    EXPECT_EQ(VB_M_IsDiagConstant(nans.argument(), 0), -1);
+    guarded<double> x(doubles{2, 1, 5, 7, 2, 1, 0, 3, 2});
+    EXPECT_EQ(VB_M_IsDiagConstant(x.data(), 3), -1);
+    guarded<double> other(doubles{2, 1, 5, 7, 2, 1, 0, 3, std::nextafter(2.0, 3.0)});
+    EXPECT_EQ(VB_M_IsDiagConstant(other.data(), 3), 0);
+    guarded<double> none(doubles{missing, 1, 1, missing});
+    EXPECT_EQ(VB_M_IsDiagConstant(none.data(), 2), -1);
+    guarded<double> nans(doubles{notANumber, 1, 1, notANumber});
+    EXPECT_EQ(VB_M_IsDiagConstant(nans.data(), 2), 0);
+    EXPECT_EQ(VB_M_IsDiagConstant(nans.data(), 1), -1);
+    EXPECT_EQ(VB_M_IsDiagConstant(nans.data(), 0), -1);
 }
 
 TEST(FlatSquareTable, IsPackedRowAfterRow)
@@ -248,32 +247,32 @@ TEST(FlatSquareTable, IsPackedRowAfterRow)
     // 1 . .
     // 2 3 .
     // 4 5 6
-    caller_block<double> x(doubles{1, 2, 4, 77, 3, 5, 77, 77, 6});
-    caller_block<double> v(doubles(6));
-    EXPECT_EQ(Cpp_M_CopySymMatToVector(x.argument(), 3, v.argument()), 0);
-    EXPECT_EQ(v.cells(), (doubles{1, 2, 3, 4, 5, 6}));
-    caller_block<double> y(doubles(9));
-    EXPECT_EQ(Cpp_M_CopyVectorToSymMat(v.argument(), 3, y.argument()), 0);
-    EXPECT_EQ(y.cells(), (doubles{1, 2, 4, 2, 3, 5, 4, 5, 6}));
+    guarded<double> x(doubles{1, 2, 4, 77, 3, 5, 77, 77, 6});
+    guarded<double> v(doubles(6));
+    EXPECT_EQ(Cpp_M_CopySymMatToVector(x.data(), 3, v.data()), 0);
+    EXPECT_EQ(valuesOf(v), (doubles{1, 2, 3, 4, 5, 6}));
+    guarded<double> y(doubles(9));
+    EXPECT_EQ(Cpp_M_CopyVectorToSymMat(v.data(), 3, y.data()), 0);
+    EXPECT_EQ(valuesOf(y), (doubles{1, 2, 4, 2, 3, 5, 4, 5, 6}));
 
-    EXPECT_EQ(Cpp_M_CopySymMatToVector(y.argument(), 3, y.argument()), 0);
-    EXPECT_EQ(y.cells(), (doubles{1, 2, 3, 4, 5, 6, 4, 5, 6})) << "one array for both";
-    EXPECT_EQ(Cpp_M_CopyVectorToSymMat(y.argument(), 3, y.argument()), 0);
-    EXPECT_EQ(y.cells(), (doubles{1, 2, 4, 2, 3, 5, 4, 5, 6})) << "one array for both";
+    EXPECT_EQ(Cpp_M_CopySymMatToVector(y.data(), 3, y.data()), 0);
+    EXPECT_EQ(valuesOf(y), (doubles{1, 2, 3, 4, 5, 6, 4, 5, 6})) << "one array for both";
+    EXPECT_EQ(Cpp_M_CopyVectorToSymMat(y.data(), 3, y.data()), 0);
+    EXPECT_EQ(valuesOf(y), (doubles{1, 2, 4, 2, 3, 5, 4, 5, 6})) << "one array for both";
 
-    EXPECT_EQ(Cpp_M_CopySymMatToVector(x.argument(), 0, v.argument()), 0);
-    EXPECT_EQ(Cpp_M_CopyVectorToSymMat(v.argument(), 0, y.argument()), 0);
-    EXPECT_EQ(v.cells(), (doubles{1, 2, 3, 4, 5, 6}));
-    EXPECT_EQ(y.cells(), (doubles{1, 2, 4, 2, 3, 5, 4, 5, 6}));
+    EXPECT_EQ(Cpp_M_CopySymMatToVector(x.data(), 0, v.data()), 0);
+    EXPECT_EQ(Cpp_M_CopyVectorToSymMat(v.data(), 0, y.data()), 0);
+    EXPECT_EQ(valuesOf(v), (doubles{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(valuesOf(y), (doubles{1, 2, 4, 2, 3, 5, 4, 5, 6}));
 }
 
 TEST(FlatSquareTable, OfSimilaritiesBecomesDissimilarities)
 {
-    caller_block<double> x(doubles{1, 0.25, missing, 0.25, 1, -0.5, 0.75, -0.5, 1});
-    EXPECT_EQ(VB_M_TransformSimToDissim(x.argument(), 3), 0);
-    EXPECT_EQ(x.cells(), (doubles{0, 0.75, missing, 0.75, 0, 1.5, 0.25, 1.5, 0}));
-    caller_block<double> none(doubles{missing});
-    EXPECT_EQ(VB_M_TransformSimToDissim(none.argument(), 1), 0);
-    EXPECT_EQ(VB_M_TransformSimToDissim(x.argument(), 0), 0);
-    EXPECT_EQ(none.cells(), doubles{missing});
+    guarded<double> x(doubles{1, 0.25, missing, 0.25, 1, -0.5, 0.75, -0.5, 1});
+    EXPECT_EQ(VB_M_TransformSimToDissim(x.data(), 3), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{0, 0.75, missing, 0.75, 0, 1.5, 0.25, 1.5, 0}));
+    guarded<double> none(doubles{missing});
+    EXPECT_EQ(VB_M_TransformSimToDissim(none.data(), 1), 0);
+    EXPECT_EQ(VB_M_TransformSimToDissim(x.data(), 0), 0);
+    EXPECT_EQ(valuesOf(none), doubles{missing});
 }

@@ -1,7 +1,9 @@
 #include "frames/KORVELMathTools.h"
 #include "support/automation_watch.h"
 #include "support/bits.h"
+#include "support/caller_cells.h"
 #include "support/caller_tables.h"
+#include "support/guarded.h"
 #include "support/special_values.h"
 
 #include <gtest/gtest.h>
@@ -13,8 +15,6 @@ using namespace korvel::test;
 
 namespace
 {
-
-using std::u16string;
 
 int transpose(double* x, int rows, int cols, double* y)
 {
@@ -45,8 +45,8 @@ int transposeInPlace(OLECHAR** x, int rows, int cols)
 struct transpose_case {
     int rows;
     int cols;
-    std::vector<int> cells;
-    std::vector<int> transposed;
+    codes cells;
+    codes transposed;
 };
 
 const std::vector<transpose_case> cases{
@@ -62,7 +62,7 @@ template <class T>
 class FlatTranspose : public ::testing::Test
 {
 };
-using element_types = ::testing::Types<double, int, u16string>;
+using element_types = ::testing::Types<double, int, text_cell>;
 TYPED_TEST_SUITE(FlatTranspose, element_types);
 
 } // namespace
@@ -70,58 +70,56 @@ TYPED_TEST_SUITE(FlatTranspose, element_types);
 TYPED_TEST(FlatTranspose, TurnsRowsIntoColumns)
 {
     for (const transpose_case& given : cases) {
-        caller_block<TypeParam> x(cellsFor<TypeParam>(given.cells));
-        caller_block<TypeParam> y(std::vector<TypeParam>(given.cells.size()));
-        EXPECT_EQ(transpose(x.argument(), given.rows, given.cols, y.argument()), 0);
-        EXPECT_EQ(y.cells(), cellsFor<TypeParam>(given.transposed)) << given.rows << " by " << given.cols;
-        EXPECT_EQ(x.cells(), cellsFor<TypeParam>(given.cells)) << "the source stays";
+        caller_cells<TypeParam> x(given.cells);
+        caller_cells<TypeParam> y(codes(given.cells.size()));
+        EXPECT_EQ(transpose(x.data(), given.rows, given.cols, y.data()), 0);
+        EXPECT_EQ(y.values(), given.transposed) << given.rows << " by " << given.cols;
+        EXPECT_EQ(x.values(), given.cells) << "the source stays";
     }
 }
 
 TYPED_TEST(FlatTranspose, WorksInPlace)
 {
     for (const transpose_case& given : cases) {
-        caller_block<TypeParam> x(cellsFor<TypeParam>(given.cells));
-        EXPECT_EQ(transposeInPlace(x.argument(), given.rows, given.cols), 0);
-        EXPECT_EQ(x.cells(), cellsFor<TypeParam>(given.transposed)) << given.rows << " by " << given.cols;
+        caller_cells<TypeParam> x(given.cells);
+        EXPECT_EQ(transposeInPlace(x.data(), given.rows, given.cols), 0);
+        EXPECT_EQ(x.values(), given.transposed) << given.rows << " by " << given.cols;
     }
 }
 
 TYPED_TEST(FlatTranspose, MayHaveOneArrayForBoth)
 {
     for (const transpose_case& given : cases) {
-        caller_block<TypeParam> x(cellsFor<TypeParam>(given.cells));
-        EXPECT_EQ(transpose(x.argument(), given.rows, given.cols, x.argument()), 0);
-        EXPECT_EQ(x.cells(), cellsFor<TypeParam>(given.transposed)) << given.rows << " by " << given.cols;
+        caller_cells<TypeParam> x(given.cells);
+        EXPECT_EQ(transpose(x.data(), given.rows, given.cols, x.data()), 0);
+        EXPECT_EQ(x.values(), given.transposed) << given.rows << " by " << given.cols;
     }
 }
 
 TYPED_TEST(FlatTranspose, WithoutRowsLeavesTheOneColumnEmpty)
 {
-    using cells = std::vector<TypeParam>;
-    const TypeParam empty{};
-    caller_block<TypeParam> x(cellsFor<TypeParam>({1, 2, 3}));
-    caller_block<TypeParam> y(cellsFor<TypeParam>({5, 6, 7}));
-    EXPECT_EQ(transpose(x.argument(), 2, 0, y.argument()), 0);
-    EXPECT_EQ(y.cells(), cellsFor<TypeParam>({5, 6, 7})) << "no columns, nothing to write";
-    EXPECT_EQ(transpose(x.argument(), 0, 2, y.argument()), 0);
-    EXPECT_EQ(y.cells(), (cells{empty, empty, cellFor<TypeParam>(7)}));
-    EXPECT_EQ(transposeInPlace(x.argument(), 2, 0), 0);
-    EXPECT_EQ(x.cells(), cellsFor<TypeParam>({1, 2, 3}));
-    EXPECT_EQ(transposeInPlace(x.argument(), 0, 2), 0);
-    EXPECT_EQ(x.cells(), (cells{empty, empty, cellFor<TypeParam>(3)}));
+    caller_cells<TypeParam> x{1, 2, 3};
+    caller_cells<TypeParam> y{5, 6, 7};
+    EXPECT_EQ(transpose(x.data(), 2, 0, y.data()), 0);
+    EXPECT_EQ(y.values(), (codes{5, 6, 7})) << "no columns, nothing to write";
+    EXPECT_EQ(transpose(x.data(), 0, 2, y.data()), 0);
+    EXPECT_EQ(y.values(), (codes{0, 0, 7}));
+    EXPECT_EQ(transposeInPlace(x.data(), 2, 0), 0);
+    EXPECT_EQ(x.values(), (codes{1, 2, 3}));
+    EXPECT_EQ(transposeInPlace(x.data(), 0, 2), 0);
+    EXPECT_EQ(x.values(), (codes{0, 0, 3}));
 }
 
 TEST(FlatTransposedNumbers, KeepTheirBits)
 {
     const std::vector<double> cells{-1.79769313486231e308, notANumber, -0.0, -infinite, 5e-324,
                                     belowSentinel};
-    caller_block<double> x(cells);
-    caller_block<double> y(std::vector<double>(6));
-    VB_M_Transpose(x.argument(), 3, 2, y.argument());
-    VB_M_Transpose2(x.argument(), 3, 2);
-    const auto once = y.cells();
-    const auto inPlace = x.cells();
+    guarded<double> x(cells);
+    guarded<double> y(std::vector<double>(6));
+    VB_M_Transpose(x.data(), 3, 2, y.data());
+    VB_M_Transpose2(x.data(), 3, 2);
+    const auto once = valuesOf(y);
+    const auto inPlace = valuesOf(x);
     for (std::size_t i = 0; i < 3; ++i) {
         for (std::size_t j = 0; j < 2; ++j) {
             EXPECT_TRUE(sameBits(once[j + 2 * i], cells[i + 3 * j]));
@@ -132,12 +130,12 @@ TEST(FlatTransposedNumbers, KeepTheirBits)
 
 TEST(FlatTransposedTexts, KeepABstrThatReadsTheSame)
 {
-    caller_block<u16string> x({u"a", u"b", u"c", u"d"});
-    BSTR const corner = x.argument()[0];
+    text_block x({u"a", u"b", u"c", u"d"});
+    BSTR const corner = x.data()[0];
     const automation_watch watch;
-    VB_M_Transpose2Str(x.argument(), 2, 2);
-    EXPECT_EQ(x.cells(), (std::vector<u16string>{u"a", u"c", u"b", u"d"}));
-    EXPECT_EQ(x.argument()[0], corner);
+    VB_M_Transpose2Str(x.data(), 2, 2);
+    EXPECT_EQ(x.values(), (texts{u"a", u"c", u"b", u"d"}));
+    EXPECT_EQ(x.data()[0], corner);
     EXPECT_TRUE(watch.texts(2, 2));
 }
 
@@ -146,10 +144,10 @@ TEST(FlatTransposedChunks, TurnRowsIntoChunks)
     caller_columns x({{1, 2, 3}, {4, 5, 6}});
     caller_columns y({{0, 0}, {0, 0}, {0, 0}});
     EXPECT_EQ(VB_M_TransposeSPV(x.argument(), 3, 2, y.argument()), 0);
-    EXPECT_EQ(y.cells(), (caller_columns::columns{{1, 4}, {2, 5}, {3, 6}}));
-    EXPECT_EQ(x.cells(), (caller_columns::columns{{1, 2, 3}, {4, 5, 6}}));
+    EXPECT_EQ(y.values(), (caller_columns::columns{{1, 4}, {2, 5}, {3, 6}}));
+    EXPECT_EQ(x.values(), (caller_columns::columns{{1, 2, 3}, {4, 5, 6}}));
 
     caller_columns untouched(caller_columns::columns(1, {7}));
     EXPECT_EQ(VB_M_TransposeSPV(x.argument(), 0, 2, untouched.argument()), 0);
-    EXPECT_EQ(untouched.cells(), caller_columns::columns(1, {7}));
+    EXPECT_EQ(untouched.values(), caller_columns::columns(1, {7}));
 }

@@ -1,6 +1,7 @@
 #include "frames/KORVELMathTools.h"
 #include "support/bits.h"
-#include "support/caller_tables.h"
+#include "support/caller_cells.h"
+#include "support/guarded.h"
 #include "support/special_values.h"
 
 #include <gtest/gtest.h>
@@ -13,8 +14,6 @@ namespace
 {
 
 constexpr double missing = -1.79769313486231e308;
-
-using doubles = std::vector<double>;
 
 int toVector(double* x, int rows, int cols, double* v)
 {
@@ -36,8 +35,8 @@ int toTable(OLECHAR** v, int rows, int cols, OLECHAR** x)
 struct by_row_case {
     int rows;
     int cols;
-    std::vector<int> table;
-    std::vector<int> vector;
+    codes table;
+    codes vector;
 };
 
 const std::vector<by_row_case> cases{
@@ -52,7 +51,7 @@ template <class T>
 class FlatVectorByRow : public ::testing::Test
 {
 };
-using element_types = ::testing::Types<double, std::u16string>;
+using element_types = ::testing::Types<double, text_cell>;
 TYPED_TEST_SUITE(FlatVectorByRow, element_types);
 
 } // namespace
@@ -60,74 +59,74 @@ TYPED_TEST_SUITE(FlatVectorByRow, element_types);
 TYPED_TEST(FlatVectorByRow, GoesToAVectorAndBack)
 {
     for (const by_row_case& given : cases) {
-        const auto table = cellsFor<TypeParam>(given.table);
-        const auto vector = cellsFor<TypeParam>(given.vector);
-        caller_block<TypeParam> x(table);
-        caller_block<TypeParam> v{std::vector<TypeParam>(table.size())};
-        EXPECT_EQ(toVector(x.argument(), given.rows, given.cols, v.argument()), 0);
-        EXPECT_EQ(v.cells(), vector) << given.rows << " by " << given.cols;
-        EXPECT_EQ(x.cells(), table);
+        const codes& table = given.table;
+        const codes& vector = given.vector;
+        caller_cells<TypeParam> x(table);
+        caller_cells<TypeParam> v(codes(table.size()));
+        EXPECT_EQ(toVector(x.data(), given.rows, given.cols, v.data()), 0);
+        EXPECT_EQ(v.values(), vector) << given.rows << " by " << given.cols;
+        EXPECT_EQ(x.values(), table);
 
-        caller_block<TypeParam> back{std::vector<TypeParam>(table.size())};
-        EXPECT_EQ(toTable(v.argument(), given.rows, given.cols, back.argument()), 0);
-        EXPECT_EQ(back.cells(), table) << given.rows << " by " << given.cols;
-        EXPECT_EQ(v.cells(), vector);
+        caller_cells<TypeParam> back(codes(table.size()));
+        EXPECT_EQ(toTable(v.data(), given.rows, given.cols, back.data()), 0);
+        EXPECT_EQ(back.values(), table) << given.rows << " by " << given.cols;
+        EXPECT_EQ(v.values(), vector);
 
-        EXPECT_EQ(toVector(x.argument(), given.rows, given.cols, x.argument()), 0);
-        EXPECT_EQ(x.cells(), vector) << "one array for both";
-        EXPECT_EQ(toTable(x.argument(), given.rows, given.cols, x.argument()), 0);
-        EXPECT_EQ(x.cells(), table) << "one array for both";
+        EXPECT_EQ(toVector(x.data(), given.rows, given.cols, x.data()), 0);
+        EXPECT_EQ(x.values(), vector) << "one array for both";
+        EXPECT_EQ(toTable(x.data(), given.rows, given.cols, x.data()), 0);
+        EXPECT_EQ(x.values(), table) << "one array for both";
     }
 }
 
 TYPED_TEST(FlatVectorByRow, WithoutRowsWritesNothing)
 {
-    const auto cells = cellsFor<TypeParam>({1, 2});
-    caller_block<TypeParam> x(cells);
-    caller_block<TypeParam> v(cells);
-    EXPECT_EQ(toVector(x.argument(), 0, 2, v.argument()), 0);
-    EXPECT_EQ(toTable(v.argument(), 0, 2, x.argument()), 0);
-    EXPECT_EQ(x.cells(), cells);
-    EXPECT_EQ(v.cells(), cells);
+    const codes cells{1, 2};
+    caller_cells<TypeParam> x(cells);
+    caller_cells<TypeParam> v(cells);
+    EXPECT_EQ(toVector(x.data(), 0, 2, v.data()), 0);
+    EXPECT_EQ(toTable(v.data(), 0, 2, x.data()), 0);
+    EXPECT_EQ(x.values(), cells);
+    EXPECT_EQ(v.values(), cells);
 }
 
 TEST(FlatVectorByColumn, IsTheTableInLinearOrder)
 {
     const doubles cells{1, missing, -0.0, notANumber, 5, 6};
-    caller_block<double> x(cells);
-    caller_block<double> v(doubles(6));
-    EXPECT_EQ(Cpp_MatToVect(x.argument(), 2, 3, v.argument()), 0);
-    const doubles found = v.cells();
+    guarded<double> x(cells);
+    guarded<double> v(doubles(6));
+    EXPECT_EQ(Cpp_MatToVect(x.data(), 2, 3, v.data()), 0);
+    const doubles found = valuesOf(v);
     for (std::size_t k = 0; k < 6; ++k) {
         EXPECT_TRUE(sameBits(found[k], cells[k]));
     }
-    caller_block<double> none(doubles{7});
-    EXPECT_EQ(Cpp_MatToVect(x.argument(), 0, 3, none.argument()), 0);
-    EXPECT_EQ(Cpp_MatToVect(x.argument(), 2, 0, none.argument()), 0);
-    EXPECT_EQ(none.cells(), doubles{7});
+    guarded<double> none(doubles{7});
+    EXPECT_EQ(Cpp_MatToVect(x.data(), 0, 3, none.data()), 0);
+    EXPECT_EQ(Cpp_MatToVect(x.data(), 2, 0, none.data()), 0);
+    EXPECT_EQ(valuesOf(none), doubles{7});
 }
 
 TEST(FlatVectorByColumn, ReturnsToATableWithItsMissingCells)
 {
-    caller_block<double> v(doubles{1, 2, 3, 4, 5, 6});
-    caller_block<double> pattern(doubles{0, missing, 9, notANumber, -0.0, missing});
-    caller_block<double> x(doubles(6));
-    EXPECT_EQ(Cpp_VectToMat(v.argument(), pattern.argument(), 3, 2, x.argument()), 0);
-    EXPECT_EQ(x.cells(), (doubles{1, missing, 3, 4, 5, missing}));
-    EXPECT_EQ(v.cells(), (doubles{1, 2, 3, 4, 5, 6}));
+    guarded<double> v(doubles{1, 2, 3, 4, 5, 6});
+    guarded<double> pattern(doubles{0, missing, 9, notANumber, -0.0, missing});
+    guarded<double> x(doubles(6));
+    EXPECT_EQ(Cpp_VectToMat(v.data(), pattern.data(), 3, 2, x.data()), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{1, missing, 3, 4, 5, missing}));
+    EXPECT_EQ(valuesOf(v), (doubles{1, 2, 3, 4, 5, 6}));
 
-    caller_block<double> none(doubles{7});
-    EXPECT_EQ(Cpp_VectToMat(v.argument(), pattern.argument(), 0, 2, none.argument()), 0);
-    EXPECT_EQ(Cpp_VectToMat(v.argument(), pattern.argument(), 2, 0, none.argument()), 0);
-    EXPECT_EQ(none.cells(), doubles{7});
+    guarded<double> none(doubles{7});
+    EXPECT_EQ(Cpp_VectToMat(v.data(), pattern.data(), 0, 2, none.data()), 0);
+    EXPECT_EQ(Cpp_VectToMat(v.data(), pattern.data(), 2, 0, none.data()), 0);
+    EXPECT_EQ(valuesOf(none), doubles{7});
 }
 
 TEST(FlatVectorByColumn, GoesThereAndBack)
 {
     const doubles cells{1, missing, 3, missing, 5, 6};
-    caller_block<double> x(cells);
-    caller_block<double> v(doubles(6));
-    Cpp_MatToVect(x.argument(), 2, 3, v.argument());
-    Cpp_VectToMat(v.argument(), x.argument(), 2, 3, v.argument());
-    EXPECT_EQ(v.cells(), cells);
+    guarded<double> x(cells);
+    guarded<double> v(doubles(6));
+    Cpp_MatToVect(x.data(), 2, 3, v.data());
+    Cpp_VectToMat(v.data(), x.data(), 2, 3, v.data());
+    EXPECT_EQ(valuesOf(v), cells);
 }

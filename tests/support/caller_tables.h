@@ -1,13 +1,12 @@
 /**
  * @file
- * A caller's tables in the forms that flat functions take, with guards round every block: one type of block
- * for every element type, so that a test can run over all of them, and tables of separate columns.
+ * A caller's texts, and tables of separate columns of numbers, with guards round every block. Where small
+ * whole numbers will do for cells of every type, `caller_cells.h` has blocks of all types.
  */
 #ifndef KORVEL_TESTS_SUPPORT_CALLER_TABLES_H
 #define KORVEL_TESTS_SUPPORT_CALLER_TABLES_H
 
 #include "support/caller_memory.h"
-#include "support/guarded.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -18,31 +17,18 @@
 namespace korvel::test
 {
 
-/** A block of cells; `argument()` is what a flat function gets. */
-template <class T>
-class caller_block
+/** A block of texts; `data()` is what a flat function gets. */
+class text_block
 {
 public:
-    explicit caller_block(const std::vector<T>& cells) : cells_(cells) {}
+    using texts = std::vector<std::u16string>;
 
-    T* argument() { return cells_.data(); }
+    explicit text_block(const texts& values) : places_(memory_.texts(values)) {}
 
-    /** The cells, after a check that nothing round them was written. */
-    std::vector<T> cells() const { return valuesOf(cells_); }
+    OLECHAR** data() { return static_cast<OLECHAR**>(places_->pvData); }
 
-private:
-    guarded<T> cells_;
-};
-
-template <>
-class caller_block<std::u16string>
-{
-public:
-    explicit caller_block(const std::vector<std::u16string>& cells) : places_(memory_.texts(cells)) {}
-
-    OLECHAR** argument() { return static_cast<OLECHAR**>(places_->pvData); }
-
-    std::vector<std::u16string> cells() const
+    /** The texts, after a check that nothing round them was written. */
+    texts values() const
     {
         EXPECT_TRUE(memory_.guardsIntact());
         return textsIn(places_);
@@ -71,7 +57,7 @@ public:
 
     Hostarray** argument() { return reinterpret_cast<Hostarray**>(&records_); }
 
-    columns cells() const
+    columns values() const
     {
         EXPECT_TRUE(memory_.guardsIntact());
         columns found;
@@ -84,26 +70,6 @@ private:
     std::vector<SAFEARRAY*> arrays_;
     SAFEARRAY* records_ = nullptr;
 };
-
-/** A cell of any type for a small number. */
-template <class T>
-T cellFor(int number)
-{
-    if constexpr (std::is_arithmetic_v<T>) {
-        return static_cast<T>(number);
-    } else {
-        return std::u16string(1, static_cast<char16_t>(u'a' + number));
-    }
-}
-
-/** Cells of any type for small numbers. */
-template <class T>
-std::vector<T> cellsFor(const std::vector<int>& numbers)
-{
-    std::vector<T> cells;
-    std::transform(numbers.begin(), numbers.end(), std::back_inserter(cells), cellFor<T>);
-    return cells;
-}
 
 } // namespace korvel::test
 
