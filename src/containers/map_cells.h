@@ -1,6 +1,6 @@
 /**
  * @file
- * One expression for every cell of a table.
+ * One expression, or one test, for every cell of a table.
  */
 #ifndef KORVEL_CONTAINERS_MAP_CELLS_H
 #define KORVEL_CONTAINERS_MAP_CELLS_H
@@ -38,6 +38,28 @@ void mapCells(int rows, int cols, Cell cell, const To& to, const From&... from)
 {
     mapColumns(
         rows, cols, [&](int) { return cell; }, to, from...);
+}
+
+/** Whether `isGood` holds for every cell of the table. */
+template <class From, class Test>
+[[nodiscard]] bool allCells(int rows, int cols, Test isGood, const From& from)
+{
+    for (int j = 0; j < cols; ++j) {
+        const bool good = withCells(
+            [&](auto& in) {
+                for (int i = 0; i < rows; ++i) {
+                    if (!isGood(in[i])) {
+                        return false;
+                    }
+                }
+                return true;
+            },
+            from.column(j, rows));
+        if (!good) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace korvel

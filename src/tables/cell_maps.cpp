@@ -1,35 +1,27 @@
 #include "tables/cell_maps.h"
 
-#include "containers/views.h"
-#include "tables/cell_loops.h"
+#include "containers/map_cells.h"
+#include "statistics/running_variance.h"
 
 #include <cmath>
 
-namespace
-{
-
-double rootOrMissing(double x)
-{
-    return x < 0.0 ? MISSING_DBL : std::sqrt(x);
-}
-
-} // namespace
-
 void M_LogMatrix(matrix<double>* x, int rows, int cols, matrix<double>* y)
 {
-    korvel::mapCells(korvel::reading(*x), rows, cols, korvel::writing(*y),
-                     [](double cell) { return cell <= 0.0 ? MISSING_DBL : std::log(cell); });
+    korvel::mapCells(
+        rows, cols, [](double cell) { return cell <= 0.0 ? MISSING_DBL : std::log(cell); },
+        korvel::writing(*y), korvel::reading(*x));
 }
 
 void M_Log10Matrix(matrix<double>* x, int rows, int cols, matrix<double>* y)
 {
-    korvel::mapCells(korvel::reading(*x), rows, cols, korvel::writing(*y),
-                     [](double cell) { return cell <= 0.0 ? MISSING_DBL : std::log10(cell); });
+    korvel::mapCells(
+        rows, cols, [](double cell) { return cell <= 0.0 ? MISSING_DBL : std::log10(cell); },
+        korvel::writing(*y), korvel::reading(*x));
 }
 
 void M_SquareRootAij(matrix<double>* x, int rows, int cols, matrix<double>* y)
 {
-    korvel::mapCells(korvel::reading(*x), rows, cols, korvel::writing(*y), rootOrMissing);
+    korvel::mapCells(rows, cols, korvel::rootOrMissing, korvel::writing(*y), korvel::reading(*x));
 }
 
 void M_SquareRootAij2(matrix<double>* x, int rows, int cols)
@@ -55,11 +47,11 @@ void M_SubstractFirstCol2(matrix<double>* x, int rows, int cols)
 short int M_IsInIntervalSPV(matrix<double>** x, int rows, int cols, double lo, double hi, short int bOpen,
                             short int bSkipMissing)
 {
-    const bool isInside = korvel::allCells(korvel::reading(x), rows, cols, [=](double cell) {
+    const auto isInside = [=](double cell) {
         if (bSkipMissing == -1 && cell == MISSING_DBL) {
             return true;
         }
         return bOpen == -1 ? lo < cell && cell < hi : lo <= cell && cell <= hi;
-    });
-    return isInside ? -1 : 0;
+    };
+    return korvel::allCells(rows, cols, isInside, korvel::reading(x)) ? -1 : 0;
 }

@@ -1,7 +1,6 @@
 #include "tables/fill.h"
 
-#include "containers/views.h"
-#include "tables/cell_loops.h"
+#include "containers/map_cells.h"
 
 #include <algorithm>
 #include <array>
@@ -80,6 +79,7 @@ int InitVectorToTrue(short int* flags, int n)
 
 void M_SetBooleanIfLng(matrix<int>* x, int rows, int cols, int value, matrix<short int>* flags)
 {
-    korvel::mapCells(korvel::reading(*x), rows, cols, korvel::writing(*flags),
-                     [value](int cell) { return cell == value ? short{-1} : short{0}; });
+    korvel::mapCells(
+        rows, cols, [value](int cell) { return cell == value ? short{-1} : short{0}; },
+        korvel::writing(*flags), korvel::reading(*x));
 }

@@ -1,7 +1,6 @@
 #include "tables/proximity.h"
 
-#include "containers/views.h"
-#include "tables/cell_loops.h"
+#include "containers/map_cells.h"
 
 #include <algorithm>
 
@@ -67,6 +66,7 @@ void M_TransformSimToDissim(matrix<double>*& x, int n)
             },
             korvel::reading(*x).column(j, n));
     }
-    korvel::mapCells(korvel::reading(*x), n, n, korvel::writing(*x),
-                     [largest](double cell) { return cell == MISSING_DBL ? MISSING_DBL : largest - cell; });
+    korvel::mapCells(
+        n, n, [largest](double cell) { return cell == MISSING_DBL ? MISSING_DBL : largest - cell; },
+        korvel::writing(*x), korvel::reading(*x));
 }
