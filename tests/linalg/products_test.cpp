@@ -256,8 +256,9 @@ TEST(IntegerProducts, HaveTheBitsOfThePlainLoop)
     EXPECT_TRUE(sameIntegers(C, expected)) << "tables smaller than the counts";
     matrix<int> larger(4, 3, 5);
     matrix<int> alike(4, 3, 5);
-    M_ProductAB(&A, 2, 1, &A, 1, &larger);
-    plainABInt(A, 2, 1, A, 1, alike);
+    matrix<int> row = integersOf(1, 2, {3, 4});
+    M_ProductAB(&A, 2, 1, &row, 2, &larger);
+    plainABInt(A, 2, 1, row, 2, alike);
     EXPECT_TRUE(sameIntegers(larger, alike)) << "a larger result";
 }
 
