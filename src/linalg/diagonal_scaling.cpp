@@ -1,6 +1,7 @@
 #include "linalg/diagonal_scaling.h"
 
 #include "containers/map_cells.h"
+#include "linalg/clear_result.h"
 #include "linalg/transposed_cells.h"
 
 #include <utility>
@@ -52,7 +53,7 @@ void scaleBoth(const matrix<double>& d1, int n, const From& from, int p, const m
 
 void M_ProductADiag(matrix<double>* A, int n, int p, matrix<double>* D, matrix<double>* C)
 {
-    C->Redim(n, p, 0.0);
+    korvel::clearResult(*C, n, p);
     const auto timesDiagonal = [D](int k) {
         return [factor = D->getElement(k, k)](double cell) { return cell * factor; };
     };
@@ -61,7 +62,7 @@ void M_ProductADiag(matrix<double>* A, int n, int p, matrix<double>* D, matrix<d
 
 void M_ProductTrADiag(matrix<double>* A, int n, int p, matrix<double>* D, matrix<double>* C)
 {
-    C->Redim(p, n, 0.0);
+    korvel::clearResult(*C, p, n);
     const auto timesDiagonal = [D](int i) {
         return [factor = D->getElement(i, i)](double cell) { return cell * factor; };
     };

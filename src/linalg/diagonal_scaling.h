@@ -5,8 +5,11 @@
  *
  * Sizes are passed beside each table, rows before columns, and may be smaller than the table's own. Access is
  * checked: a cell outside a table reads its `oobValue`, and every store also leaves its value in the result's
- * `oobValue`. The result may be `A` unless it is transposed. Counts below 1 do nothing more than to give a
- * result that is resized its zeros.
+ * `oobValue`. The result may be `A` unless it is cleared or transposed. Counts below 1 do nothing else than
+ * to clear.
+ *
+ * A result that is cleared first is given the counts asked for and filled with 0.0 when it has too few rows
+ * or columns; a larger one keeps its shape, and as many of its first elements as are asked for become 0.0.
  */
 #ifndef KORVEL_LINALG_DIAGONAL_SCALING_H
 #define KORVEL_LINALG_DIAGONAL_SCALING_H
@@ -22,7 +25,7 @@
  * @param n rows
  * @param p columns
  * @param D `p` by `p`, of which the diagonal is read
- * @param C receives `n` by `p` cells; first resized to that and filled with 0.0. Not `A` or `D`
+ * @param C receives `n` by `p` cells; cleared first. Not `A` or `D`
  * @throws std::bad_alloc when memory is short
  */
 KORVEL_API void M_ProductADiag(matrix<double>* A, int n, int p, matrix<double>* D, matrix<double>* C);
@@ -34,7 +37,7 @@ KORVEL_API void M_ProductADiag(matrix<double>* A, int n, int p, matrix<double>* 
  * @param n rows
  * @param p columns
  * @param D `n` by `n`, of which the diagonal is read
- * @param C receives `p` by `n` cells; first resized to that and filled with 0.0. Not `A` or `D`
+ * @param C receives `p` by `n` cells; cleared first. Not `A` or `D`
  * @throws std::bad_alloc when memory is short
  */
 KORVEL_API void M_ProductTrADiag(matrix<double>* A, int n, int p, matrix<double>* D, matrix<double>* C);

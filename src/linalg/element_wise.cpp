@@ -2,6 +2,7 @@
 
 #include "containers/conversion.h"
 #include "containers/map_cells.h"
+#include "linalg/clear_result.h"
 #include "linalg/transposed_cells.h"
 
 #include <algorithm>
@@ -66,7 +67,7 @@ void M_ScalarsA2(matrixSparse* A, int n, int p, double s)
 
 void M_ScalarsTrA(matrix<double>* A, int n, int p, double s, matrix<double>* C)
 {
-    C->Redim(p, n, 0.0);
+    korvel::clearResult(*C, p, n);
     korvel::mapTransposed(
         n, p, [s](int) { return times(s); }, *A, *C);
 }

@@ -5,6 +5,9 @@
  * Sizes are passed beside each table, rows before columns, and may be smaller than the table's own. Access is
  * checked: a cell outside a table reads its `oobValue`, and every store also leaves its value in the result's
  * `oobValue`. Cells are visited column after column. Counts below 1 do nothing.
+ *
+ * A result that is cleared first is given the counts asked for and filled with 0.0 when it has too few rows
+ * or columns; a larger one keeps its shape, and as many of its first elements as are asked for become 0.0.
  */
 #ifndef KORVEL_LINALG_ELEMENT_WISE_H
 #define KORVEL_LINALG_ELEMENT_WISE_H
@@ -48,7 +51,7 @@ KORVEL_API void M_ScalarsA2(matrixSparse* A, int n, int p, double s);
  * @param n rows
  * @param p columns
  * @param s the factor
- * @param C receives `p` by `n` cells; first resized to that and filled with 0.0. Not `A`
+ * @param C receives `p` by `n` cells; cleared first. Not `A`
  * @throws std::bad_alloc when memory is short
  */
 KORVEL_API void M_ScalarsTrA(matrix<double>* A, int n, int p, double s, matrix<double>* C);

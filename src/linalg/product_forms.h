@@ -8,6 +8,7 @@
 #define KORVEL_LINALG_PRODUCT_FORMS_H
 
 #include "containers/views.h"
+#include "linalg/clear_result.h"
 #include "linalg/kernels/product.h"
 
 #include <algorithm>
@@ -18,22 +19,6 @@
 
 namespace korvel
 {
-
-/**
- * Makes ready a result that is to start from zeros: one with too few rows or columns is given the counts
- * asked for and filled with zeros; any other keeps its shape, and its first `rows * cols` elements in storage
- * order become 0.
- */
-template <class T>
-void clearResult(matrix<T>& result, int rows, int cols)
-{
-    if (result.nbrows < rows || result.nbcols < cols) {
-        result.Redim(rows, cols, T{});
-    } else {
-        const std::ptrdiff_t count = std::ptrdiff_t{std::max(rows, 0)} * std::max(cols, 0);
-        std::fill_n(result.data, count, T{});
-    }
-}
 
 /** Forms a product in the kernel, on this thread. */
 void multiply(const kernels::product& form);

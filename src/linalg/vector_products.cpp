@@ -1,6 +1,7 @@
 #include "linalg/vector_products.h"
 
 #include "containers/map_cells.h"
+#include "linalg/clear_result.h"
 #include "statistics/vector_sums.h"
 
 #include <utility>
@@ -78,7 +79,7 @@ void V_ProductV1V22(matrix<double>* x1, int n, matrix<double>* x2)
 
 void V_ProductV1TrV2(matrix<double>* x1, int n, matrix<double>* x2, matrix<double>* C)
 {
-    C->Redim(n, n, 0.0);
+    korvel::clearResult(*C, n, n);
     for (int j = 0; j < n; ++j) {
         const double factor = std::as_const(*x2)[j];
         withCells(

@@ -41,7 +41,8 @@ KORVEL_API void V_ProductV1V22(matrix<double>* x1, int n, matrix<double>* x2);
  * @param x1 vector of `n`
  * @param n  number of elements of both
  * @param x2 vector of `n`
- * @param C  receives `n` by `n` cells; first resized to that and filled with 0.0
+ * @param C  receives `n` by `n` cells. Cleared first: with too few rows or columns it is given these counts
+ * and filled with 0.0; a larger one keeps its shape, and its first `n * n` elements become 0.0
  * @throws std::bad_alloc when memory is short
  */
 KORVEL_API void V_ProductV1TrV2(matrix<double>* x1, int n, matrix<double>* x2, matrix<double>* C);

@@ -32,15 +32,15 @@ TEST(DiagonalScaling, ColumnsTimesTheDiagonalOfATable)
 {
     forRandomTables([](random_cells& cells, const table_sizes& s) {
         operands x(cells, s);
-        matrix<double> actual;
-        matrix<double> expected(s.n, s.p, 0.0);
+        matrix<double> actual(s.n, s.p, 0.5);
+        matrix<double> expected(s.n, s.p, 0.5);
         M_ProductADiag(&x.a, s.n, s.p, &x.square, &actual);
         reference::fill(expected, s.n, s.p,
                         [&](int i, int k) { return x.a.getElement(i, k) * x.square.getElement(k, k); });
         EXPECT_TRUE(sameTable(actual, expected));
 
-        matrix<double> transposed;
-        matrix<double> expectedTransposed(s.p, s.n, 0.0);
+        matrix<double> transposed(s.p, s.n, 0.5);
+        matrix<double> expectedTransposed(s.p, s.n, 0.5);
         M_ProductTrADiag(&x.a, s.n, s.p, &x.square, &transposed);
         reference::fill(expectedTransposed, s.p, s.n,
                         [&](int k, int i) { return x.a.getElement(i, k) * x.square.getElement(i, i); });
@@ -136,4 +136,21 @@ TEST(DiagonalScaling, AMissingFactorMakesItsRowOrColumnMissing)
     EXPECT_TRUE(sameBits(c.getElement(0, 1), 6.0));
     EXPECT_TRUE(sameBits(c.getElement(1, 0), MISSING_DBL));
     EXPECT_TRUE(sameBits(c.getElement(1, 1), MISSING_DBL));
+}
+
+TEST(DiagonalScaling, ALargerResultKeepsItsShapeAndOnlyItsFirstElementsBecomeZero)
+{
+    matrix<double> a(2, 2, 3.0);
+    matrix<double> d(2, 2, 2.0);
+    matrix<double> c(3, 2, 9.0);
+    M_ProductADiag(&a, 2, 2, &d, &c);
+    EXPECT_EQ(c.nbrows, 3);
+    EXPECT_TRUE(sameBits(c.getElement(1, 1), 6.0));
+    EXPECT_TRUE(sameBits(c.getElement(2, 0), 0.0));
+    EXPECT_TRUE(sameBits(c.getElement(2, 1), 9.0));
+    matrix<double> transposed(3, 2, 9.0);
+    M_ProductTrADiag(&a, 2, 2, &d, &transposed);
+    EXPECT_EQ(transposed.nbrows, 3);
+    EXPECT_TRUE(sameBits(transposed.getElement(2, 0), 0.0));
+    EXPECT_TRUE(sameBits(transposed.getElement(2, 1), 9.0));
 }

@@ -37,7 +37,7 @@ TEST(ElementWise, TablesTimesANumber)
         EXPECT_TRUE(sameTable(actual, expected));
 
         matrix<double> transposed(s.p, s.n, 0.5);
-        matrix<double> expectedTransposed(s.p, s.n, 0.0);
+        matrix<double> expectedTransposed(s.p, s.n, 0.5);
         M_ScalarsTrA(&a, s.n, s.p, factor, &transposed);
         reference::fill(expectedTransposed, s.p, s.n, [&](int j, int i) { return scaled(i, j); });
         EXPECT_TRUE(sameTable(transposed, expectedTransposed));
@@ -154,15 +154,19 @@ TEST(ElementWise, TimesANumberInPlaceWithoutMissingCells)
     EXPECT_TRUE(sameBits(a.data[1], 1.5));
 }
 
-TEST(ElementWise, ResultsThatAreResizedKeepALargerShape)
+TEST(ElementWise, ALargerResultKeepsItsShapeAndOnlyItsFirstElementsBecomeZero)
 {
-    matrix<double> a(1, 2, 1.0);
+    matrix<double> a(2, 2, 1.0);
     matrix<double> c(3, 2, 9.0);
     M_ScalarsTrA(&a, 1, 2, 4.0, &c);
-    EXPECT_EQ(c.nbrows, 2);
-    EXPECT_EQ(c.nbcols, 1);
-    EXPECT_TRUE(sameBits(c.data[0], 4.0));
-    EXPECT_TRUE(sameBits(c.data[1], 4.0));
+    EXPECT_TRUE(sameTable(c, [] {
+        auto expected = tableOf({{4.0, 9.0}, {4.0, 9.0}, {9.0, 9.0}});
+        expected.oobValue = 4.0;
+        return expected;
+    }()));
+    M_ScalarsTrA(&a, 2, 2, 4.0, &c);
+    EXPECT_TRUE(sameBits(c.getElement(2, 0), 0.0)) << "the third element, below the block";
+    EXPECT_TRUE(sameBits(c.getElement(2, 1), 9.0));
 }
 
 TEST(ElementWise, SparseTablesTimesANumber)

@@ -68,12 +68,19 @@ TEST(VectorProducts, OuterProduct)
     forRandomTables([](random_cells& cells, const table_sizes& s) {
         auto x = cells.values(s.n - s.rowsShort);
         auto y = cells.values(s.n);
-        matrix<double> actual;
-        matrix<double> expected(s.n, s.n, 0.0);
+        matrix<double> actual(s.n, s.n, 0.5);
+        matrix<double> expected(s.n, s.n, 0.5);
         V_ProductV1TrV2(&x, s.n, &y, &actual);
         reference::fill(expected, s.n, s.n, [&](int i, int j) { return x[i] * y[j]; });
         EXPECT_TRUE(sameTable(actual, expected));
     });
+    auto x = vectorOf<double>({1.0, 2.0});
+    matrix<double> larger(3, 2, 9.0);
+    V_ProductV1TrV2(&x, 2, &x, &larger);
+    EXPECT_EQ(larger.nbrows, 3);
+    EXPECT_TRUE(sameBits(larger.getElement(1, 1), 4.0));
+    EXPECT_TRUE(sameBits(larger.getElement(2, 0), 0.0));
+    EXPECT_TRUE(sameBits(larger.getElement(2, 1), 9.0));
 }
 
 TEST(VectorProducts, ProductOfAllElements)

@@ -1,0 +1,34 @@
+/**
+ * @file
+ * What a result is before its sums start from zeros.
+ */
+#ifndef KORVEL_LINALG_CLEAR_RESULT_H
+#define KORVEL_LINALG_CLEAR_RESULT_H
+
+#include "containers/matrix.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace korvel
+{
+
+/**
+ * Makes ready a result that is to start from zeros: one with too few rows or columns is given the counts
+ * asked for and filled with zeros; any other keeps its shape, and its first `rows * cols` elements in storage
+ * order become 0.
+ */
+template <class T>
+void clearResult(matrix<T>& result, int rows, int cols)
+{
+    if (result.nbrows < rows || result.nbcols < cols) {
+        result.Redim(rows, cols, T{});
+    } else {
+        const std::ptrdiff_t count = std::ptrdiff_t{std::max(rows, 0)} * std::max(cols, 0);
+        std::fill_n(result.data, count, T{});
+    }
+}
+
+} // namespace korvel
+
+#endif
