@@ -2,6 +2,7 @@
 // time of each and the share of the peer's time that ours takes. The peers may fuse a multiplication and an
 // addition, which halves their work and changes their bits; ours may not.
 
+#include "linalg/arithmetic_peak.h"
 #include "linalg/eigen_product.h"
 #include "linalg/kernels/product.h"
 #include "linalg/products.h"
@@ -48,7 +49,11 @@ private:
     int before_;
 };
 
-/** A·B of order n on one thread, by the best kernel and by that of each lesser instruction set. */
+/**
+ * A·B of order n on one thread, by the best kernel and by that of each lesser instruction set. `of_peak` is
+ * the share of what multiplications and additions in registers alone reach; `fused_gain` is what fusing them
+ * would gain there.
+ */
 void productOfTwo(benchmark::State& state)
 {
     const auto n = static_cast<int>(state.range(0));
@@ -61,6 +66,9 @@ void productOfTwo(benchmark::State& state)
     stop_watch baseline;
     stop_watch dgemm;
     stop_watch eigen;
+    stop_watch separate;
+    stop_watch fused;
+    double peakOperations = 0.0;
     const auto timeSet = [&](instruction_set set, stop_watch& watch) {
         if (korvel::kernels::hasSet(set)) {
             const korvel::kernels::forced_set forced(set);
@@ -76,13 +84,18 @@ void productOfTwo(benchmark::State& state)
         eigen.time([&] { korvel::bench::eigenProduct(A.data, B.data, C.data, n); });
         timeSet(instruction_set::avx2, avx2);
         timeSet(instruction_set::baseline, baseline);
+        separate.time([&] { peakOperations = korvel::bench::separateArithmetic(); });
+        fused.time([&] { peakOperations = korvel::bench::fusedArithmetic(); });
     }
     state.counters["ours_ms"] = ours.milliseconds();
     state.counters["to_dgemm"] = ours.milliseconds() / dgemm.milliseconds();
     state.counters["to_eigen"] = ours.milliseconds() / eigen.milliseconds();
     state.counters["avx2_to_dgemm"] = avx2.milliseconds() / dgemm.milliseconds();
     state.counters["base_to_dgemm"] = baseline.milliseconds() / dgemm.milliseconds();
-    state.counters["Gflop/s"] = 2e-6 * n * n * n / ours.milliseconds();
+    const double speed = 2e-6 * n * n * n / ours.milliseconds();
+    state.counters["Gflop/s"] = speed;
+    state.counters["of_peak"] = speed / (1e-6 * peakOperations / separate.milliseconds());
+    state.counters["fused_gain"] = separate.milliseconds() / fused.milliseconds();
 }
 
 void productWithItself(benchmark::State& state)

@@ -1,0 +1,2 @@
+#define KORVEL_ARITHMETIC fusedArithmetic
+#include "linalg/arithmetic_peak.inc"

@@ -1,0 +1,2 @@
+#define KORVEL_ARITHMETIC separateArithmetic
+#include "linalg/arithmetic_peak.inc"
