@@ -16,10 +16,12 @@
 #include "support/peer_script.h"
 
 #include <benchmark/benchmark.h>
+#include <bit>
 #include <gsl/gsl_statistics_double.h>
 #include <memory>
 #include <random>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace
@@ -334,6 +336,30 @@ const routine routines[] = {
      nullptr},
 };
 
+/** The bits of `count` elements, all together. */
+template <class T>
+std::uint64_t bitsOf(const T* first, std::ptrdiff_t count)
+{
+    using word = std::conditional_t<sizeof(T) == sizeof(std::uint64_t), std::uint64_t, std::uint16_t>;
+    std::uint64_t bits = 0;
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
+        bits ^= std::bit_cast<word>(first[i]);
+    }
+    return bits;
+}
+
+/** Reads the cells of several vectors side by side, as a routine does, and nothing more. */
+template <class... T>
+double readAlone(const T*... vectors)
+{
+    constexpr std::ptrdiff_t stretch = 1000;
+    std::uint64_t bits = 0;
+    for (std::ptrdiff_t i = 0; i < cells; i += stretch) {
+        bits ^= (bitsOf(vectors + i, stretch) ^ ...);
+    }
+    return static_cast<double>(bits);
+}
+
 void add(const std::string& name, call function, vectors& (*data)(), int cellCount)
 {
     benchmark::RegisterBenchmark(name.c_str(),
@@ -379,6 +405,14 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     add(
         "one addition", [](vectors&) { return plain::additions(1.0, cells); }, complete, cells);
+    add(
+        "reading x and w", [](vectors& v) { return readAlone(v.x.data, v.w.data); }, complete, cells);
+    add(
+        "reading x, w and flags", [](vectors& v) { return readAlone(v.x.data, v.w.data, v.flags.data()); },
+        complete, cells);
+    add(
+        "reading x, y and w", [](vectors& v) { return readAlone(v.x.data, v.y.data, v.w.data); }, complete,
+        cells);
     for (const routine& r : routines) {
         const std::string name = r.name;
         add(name + "/korvel", r.korvelCall, complete, r.cellCount);
