@@ -58,7 +58,6 @@ void mirror(const kernels::columns_of<double>& table, std::ptrdiff_t first, std:
 void formSymmetricProduct(const matrix<double>& table, summed way, int order, int depth, term_factors factors,
                           matrix<double>& result)
 {
-    clearResult(result, order, order);
     if (order < 1) {
         return;
     }

@@ -192,7 +192,7 @@ void formProduct(int rows, int cols, int depth, const product_side<Left>& left,
 
 /**
  * The symmetric product of `table` with itself, `order` by `order`: only the elements with j not below i are
- * summed, and each is stored at (i, j) and at (j, i). Clears the result.
+ * summed, and each is stored at (i, j) and at (j, i). The result is taken as it is.
  */
 void formSymmetricProduct(const matrix<double>& table, summed way, int order, int depth, term_factors factors,
                           matrix<double>& result);

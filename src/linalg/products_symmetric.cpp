@@ -3,6 +3,7 @@
 #include "containers/conversion.h"
 #include "linalg/product_forms.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <type_traits>
 
@@ -60,13 +61,14 @@ void multiplyIntegers(const matrix<int>& A, int rows, int cols, summed way, matr
 
 void M_ProductTrAA(matrix<double>* A, int n, int p, matrix<double>* C)
 {
+    clearResult(*C, p, p);
     formSymmetricProduct(*A, summed::down, p, n, term_factors::none(), *C);
 }
 
 void M_ProductTrAA(matrix<double>* A, int n, int p, matrix<int>* C)
 {
     clearResult(*C, p, p);
-    matrix<double> sums;
+    matrix<double> sums(std::max(p, 0), p, 0.0);
     formSymmetricProduct(*A, summed::down, p, n, term_factors::none(), sums);
     for (int i = 0; i < p; ++i) {
         for (int j = i; j < p; ++j) {
@@ -89,6 +91,7 @@ void M_ProductTrAA(matrix<int>* A, int n, int p, matrix<int>* C)
 
 void M_ProductATrA(matrix<double>* A, int n, int p, matrix<double>* C)
 {
+    clearResult(*C, n, n);
     formSymmetricProduct(*A, summed::along, n, p, term_factors::none(), *C);
 }
 
@@ -99,11 +102,13 @@ void M_ProductATrA(matrix<int>* A, int n, int p, matrix<double>*& C)
 
 void M_ProductADTrA(matrix<double>* A, int n, int p, matrix<double>* D, matrix<double>* C)
 {
+    clearResult(*C, n, n);
     formSymmetricProduct(*A, summed::along, n, p, term_factors::diagonal(*D), *C);
 }
 
 void M_ProductTrADA(matrix<double>* A, int n, int p, matrix<double>* D, matrix<double>* C)
 {
+    clearResult(*C, p, p);
     formSymmetricProduct(*A, summed::down, p, n, term_factors::diagonal(*D), *C);
 }
 

@@ -1,8 +1,9 @@
 /**
  * @file
  * Products of a table with its own transpose, with or without a diagonal between them. Only the elements
- * (i, j) with j not below i are summed, and each is stored at (i, j) and at (j, i). All of them clear their
- * result and run on the calling thread; see `products.h` for what they share with the other products.
+ * (i, j) with j not below i are summed, and each is stored at (i, j) and at (j, i). They run on the calling
+ * thread. Those without a vector clear their result, those with one take it as it is; see `products.h` for
+ * what clearing does, and for what they share with the other products.
  */
 #ifndef KORVEL_LINALG_PRODUCTS_SYMMETRIC_H
 #define KORVEL_LINALG_PRODUCTS_SYMMETRIC_H

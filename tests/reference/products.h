@@ -154,14 +154,12 @@ inline void plainTrADA(const matrix<double>& A, int n, int p, const matrix<doubl
 
 inline void plainTrADiagVA(const matrix<double>& A, int n, int p, const matrix<double>& d, matrix<double>& C)
 {
-    plainClear(C, p, p);
     plainHalf(p, n, storeIn(C),
               [&](int i, int j, int r) { return A.getElement(r, i) * d[r] * A.getElement(r, j); });
 }
 
 inline void plainADiagVTrA(const matrix<double>& A, int n, int p, const matrix<double>& d, matrix<double>& C)
 {
-    plainClear(C, n, n);
     plainHalf(n, p, storeIn(C),
               [&](int i, int j, int k) { return A.getElement(i, k) * d[k] * A.getElement(j, k); });
 }
