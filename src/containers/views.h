@@ -14,7 +14,7 @@
  * access of its form. What loops run on are the sources that it hands out, for `withCells`:
  * `column(j, rows)`, the first rows of a column; `table(rows, cols)`, the top left block, in any order; and,
  * of a table of chunks, `triangle(n)`, a symmetric table of which chunk j holds column j from the diagonal
- * down.
+ * down, or the top left block of one, `triangle(rows, cols)`.
  *
  * What moves whole blocks asks for memory instead: `run(i, j, rows, cols)` points at the block from (i, j) on
  * when it lies inside and its cells stand one behind the other, and is null otherwise. Whoever writes there
@@ -25,6 +25,7 @@
 
 #include "containers/cells.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -237,9 +238,14 @@ public:
                       [chunks = this->chunks_] { return raw_access(chunks); });
     }
 
-    [[nodiscard]] auto triangle(int n) const
+    [[nodiscard]] auto triangle(int n) const { return triangle(n, n); }
+
+    /** The top left block of the symmetric table: of the longer side only the stored half is there. */
+    [[nodiscard]] auto triangle(int rows, int cols) const
     {
-        return source(symmetric_access(*this), allHold(n, [n](int j) { return n - j; }),
+        const int longer = std::max(rows, cols);
+        return source(symmetric_access(*this),
+                      allHold(std::min(rows, cols), [longer](int j) { return longer - j; }),
                       [chunks = this->chunks_] { return symmetric_access(raw_access(chunks)); });
     }
 

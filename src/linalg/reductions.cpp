@@ -114,5 +114,5 @@ double M_RowSumNormSPV(matrix<double>** A, int n, int m)
 
 double M_RowSumNormSPV_T(matrix3D<matrix<double>>* A, int n, int m)
 {
-    return rowSumNorm(reading(*A).triangle(std::max(n, m)), n, m);
+    return rowSumNorm(reading(*A).triangle(n, m), n, m);
 }

@@ -49,7 +49,7 @@ KORVEL_API double M_RowSumNormSPV(matrix<double>** A, int n, int m);
 
 /**
  * The same for a symmetric table of which chunk j holds column j from the diagonal down: the cell (i, j) is
- * read there for j up to i, and as (j, i) otherwise. `m` is at most the number of chunks, and so is `n`.
+ * read there for j up to i, and as (j, i) otherwise. The smaller count is at most the number of chunks.
  */
 KORVEL_API double M_RowSumNormSPV_T(matrix3D<matrix<double>>* A, int n, int m);
 

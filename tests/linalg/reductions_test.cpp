@@ -94,6 +94,22 @@ TEST(Reductions, RowSumNormOfATriangle)
     });
 }
 
+TEST(Reductions, RowSumNormOfABlockOfATriangle)
+{
+    // The symmetric table {{1, 2, 4}, {2, 8, 16}, {4, 16, 32}}, of which two columns are there.
+    matrix3D<matrix<double>> triangle;
+    triangle.chunks.push_back(vectorOf<double>({1, 2, 4}));
+    triangle.chunks.push_back(vectorOf<double>({8, 16}));
+    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 3, 2), 20.0));
+    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 2, 3), 26.0));
+    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 2, 2), 10.0));
+    triangle.chunks[1].data[1] = MISSING_DBL;
+    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 2, 3), 10.0));
+    triangle.chunks[0].oobValue = -50.0;
+    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 4, 2), 51.0)) << "row 3 lies past the end of both";
+    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 0, 2), 0.0));
+}
+
 TEST(Reductions, RowSumNormLeavesOutWhatIsNotAboveTheMissingValue)
 {
     auto a = tableOf({{1.0, MISSING_DBL, -2.0}, {notANumber, -infinite, 2.5}, {belowSentinel, 0.0, 1.0}});
