@@ -97,6 +97,12 @@ void M_ProductDiagVASPV(matrix<double>* d, int n, matrix3D<matrix<double>>* A, i
     scaleRows(*d, n, reading(*A), p, writing(*C));
 }
 
+void M_ProductDiagVASPV(matrix<double>* d, int n, matrix3D<statistics_matrix<double>>* A, int p,
+                        matrix3D<statistics_matrix<double>>* C)
+{
+    scaleRows(*d, n, reading(*A), p, writing(*C));
+}
+
 void M_ProductDiagV1ADiagV2(matrix<double>* d1, int n, matrix<double>* A, int p, matrix<double>* d2,
                             matrix<double>* C)
 {

@@ -75,6 +75,8 @@ KORVEL_API void M_ProductDiagVA(matrix<double>* d, int n, matrix<double>* A, int
 /** The same on tables of column chunks; chunks are not resized. */
 KORVEL_API void M_ProductDiagVASPV(matrix<double>* d, int n, matrix3D<matrix<double>>* A, int p,
                                    matrix3D<matrix<double>>* C);
+KORVEL_API void M_ProductDiagVASPV(matrix<double>* d, int n, matrix3D<statistics_matrix<double>>* A, int p,
+                                   matrix3D<statistics_matrix<double>>* C);
 
 /**
  * C(i, k) = (d1(i) * A(i, k)) * d2(k): `M_ProductDiagVA`, and then `M_ProductADiagV` on the result. A missing
