@@ -404,6 +404,33 @@ Public Declare PtrSafe Function Cpp_M_ProductABTrA_ST Lib "KORVELMathTools.dll" 
     ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, _
     ByVal symmetric As Integer, ByVal c As LongPtr) As Long
 
+' ---- products_table_vector.h
+
+' Table times vector, y = b * v.
+Public Declare PtrSafe Function VB_M_ProductBV Lib "KORVELMathTools.dll" ( _
+    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
+
+' Vector times table, y = v' * b, that heeds missing cells: where a term has a missing factor, y(j)
+' is missing.
+Public Declare PtrSafe Function VB_M_ProductVB Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal q As Long, ByRef y As Double) As Long
+
+' Transposed table times vector, y = b' * v.
+Public Declare PtrSafe Function VB_M_ProductTrBV Lib "KORVELMathTools.dll" ( _
+    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
+
+' Vector times transposed table, y = v' * b'.
+Public Declare PtrSafe Function VB_M_ProductVTrB Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal m As Long, ByRef y As Double) As Long
+
+' The quadratic form v' * b * v.
+Public Declare PtrSafe Function VB_M_ProductTrVBV Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double) As Double
+
+' The bilinear form x1' * b * x2.
+Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef b As Double, ByRef x2 As Double) As Double
+
 ' ---- products_triple.h
 
 ' Product of three tables, c = a * b * a'.
@@ -435,33 +462,6 @@ Public Declare PtrSafe Function VB_M_ProductATrBC Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_M_ProductTrABV Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
     ByRef v As Double, ByRef y As Double) As Long
-
-' ---- products_vector.h
-
-' Table times vector, y = b * v.
-Public Declare PtrSafe Function VB_M_ProductBV Lib "KORVELMathTools.dll" ( _
-    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
-
-' Vector times table, y = v' * b, that heeds missing cells: where a term has a missing factor, y(j)
-' is missing.
-Public Declare PtrSafe Function VB_M_ProductVB Lib "KORVELMathTools.dll" ( _
-    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal q As Long, ByRef y As Double) As Long
-
-' Transposed table times vector, y = b' * v.
-Public Declare PtrSafe Function VB_M_ProductTrBV Lib "KORVELMathTools.dll" ( _
-    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
-
-' Vector times transposed table, y = v' * b'.
-Public Declare PtrSafe Function VB_M_ProductVTrB Lib "KORVELMathTools.dll" ( _
-    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal m As Long, ByRef y As Double) As Long
-
-' The quadratic form v' * b * v.
-Public Declare PtrSafe Function VB_M_ProductTrVBV Lib "KORVELMathTools.dll" ( _
-    ByRef v As Double, ByVal n As Long, ByRef b As Double) As Double
-
-' The bilinear form x1' * b * x2.
-Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef b As Double, ByRef x2 As Double) As Double
 
 ' ---- quantiles.h
 

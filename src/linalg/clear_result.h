@@ -6,6 +6,7 @@
 #define KORVEL_LINALG_CLEAR_RESULT_H
 
 #include "containers/matrix.h"
+#include "containers/matrix3d.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -26,6 +27,15 @@ void clearResult(matrix<T>& result, int rows, int cols)
     } else {
         const std::ptrdiff_t count = std::ptrdiff_t{std::max(rows, 0)} * std::max(cols, 0);
         std::fill_n(result.data, count, T{});
+    }
+}
+
+/** The same for the first columns of a table of chunks, each of its own. */
+template <class M>
+void clearResult(matrix3D<M>& result, int rows, int cols)
+{
+    for (int j = 0; j < cols; ++j) {
+        clearResult(result.chunks[static_cast<std::size_t>(j)], rows, 1);
     }
 }
 

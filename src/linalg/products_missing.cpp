@@ -23,6 +23,7 @@ double sumUnlessMissing(const auto& a, const auto& b, int i, int j, int p)
 template <class A, class C>
 int multiplyUnlessMissing(const A& a, int n, int p, const matrix<double>& b, int q, C& c)
 {
+    korvel::clearResult(c, n, q);
     korvel::withCells(
         [=](auto& left, auto& right, auto& out) {
             for (int i = 0; i < n; ++i) {
@@ -39,14 +40,12 @@ int multiplyUnlessMissing(const A& a, int n, int p, const matrix<double>& b, int
 
 int M_ProductABMissing(matrix<double>* A, int n, int p, matrix<double>* B, int q, matrix<double>* C)
 {
-    korvel::clearResult(*C, n, q);
     return multiplyUnlessMissing(*A, n, p, *B, q, *C);
 }
 
 int M_ProductABMissingSPV(matrix3D<matrix<double>>* A, int n, int p, matrix<double>* B, int q,
                           matrix<double>*& C)
 {
-    korvel::clearResult(*C, n, q);
     return multiplyUnlessMissing(*A, n, p, *B, q, *C);
 }
 

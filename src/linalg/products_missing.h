@@ -4,8 +4,7 @@
  * `MISSING_DBL` ends the sum, and C(i,j) is `MISSING_DBL`. So one missing cell blanks its whole row of A
  * against every column of B. See `products.h` for what they share with the other products of two tables.
  *
- * All of them run on the calling thread. A dense result is cleared; the columns of a `matrix3D` are taken as
- * they are.
+ * All of them run on the calling thread and clear their result, of a `matrix3D` column by column.
  */
 #ifndef KORVEL_LINALG_PRODUCTS_MISSING_H
 #define KORVEL_LINALG_PRODUCTS_MISSING_H

@@ -1,7 +1,7 @@
 #include "linalg/products_sparse.h"
 
 #include "containers/cells.h"
-#include "linalg/products_vector.h"
+#include "linalg/products_table_vector.h"
 #include "linalg/vector_products.h"
 #include "tables/transpose.h"
 

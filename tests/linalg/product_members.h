@@ -1,7 +1,7 @@
 /**
  * @file
- * The members of the product family beside their plain twins, in one list, so that each is held to the same
- * sizes, threads and instruction sets.
+ * Members of the product family beside their plain twins. Each test of a topic lists its own and calls for
+ * the tests that every member passes: the same sizes, threads and instruction sets.
  */
 #ifndef KORVEL_TESTS_LINALG_PRODUCT_MEMBERS_H
 #define KORVEL_TESTS_LINALG_PRODUCT_MEMBERS_H
@@ -33,12 +33,14 @@ struct shape {
     int cols = 0;
 };
 
-using operands = std::vector<matrix<double>>;
+using shapes = std::vector<shape>;
+using table = matrix<double>;
+using operands = std::vector<table>;
 
 /** One member: the shapes of what it reads and writes, and the two routines that are to agree. */
 struct product_member {
     std::string name;
-    std::function<std::vector<shape>(counts)> read;
+    std::function<shapes(counts)> read;
     std::function<shape(counts)> written;
     std::function<void(operands&, counts, matrix<double>&)> core;
     std::function<void(operands&, counts, matrix<double>&)> plain;
@@ -46,6 +48,48 @@ struct product_member {
     bool usesQ = true;    ///< whether the third count matters
     bool byIndex = false; ///< writes a vector, by linear index
 };
+
+// Shapes of operands and results, by the counts n, p and q.
+inline shapes tableNP(counts c)
+{
+    return {{c.n, c.p}};
+}
+inline shapes tablesNPAndPQ(counts c)
+{
+    return {{c.n, c.p}, {c.p, c.q}};
+}
+inline shapes tablesNPAndQP(counts c)
+{
+    return {{c.n, c.p}, {c.q, c.p}};
+}
+inline shapes tablesNPAndNQ(counts c)
+{
+    return {{c.n, c.p}, {c.n, c.q}};
+}
+inline shapes tablesNPAndPP(counts c)
+{
+    return {{c.n, c.p}, {c.p, c.p}};
+}
+inline shapes tablesNPAndNN(counts c)
+{
+    return {{c.n, c.p}, {c.n, c.n}};
+}
+inline shape resultNQ(counts c)
+{
+    return {c.n, c.q};
+}
+inline shape resultPQ(counts c)
+{
+    return {c.p, c.q};
+}
+inline shape resultNN(counts c)
+{
+    return {c.n, c.n};
+}
+inline shape resultPP(counts c)
+{
+    return {c.p, c.p};
+}
 
 inline void PrintTo(const product_member& member, std::ostream* out)
 {
@@ -148,6 +192,12 @@ inline odd_cells oddCellsOf(counts sizes)
 
 /** The tests that every member passes. */
 class ProductMember : public ::testing::TestWithParam<product_member>
+{
+};
+
+/** Further ones for those that take neither a list of columns, which must be there, nor a record, whose
+ * columns have their own lengths. */
+class DenseProductMember : public ::testing::TestWithParam<product_member>
 {
 };
 

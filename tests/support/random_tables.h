@@ -25,13 +25,12 @@ inline matrix<double> randomTable(random_cells& cells, int rows, int cols)
 
 /** The columns of a table as chunks. */
 template <class M>
-matrix3D<M> chunksOf(const matrix<double>& table)
+matrix3D<M> chunksOf(const matrix<double>& from)
 {
-    matrix3D<M> made(table.nbcols, table.nbrows, table.nbcols, 0.0);
-    for (int j = 0; j < table.nbcols; ++j) {
-        for (int i = 0; i < table.nbrows; ++i) {
-            made.setElement(j, i, table.getElement(i, j));
-        }
+    matrix3D<M> made(from.nbcols, from.nbrows, from.nbcols, 0.0);
+    for (int j = 0; j < from.nbcols; ++j) {
+        std::copy_n(from.data + std::ptrdiff_t{from.nbrows} * j, from.nbrows,
+                    made.chunks[static_cast<std::size_t>(j)].data);
     }
     return made;
 }

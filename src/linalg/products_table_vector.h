@@ -4,8 +4,8 @@
  * with the products of two tables. None of them clears its result but where said. A vector is reached by
  * linear index, so its own shape does not matter. All of them run on the calling thread.
  */
-#ifndef KORVEL_LINALG_PRODUCTS_VECTOR_H
-#define KORVEL_LINALG_PRODUCTS_VECTOR_H
+#ifndef KORVEL_LINALG_PRODUCTS_TABLE_VECTOR_H
+#define KORVEL_LINALG_PRODUCTS_TABLE_VECTOR_H
 
 #include "containers/matrix.h"
 #include "platform/export.h"
@@ -27,10 +27,9 @@ KORVEL_API int M_ProductBV(matrix<double>* B, int n, int p, matrix<double>* v, m
  * @param v `n` elements
  * @param B `n` by `q`
  * @param y receives `q` elements
- * @return 0
  * @throws std::bad_alloc when memory is short
  */
-KORVEL_API int M_ProductVB(matrix<double>* v, int n, matrix<double>* B, int q, matrix<double>*& y);
+KORVEL_API void M_ProductVB(matrix<double>* v, int n, matrix<double>* B, int q, matrix<double>*& y);
 
 /**
  * y = B'·v.

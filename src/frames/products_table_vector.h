@@ -4,8 +4,8 @@
  * multiplication and then an addition. What is read is copied first where there is a result array, which
  * may therefore be an array that is read.
  */
-#ifndef KORVEL_FRAMES_PRODUCTS_VECTOR_H
-#define KORVEL_FRAMES_PRODUCTS_VECTOR_H
+#ifndef KORVEL_FRAMES_PRODUCTS_TABLE_VECTOR_H
+#define KORVEL_FRAMES_PRODUCTS_TABLE_VECTOR_H
 
 #include "frames/types.h"
 

@@ -1,7 +1,7 @@
-#include "frames/products_vector.h"
+#include "frames/products_table_vector.h"
 
 #include "frames/frame.h"
-#include "linalg/products_vector.h"
+#include "linalg/products_table_vector.h"
 
 using namespace korvel;
 
@@ -19,7 +19,8 @@ int VB_M_ProductVB(double* v, int n, double* b, int q, double* y)
     auto table = frame::copyIn(b, n, q);
     auto product = frame::borrow(y, q);
     auto* result = &product;
-    return M_ProductVB(&vector, n, &table, q, result);
+    M_ProductVB(&vector, n, &table, q, result);
+    return 0;
 }
 
 int VB_M_ProductTrBV(double* b, int n, int p, double* v, double* y)

@@ -1,4 +1,4 @@
-#include "linalg/products_vector.h"
+#include "linalg/products_table_vector.h"
 
 #include "linalg/product_forms.h"
 #include "linalg/vector_products.h"
@@ -31,7 +31,7 @@ int M_ProductBV(matrix<double>* B, int n, int p, matrix<double>* v, matrix<doubl
     return 0;
 }
 
-int M_ProductVB(matrix<double>* v, int n, matrix<double>* B, int q, matrix<double>*& y)
+void M_ProductVB(matrix<double>* v, int n, matrix<double>* B, int q, matrix<double>*& y)
 {
     korvel::clearResult(*y, q, 1);
     const auto table = korvel::reading(*B);
@@ -50,7 +50,6 @@ int M_ProductVB(matrix<double>* v, int n, matrix<double>* B, int q, matrix<doubl
             readVector(*v, n), table.column(j, n));
         korvel::storeChecked(*y, j, sum);
     }
-    return 0;
 }
 
 void M_ProductTrBV(matrix<double>* B, int n, int p, matrix<double>* v, matrix<double>* y)

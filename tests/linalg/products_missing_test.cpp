@@ -1,0 +1,100 @@
+#include "linalg/products_missing.h"
+
+#include "linalg/product_chunks.h"
+#include "reference/products.h"
+#include "support/sparse_tables.h"
+
+using namespace korvel::test;
+
+namespace
+{
+
+void plain(operands& t, counts c, table& C)
+{
+    plainABMissing(t[0], c.n, c.p, t[1], c.q, C);
+}
+
+std::vector<product_member> denseMembers()
+{
+    return {{"ABMissing", tablesNPAndPQ, resultNQ,
+             [](operands& t, counts c, table& C) {
+                 EXPECT_EQ(M_ProductABMissing(&t[0], c.n, c.p, &t[1], c.q, &C), 0);
+             },
+             plain}};
+}
+
+std::vector<product_member> chunkedMembers()
+{
+    return {{"ABMissingSPV", tablesNPAndPQ, resultNQ,
+             [](operands& t, counts c, table& C) {
+                 auto A = chunksOf<table>(t[0]);
+                 table* result = &C;
+                 EXPECT_EQ(M_ProductABMissingSPV(&A, c.n, c.p, &t[1], c.q, result), 0);
+             },
+             plain},
+            {"ABMissingSPV2", tablesNPAndPQ, resultNQ,
+             [](operands& t, counts c, table& C) {
+                 auto result = chunksOf<table>(C);
+                 EXPECT_EQ(M_ProductABMissingSPV2(&t[0], c.n, c.p, &t[1], c.q, &result), 0);
+                 copyChunks(result, C);
+             },
+             plain},
+            {"ABMissingSPV3", tablesNPAndPQ, resultNQ,
+             [](operands& t, counts c, table& C) {
+                 auto A = chunksOf<statistics_matrix<double>>(t[0]);
+                 auto result = chunksOf<table>(C);
+                 EXPECT_EQ(M_ProductABMissingSPV3(&A, c.n, c.p, &t[1], c.q, &result), 0);
+                 copyChunks(result, C);
+             },
+             plain}};
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Missing, ProductMember, ::testing::ValuesIn(denseMembers()), nameOf);
+INSTANTIATE_TEST_SUITE_P(MissingInChunks, ProductMember, ::testing::ValuesIn(chunkedMembers()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Missing, DenseProductMember, ::testing::ValuesIn(denseMembers()), nameOf);
+
+TEST(MissingProducts, OneMissingCellBlanksARowOrAColumn)
+{
+    matrix<double> A = tableOf({{1, MISSING_DBL}, {3, 4}});
+    matrix<double> B = tableOf({{1, 2}, {3, 4}});
+    matrix<double> C;
+    EXPECT_EQ(M_ProductABMissing(&A, 2, 2, &B, 2, &C), 0);
+    EXPECT_TRUE(sameTables(C, tableOf({{MISSING_DBL, MISSING_DBL}, {15, 22}})));
+    matrix<double> D;
+    M_ProductABMissing(&B, 2, 2, &A, 2, &D);
+    EXPECT_TRUE(sameTables(D, tableOf({{7, MISSING_DBL}, {15, MISSING_DBL}})));
+    matrix<double> below = tableOf({{belowSentinel}});
+    matrix<double> one = tableOf({{1.0}});
+    matrix<double> E;
+    M_ProductABMissing(&below, 1, 1, &one, 1, &E);
+    EXPECT_TRUE(sameBits(E.data[0], belowSentinel)) << "only the sentinel itself is missing";
+    matrix<double> F(1, 1, 9.0);
+    M_ProductABMissing(&A, 1, 0, &B, 1, &F);
+    EXPECT_TRUE(sameBits(F.data[0], 0.0));
+}
+
+TEST(MissingProducts, ClearTheColumnsOfAResultInChunks)
+{
+    matrix<double> A = tableOf({{1, 2}, {3, 4}});
+    auto chunks = chunksOf<statistics_matrix<double>>(A);
+    const auto expectProduct = [](const matrix3D<matrix<double>>& C) {
+        EXPECT_TRUE(sameTables(C.chunks[0], vectorOf<double>({7, 15}))) << "too short, and made anew";
+        EXPECT_TRUE(sameTables(C.chunks[1], vectorOf<double>({10, 22, 9}))) << "keeps its shape";
+        EXPECT_TRUE(sameTables(C.chunks[2], vectorOf<double>({9}))) << "not asked for";
+    };
+    const auto blank = [] {
+        matrix3D<matrix<double>> made;
+        made.chunks.emplace_back(1, 1, 9.0);
+        made.chunks.emplace_back(3, 1, 9.0);
+        made.chunks.emplace_back(1, 1, 9.0);
+        return made;
+    };
+    auto second = blank();
+    M_ProductABMissingSPV2(&A, 2, 2, &A, 2, &second);
+    expectProduct(second);
+    auto third = blank();
+    M_ProductABMissingSPV3(&chunks, 2, 2, &A, 2, &third);
+    expectProduct(third);
+}

@@ -1,0 +1,99 @@
+#include "linalg/products_table_vector.h"
+
+#include "linalg/product_members.h"
+#include "reference/products.h"
+#include "support/sparse_tables.h"
+
+#include <utility>
+
+using namespace korvel::test;
+
+namespace
+{
+
+std::vector<product_member> members()
+{
+    std::vector<product_member> all;
+    all.push_back(
+        {"BV",
+         [](counts c) {
+             return shapes{{c.n, c.p}, {c.p, 1}};
+         },
+         [](counts c) {
+             return shape{c.n, 1};
+         },
+         [](operands& t, counts c, table& y) { EXPECT_EQ(M_ProductBV(&t[0], c.n, c.p, &t[1], &y), 0); },
+         [](operands& t, counts c, table& y) {
+             plainVector(c.n, c.p, y, [&](int i, int k) { return t[0].getElement(i, k) * t[1][k]; });
+         },
+         false, false, true});
+    all.push_back({"TrBV",
+                   [](counts c) {
+                       return shapes{{c.n, c.p}, {c.n, 1}};
+                   },
+                   [](counts c) {
+                       return shape{c.p, 1};
+                   },
+                   [](operands& t, counts c, table& y) { M_ProductTrBV(&t[0], c.n, c.p, &t[1], &y); },
+                   [](operands& t, counts c, table& y) {
+                       plainVector(c.p, c.n, y,
+                                   [&](int j, int i) { return t[0].getElement(i, j) * t[1][i]; });
+                   },
+                   false, false, true});
+    all.push_back({"VTrB",
+                   [](counts c) {
+                       return shapes{{c.n, 1}, {c.p, c.n}};
+                   },
+                   [](counts c) {
+                       return shape{c.p, 1};
+                   },
+                   [](operands& t, counts c, table& y) { M_ProductVTrB(&t[0], c.n, &t[1], c.p, &y); },
+                   [](operands& t, counts c, table& y) {
+                       plainVector(c.p, c.n, y,
+                                   [&](int j, int k) { return t[0][k] * t[1].getElement(j, k); });
+                   },
+                   false, false, true});
+    all.push_back({"VB",
+                   [](counts c) {
+                       return shapes{{c.n, 1}, {c.n, c.p}};
+                   },
+                   [](counts c) {
+                       return shape{c.p, 1};
+                   },
+                   [](operands& t, counts c, table& y) {
+                       table* result = &y;
+                       M_ProductVB(&t[0], c.n, &t[1], c.p, result);
+                   },
+                   [](operands& t, counts c, table& y) { plainVB(t[0], c.n, t[1], c.p, y); }, false, false,
+                   true});
+    return all;
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(TableVector, ProductMember, ::testing::ValuesIn(members()), nameOf);
+INSTANTIATE_TEST_SUITE_P(TableVector, DenseProductMember, ::testing::ValuesIn(members()), nameOf);
+
+TEST(TableVectorProducts, VectorTimesTableStopsAtTheFirstMissingCell)
+{
+    matrix<double> v = vectorOf<double>({MISSING_DBL, 1.0});
+    matrix<double> B = tableOf({{1, 2, 3}, {4, 5, 6}});
+    matrix<double> y;
+    matrix<double>* result = &y;
+    M_ProductVB(&v, 2, &B, 3, result);
+    EXPECT_TRUE(sameTables(y, vectorOf<double>({MISSING_DBL, MISSING_DBL, MISSING_DBL})));
+    v.data[0] = 2.0;
+    B.data[3] = MISSING_DBL;
+    M_ProductVB(&v, 2, &B, 3, result);
+    EXPECT_TRUE(sameTables(y, vectorOf<double>({6.0, MISSING_DBL, 12.0})));
+}
+
+TEST(TableVectorProducts, QuadraticFormGoesByWayOfTableTimesVector)
+{
+    matrix<double> B = tableOf({{2, 1}, {0, 3}});
+    matrix<double> v = vectorOf<double>({1, -1});
+    matrix<double> w = vectorOf<double>({4, 5});
+    EXPECT_TRUE(sameBits(M_ProductTrVBV(&v, 2, &B), 4.0));
+    EXPECT_TRUE(sameBits(M_ProductTrVBV(std::as_const(v), 2, std::as_const(B)), 4.0));
+    EXPECT_TRUE(sameBits(M_ProductTrV1BV2(&w, 2, &B, &v), -11.0));
+}
