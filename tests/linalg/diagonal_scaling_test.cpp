@@ -152,3 +152,41 @@ TEST(DiagonalScaling, ALargerResultKeepsItsShapeAndOnlyItsFirstElementsBecomeZer
     EXPECT_TRUE(sameBits(transposed.getElement(2, 0), 0.0));
     EXPECT_TRUE(sameBits(transposed.getElement(2, 1), 9.0));
 }
+
+TEST(DiagonalScaling, ByVectorsTakesTheResultAsItIs)
+{
+    matrix<double> a(2, 2, 3.0);
+    auto d = vectorOf<double>({2.0, 5.0});
+    const auto expectKept = [](auto call) {
+        matrix<double> larger(3, 2, 9.0);
+        call(&larger);
+        EXPECT_TRUE(sameBits(larger.getElement(2, 0), 9.0)) << "below the block";
+        EXPECT_NE(larger.getElement(1, 1), 9.0);
+        matrix<double> smaller(1, 2, 9.0);
+        call(&smaller);
+        EXPECT_EQ(smaller.nbrows, 1);
+        EXPECT_EQ(smaller.nbcols, 2);
+    };
+    expectKept([&](matrix<double>* c) { M_ProductADiagV(&a, 2, 2, &d, c); });
+    expectKept([&](matrix<double>* c) { M_ProductDiagVA(&d, 2, &a, 2, c); });
+    expectKept([&](matrix<double>* c) { M_ProductDiagV1ADiagV2(&d, 2, &a, 2, &d, c); });
+    expectKept([&](matrix<double>* c) { M_ProductTrADiagV(&a, 2, 2, &d, c); });
+}
+
+TYPED_TEST(ChunkedDiagonalScaling, TakesTheChunksOfTheResultAsTheyAre)
+{
+    auto chunks = chunksOf<TypeParam>(matrix<double>(2, 2, 3.0));
+    auto d = vectorOf<double>({2.0, 5.0});
+    const auto expectKept = [](auto call) {
+        matrix3D<TypeParam> c;
+        c.chunks.emplace_back(3, 1, 9.0);
+        c.chunks.emplace_back(1, 1, 9.0);
+        call(&c);
+        EXPECT_TRUE(sameBits(c.chunks[0].data[2], 9.0));
+        EXPECT_NE(c.chunks[0].data[1], 9.0);
+        EXPECT_EQ(c.chunks[1].nbrows, 1);
+    };
+    expectKept([&](matrix3D<TypeParam>* c) { M_ProductADiagVSPV(&chunks, 2, 2, &d, c); });
+    expectKept([&](matrix3D<TypeParam>* c) { M_ProductDiagVASPV(&d, 2, &chunks, 2, c); });
+    expectKept([&](matrix3D<TypeParam>* c) { M_ProductDiagV1ADiagV2SPV(&d, 2, &chunks, 2, &d, c); });
+}

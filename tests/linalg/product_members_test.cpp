@@ -94,8 +94,21 @@ TEST_P(DenseProductMember, TreatsASmallerResultByItsRule)
         const counts sizes{cells.integer(2, 9), cells.integer(2, 9), cells.integer(2, 9),
                            cells.integer(2, 9)};
         operands tables = randomOperands(GetParam(), sizes, cells);
-        shape result = GetParam().written(sizes);
-        result.rows -= 1;
-        expectTwins(GetParam(), sizes, tables, result);
+        const shape whole = GetParam().written(sizes);
+        expectTwins(GetParam(), sizes, tables, {whole.rows - 1, whole.cols});
+        if (whole.cols > 1) {
+            expectTwins(GetParam(), sizes, tables, {whole.rows, whole.cols - 1});
+            expectTwins(GetParam(), sizes, tables, {whole.rows + 2, whole.cols - 1});
+        }
+    }
+}
+
+TEST_P(DenseProductMember, TakesCountsBelowNone)
+{
+    for (const counts sizes : {counts{-1, 2, 2, 2}, counts{2, -1, 2, 2}, counts{2, 2, -1, 2},
+                               counts{2, 2, 2, -1}, counts{-3, -2, 2, 2}, counts{-1, -1, -1, -1}}) {
+        random_cells cells(1, odd_cells::none);
+        operands tables = randomOperands(GetParam(), {2, 2, 2, 2}, cells);
+        expectTwins(GetParam(), sizes, tables, {3, GetParam().byIndex ? 1 : 3});
     }
 }

@@ -91,6 +91,24 @@ TEST(IntegerProducts, HaveTheBitsOfThePlainLoop)
     M_ProductAB(&A, 2, 3, &A, 2, &C);
     plainABInt(A, 2, 3, A, 2, expected);
     EXPECT_TRUE(sameIntegers(C, expected)) << "tables smaller than the counts";
+    for (std::uint64_t seed = 1; seed <= 60; ++seed) {
+        random_cells cells(seed, odd_cells::none);
+        const auto some = [&](int count) { return seed % 2 == 0 ? count : cells.integer(1, count); };
+        matrix<int> left = randomIntegers(cells, some(4), some(5));
+        matrix<int> right = randomIntegers(cells, some(5), some(6));
+        matrix<int> product(cells.integer(0, 5), cells.integer(1, 7), 5);
+        matrix<int> plain(product.nbrows, product.nbcols, 5);
+        M_ProductAB(&left, 4, 5, &right, 6, &product);
+        plainABInt(left, 4, 5, right, 6, plain);
+        ASSERT_TRUE(sameIntegers(product, plain)) << "seed " << seed;
+        std::vector<int> block(8, 5);
+        matrix<int> borrowed(cells.integer(1, 4), 2, block.data(), true);
+        std::vector<int> plainBlock(8, 5);
+        matrix<int> plainBorrowed(borrowed.nbrows, 2, plainBlock.data(), true);
+        M_ProductAB(&left, 4, 5, &right, 6, &borrowed);
+        plainABInt(left, 4, 5, right, 6, plainBorrowed);
+        ASSERT_EQ(block, plainBlock) << "a borrowed result that is too small, seed " << seed;
+    }
     matrix<int> larger(4, 3, 5);
     matrix<int> alike(4, 3, 5);
     matrix<int> row = integersOf(1, 2, {3, 4});
@@ -159,5 +177,7 @@ TEST(IntegerProducts, OfNumbersCutEachSum)
     EXPECT_TRUE(sameIntegers(C, matrix<int>(2, 2, smallestInt)));
     matrix<int> kept(1, 1, 7);
     M_ProductTrAA(&odd, 1, 0, &kept);
+    EXPECT_TRUE(sameIntegers(kept, integersOf(1, 1, {7})));
+    M_ProductTrAA(&odd, 1, -2, &kept);
     EXPECT_TRUE(sameIntegers(kept, integersOf(1, 1, {7})));
 }

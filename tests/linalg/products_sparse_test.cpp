@@ -246,6 +246,14 @@ TEST(SparseProducts, MayReplaceWhatTheyRead)
         matrixSparse C = A;
         M_ProductAB(&C, 2, 2, &C, 2, &C, keep);
         EXPECT_TRUE(sameStorage(C, expected));
+        matrixSparse other = tableOfRows(2, {{{1, 3.0}}, {{0, 4.0}, {1, -1.0}}});
+        const matrixSparse afterwards = plainProduct(A, other, 2);
+        matrixSparse left = A;
+        M_ProductAB(&left, 2, 2, &other, 2, &left, keep);
+        EXPECT_TRUE(sameStorage(left, afterwards)) << "over the left one";
+        left = A;
+        M_ProductAB(&left, 2, 2, &other, 2, &other, keep);
+        EXPECT_TRUE(sameStorage(other, afterwards)) << "over the right one";
     }
 }
 
@@ -265,4 +273,18 @@ TEST(SparseProducts, ReachNothingOutside)
     EXPECT_TRUE(sameBits(y.data[0], -9.0)) << "elements outside read -1";
     matrix<double> none;
     EXPECT_TRUE(sameBits(M_ProductTrVBV(&none, -1, &B), 0.0));
+    matrix<double> threes(3, 1, 3.0);
+    matrixSparse one = tableOfRows(1, {{{0, 2.0}}});
+    M_ProductBV(&one, 3, 1, &threes, &threes);
+    EXPECT_TRUE(sameTables(threes, vectorOf<double>({6.0, 0.0, 0.0}))) << "rows that are not there are empty";
+    matrix<double> twos(2, 1, 2.0);
+    matrix<double> sums(2, 1, 9.0);
+    M_ProductTrBV(&one, 2, 2, &twos, &sums);
+    EXPECT_TRUE(sameTables(sums, vectorOf<double>({4.0, 0.0})));
+    for (const counts sizes : {counts{-1, 2, 2}, counts{2, -1, 2}, counts{-2, -1, 2}}) {
+        M_ProductTrAB(&A, sizes.n, sizes.p, &B, sizes.q, &C);
+        EXPECT_TRUE(C.values.empty());
+        M_ProductATrB(&A, sizes.q, sizes.p, &B, sizes.n, &C);
+        EXPECT_TRUE(C.values.empty());
+    }
 }

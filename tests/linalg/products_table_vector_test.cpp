@@ -97,3 +97,25 @@ TEST(TableVectorProducts, QuadraticFormGoesByWayOfTableTimesVector)
     EXPECT_TRUE(sameBits(M_ProductTrVBV(std::as_const(v), 2, std::as_const(B)), 4.0));
     EXPECT_TRUE(sameBits(M_ProductTrV1BV2(&w, 2, &B, &v), -11.0));
 }
+
+TEST(TableVectorProducts, FormsSumTheTableTimesTheLastVectorFirst)
+{
+    for (const int n : productSizes) {
+        random_cells cells(static_cast<std::uint64_t>(n) + 1, odd_cells::missing_and_zeros);
+        matrix<double> B = tableOfRandom(cells, {n, n});
+        matrix<double> x1 = cells.values(n);
+        matrix<double> x2 = cells.values(n);
+        const auto form = [&](const matrix<double>& left, const matrix<double>& right) {
+            matrix<double> y(n, 1, 0.0);
+            plainVector(n, n, y, [&](int i, int k) { return B.getElement(i, k) * right[k]; });
+            double sum = 0.0;
+            for (int i = 0; i < n; ++i) {
+                sum += left[i] * y[i];
+            }
+            return sum;
+        };
+        EXPECT_TRUE(sameBits(M_ProductTrV1BV2(&x1, n, &B, &x2), form(x1, x2)));
+        EXPECT_TRUE(sameBits(M_ProductTrVBV(&x1, n, &B), form(x1, x1)));
+        EXPECT_TRUE(sameBits(M_ProductTrVBV(std::as_const(x2), n, std::as_const(B)), form(x2, x2)));
+    }
+}

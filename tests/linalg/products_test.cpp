@@ -129,12 +129,21 @@ TEST(Products, ClearWhatIsLargeEnoughInStorageOrder)
     matrix<double>* result = &D;
     M_ProductTrAB(&A, 2, 2, &B, 2, result);
     EXPECT_TRUE(sameTables(D, tableOf({{2, 6}, {10, 14}, {0, 9}}))) << "sums from 0.0 are stored";
+    matrix<double> E(3, 2, 9.0);
+    result = &E;
+    chunk_places columns(A);
+    M_ProductABSPV(columns.get(), 2, 2, &B, 2, result);
+    EXPECT_TRUE(sameTables(E, D));
+    matrix<double> F;
+    result = &F;
+    M_ProductABSPV(columns.get(), 2, 2, &B, 2, result);
+    EXPECT_TRUE(sameTables(F, tableOf({{2, 6}, {10, 14}}))) << "too small, and made anew";
 }
 
 TEST(Products, OfNothingAreClearedResults)
 {
     matrix<double> none;
-    for (const shape counts : {shape{2, 0}, shape{0, 2}, shape{-1, 2}, shape{2, -3}}) {
+    for (const shape counts : {shape{2, 0}, shape{0, 2}, shape{-1, 2}, shape{2, -3}, shape{-1, -2}}) {
         matrix<double> C(2, 2, 9.0);
         M_ProductAB(none, counts.rows, 4, none, counts.cols, C);
         EXPECT_TRUE(sameTables(C, matrix<double>(2, 2, 9.0))) << "nothing to clear";

@@ -86,8 +86,11 @@ TEST(TripleProducts, PromisedSymmetryIsNotChecked)
     EXPECT_TRUE(sameTables(C, tableOf({{1, 3}, {3, 4}}))) << "any flag but 0, the lower half mirrored";
     M_ProductABTrA(&A, 2, 2, &B, short{0}, &C);
     EXPECT_TRUE(sameTables(C, B));
-    M_ProductTrABA(&A, 2, 2, &B, short{-1}, &C);
-    EXPECT_TRUE(sameTables(C, tableOf({{1, 3}, {3, 4}})));
+    for (const short int promise : {short{-1}, short{2}}) {
+        C.Redim(2, 2, 0.0);
+        M_ProductTrABA(&A, 2, 2, &B, promise, &C);
+        EXPECT_TRUE(sameTables(C, tableOf({{1, 3}, {3, 4}})));
+    }
     M_ProductTrABA(&A, 2, 2, &B, short{0}, &C);
     EXPECT_TRUE(sameTables(C, B));
 }

@@ -100,3 +100,17 @@ TEST(VectorProducts, ProductOfAllElements)
     auto thirteen = vectorOf<int>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13});
     EXPECT_TRUE(sameBits(V_Product1toN(&thirteen, 13), 6227020800.0)) << "13!, past what an int holds";
 }
+
+TEST(VectorProducts, ElementByElementTakeTheResultAsItIs)
+{
+    auto x = vectorOf<double>({2.0, 3.0});
+    matrix<double> row(1, 3, 9.0);
+    V_ProductV1V2(&x, 2, &x, &row);
+    EXPECT_EQ(row.nbcols, 3);
+    EXPECT_TRUE(sameBits(row.data[0], 4.0));
+    EXPECT_TRUE(sameBits(row.data[1], 9.0));
+    matrix<double> one(1, 1, 8.0);
+    V_ProductV1V2(&x, 2, &x, &one);
+    EXPECT_EQ(one.nbrows, 1);
+    EXPECT_TRUE(sameBits(one.data[0], 4.0));
+}

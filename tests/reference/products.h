@@ -20,7 +20,7 @@ void plainClear(matrix<T>& C, int rows, int cols)
         C.Redim(rows, cols, T{});
         return;
     }
-    for (int k = 0; k < rows * cols; ++k) {
+    for (int k = 0; rows > 0 && cols > 0 && k < rows * cols; ++k) {
         C.data[k] = T{};
     }
 }
