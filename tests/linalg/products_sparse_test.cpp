@@ -238,6 +238,21 @@ TEST(SparseProducts, MayKeepTheMemoryOfTheResult)
     EXPECT_LT(released.values.capacity(), 25u);
 }
 
+TEST(SparseProducts, OfThreeMayKeepTheMemoryToo)
+{
+    matrixSparse A = tableOfRows(2, {{{0, 1.0}, {1, 2.0}}, {{1, 5.0}}});
+    for (const bool keep : {true, false}) {
+        matrixSparse first(5, 5, 0.0, true);
+        const double* memory = first.values.data();
+        M_ProductABTrA(&A, 2, 2, &A, false, &first, keep);
+        EXPECT_EQ(first.values.data() == memory, keep);
+        matrixSparse second(5, 5, 0.0, true);
+        memory = second.values.data();
+        M_ProductTrABA(&A, 2, 2, &A, false, &second, keep);
+        EXPECT_EQ(second.values.data() == memory, keep);
+    }
+}
+
 TEST(SparseProducts, MayReplaceWhatTheyRead)
 {
     for (const bool keep : {false, true}) {
@@ -265,6 +280,9 @@ TEST(SparseProducts, ReachNothingOutside)
     matrixSparse C;
     M_ProductAB(&A, 4, 2, &B, 2, &C, false);
     EXPECT_TRUE(sameStorage(C, tableOfRows(2, {{{1, 4.0}}, {}, {}, {}})));
+    matrixSparse wide = tableOfRows(3, {{{2, 3.0}, {3, 5.0}}});
+    M_ProductAB(&A, 1, 3, &wide, 1, &C, false);
+    EXPECT_TRUE(sameStorage(C, tableOfRows(1, {{{2, 3.0}}}))) << "columns below the largest count are taken";
     M_ProductAB(&A, 0, 2, &B, 0, &C, false);
     EXPECT_TRUE(sameStorage(C, tableOfRows(0, {})));
     matrix<double> v = vectorOf<double>({2.0});
