@@ -12,8 +12,8 @@ using core_map = void (*)(matrix<double>*, int, int, matrix<double>*);
 
 int map(core_map core, double* x, int rows, int cols, double* y)
 {
-    auto values = frame::borrow(x, rows, frame::columns(cols));
-    auto result = frame::borrow(y, rows, frame::columns(cols));
+    auto result = frame::filling(y, rows, frame::columns(cols));
+    auto values = frame::besides(result, x, rows, frame::columns(cols));
     core(&values, rows, frame::columns(cols), &result);
     return 0;
 }

@@ -66,7 +66,7 @@ KORVEL_API void M_PasteBlock(matrix<double>* x, int rows, int cols, matrixSparse
  * @param lastRow  last row of the block; below `firstRow` nothing is done
  * @param firstCol first column of the block
  * @param lastCol  last column of the block; below `firstCol` nothing is done
- * @param y        receives the block. A dense table may be `x` or share its memory: what is read is then what
+ * @param y        receives the block. A dense table may be `x` or have its block: what is read is then what
  *                 it held before
  * @param row      row of `y` for the first row of the block
  * @param col      column of `y` for its first column

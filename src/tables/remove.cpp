@@ -43,12 +43,15 @@ std::vector<kept_run> notListed(const matrix<T>& list, int n)
     return runs;
 }
 
-/** How many of `n` stand before number `k`, and behind it; a number below 1 counts as 1. */
+/** Of `n` rows or columns, how many stand before number `k`, and how many when it is counted with them. */
 struct neighbours {
     int before;
-    int behind;
+    int upTo;
 
-    neighbours(int n, int k) : before(std::min(std::max(k, 1) - 1, std::max(n, 0))), behind(n - before - 1) {}
+    neighbours(int n, int k)
+        : before(std::clamp(std::max(k, 1) - 1, 0, std::max(n, 0))), upTo(std::clamp(k, 0, std::max(n, 0)))
+    {
+    }
 };
 
 template <class T>
@@ -66,14 +69,14 @@ void M_RemoveCol(matrix<double>* x, int rows, int cols, int k, matrix<double>* o
 {
     const neighbours kept(cols, k);
     copyBlock(reading(*x), {0, 0}, writing(*out), {0, 0}, rows, kept.before);
-    copyBlock(reading(*x), {0, kept.before + 1}, writing(*out), {0, kept.before}, rows, kept.behind);
+    copyBlock(reading(*x), {0, kept.upTo}, writing(*out), {0, kept.upTo - 1}, rows, cols - kept.upTo);
 }
 
 void M_RemoveRow(matrix<double>* x, int rows, int cols, int k, matrix<double>* out)
 {
     const neighbours kept(rows, k);
     copyBlock(reading(*x), {0, 0}, writing(*out), {0, 0}, kept.before, cols);
-    copyBlock(reading(*x), {kept.before + 1, 0}, writing(*out), {kept.before, 0}, kept.behind, cols);
+    copyBlock(reading(*x), {kept.upTo, 0}, writing(*out), {kept.upTo - 1, 0}, rows - kept.upTo, cols);
 }
 
 void M_RemoveCols2(matrix<double>* x, int rows, int cols, int first, int last)

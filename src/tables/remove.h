@@ -18,7 +18,7 @@
  * @param rows rows of the table
  * @param cols columns of the table
  * @param k    the column to leave out. One above `cols` leaves out none, so that the last column falls
- *             outside of the result; one below 1 counts as 1
+ *             outside of the result; one below 1 leaves out none either, and the first column does
  * @param out  receives `rows` by `cols - 1`, sized by the caller
  */
 KORVEL_API void M_RemoveCol(matrix<double>* x, int rows, int cols, int k, matrix<double>* out);
@@ -30,7 +30,7 @@ KORVEL_API void M_RemoveCol(matrix<double>* x, int rows, int cols, int k, matrix
  * @param rows rows of the table
  * @param cols columns of the table
  * @param k    the row to leave out. One above `rows` leaves out none, so that the last row falls outside of
- *             the result; one below 1 counts as 1
+ *             the result; one below 1 leaves out none either, and the first row does
  * @param out  receives `rows - 1` by `cols`, sized by the caller
  */
 KORVEL_API void M_RemoveRow(matrix<double>* x, int rows, int cols, int k, matrix<double>* out);

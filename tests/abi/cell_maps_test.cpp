@@ -76,6 +76,14 @@ TEST(FlatCellMaps, MapEveryCell)
             EXPECT_TRUE(sameBits(inPlace[k], found[k])) << given.name << ", one array, no columns for one";
         }
 
+        guarded<double> shifted(mapped);
+        EXPECT_EQ(given.map(shifted.data(), 11, 1, shifted.data() + 1), 0);
+        const doubles behind = valuesOf(shifted);
+        for (std::size_t k = 0; k < 11; ++k) {
+            EXPECT_TRUE(sameBits(behind[k + 1], found[k]))
+                << given.name << ", read before it is written over";
+        }
+
         guarded<double> none(doubles{7, 7});
         EXPECT_EQ(given.map(x.data(), 0, 2, none.data()), 0);
         EXPECT_EQ(valuesOf(none), (doubles{7, 7}));

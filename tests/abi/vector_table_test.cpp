@@ -79,13 +79,15 @@ TYPED_TEST(FlatVectorByRow, GoesToAVectorAndBack)
     }
 }
 
-TYPED_TEST(FlatVectorByRow, WithoutRowsWritesNothing)
+TYPED_TEST(FlatVectorByRow, WithoutRowsOrColumnsWritesNothing)
 {
     const codes cells{1, 2};
     caller_cells<TypeParam> x(cells);
     caller_cells<TypeParam> v(cells);
     EXPECT_EQ(toVector(x.data(), 0, 2, v.data()), 0);
     EXPECT_EQ(toTable(v.data(), 0, 2, x.data()), 0);
+    EXPECT_EQ(toVector(x.data(), 2, 0, v.data()), 0);
+    EXPECT_EQ(toTable(v.data(), 2, 0, x.data()), 0);
     EXPECT_EQ(x.values(), cells);
     EXPECT_EQ(v.values(), cells);
 }
@@ -114,6 +116,11 @@ TEST(FlatVectorByColumn, ReturnsToATableWithItsMissingCells)
     EXPECT_EQ(Cpp_VectToMat(v.data(), pattern.data(), 3, 2, x.data()), 0);
     EXPECT_EQ(valuesOf(x), (doubles{1, missing, 3, 4, 5, missing}));
     EXPECT_EQ(valuesOf(v), (doubles{1, 2, 3, 4, 5, 6}));
+
+    EXPECT_EQ(Cpp_VectToMat(v.data(), pattern.data(), 5, 1, v.data() + 1), 0);
+    EXPECT_EQ(valuesOf(v), (doubles{1, 1, missing, 3, 4, 5})) << "read before it is written over";
+    EXPECT_EQ(Cpp_VectToMat(x.data(), pattern.data(), 5, 1, pattern.data() + 1), 0);
+    EXPECT_EQ(valuesOf(pattern), (doubles{0, 1, missing, 3, 4, 5})) << "read before it is written over";
 
     guarded<double> none(doubles{7});
     EXPECT_EQ(Cpp_VectToMat(v.data(), pattern.data(), 0, 2, none.data()), 0);
