@@ -20,7 +20,7 @@ template <class T, class R>
 void besideEachOther(const matrix<T>& a, int rowsA, int colsA, const matrix<T>& b, int rowsB, int colsB,
                      matrix<R>& out)
 {
-    const bool allStored = rowsA == rowsB && 0 <= colsA && 0 <= colsB && 0 < colsA + colsB;
+    const bool allStored = rowsA == rowsB && 0 <= colsA && 0 <= colsB;
     korvel::redimToFill(out, std::max(rowsA, rowsB), colsA + colsB, allStored);
     copyBlock(reading(a), {0, 0}, writing(out), {0, 0}, rowsA, colsA);
     copyBlock(reading(b), {0, 0}, writing(out), {0, colsA}, rowsB, colsB);
@@ -41,7 +41,7 @@ void append(matrix<T>& a, int nA, const matrix<T>& b, int nB)
 template <class T>
 void oneBelowTheOther(const matrix<T>& a, int nA, const matrix<T>& b, int nB, matrix<T>& out)
 {
-    korvel::redimToFill(out, nA + nB, 1, 0 <= nA && 0 <= nB);
+    korvel::redimToFill(out, nA + nB, 1, true);
     copyBlock(reading(a), {0, 0}, writing(out), {0, 0}, nA, 1);
     append(out, nA, b, nB);
 }

@@ -107,6 +107,9 @@ TEST(FlatCellMaps, SubtractTheFirstColumn)
     guarded<double> x(doubles{1, missing, 3, 5, 5, missing, -1, 0.5, 3});
     EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.data(), 3, 3), 0);
     EXPECT_EQ(valuesOf(x), (doubles{0, missing, 0, 4, missing, missing, -2, missing, 0}));
+    guarded<double> large(doubles{-1e300, missing});
+    EXPECT_EQ(Cpp_M_SubstractFirstCol2(large.data(), 1, 2), 0);
+    EXPECT_EQ(valuesOf(large), (doubles{0, missing})) << "nothing is subtracted from what is missing";
     EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.data(), 0, 3), 0);
     EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.data(), 3, 0), 0);
     EXPECT_EQ(valuesOf(x), (doubles{0, missing, 0, 4, missing, missing, -2, missing, 0}));
@@ -133,6 +136,7 @@ TEST(FlatCellMaps, TellWhetherAllCellsLieInAnInterval)
              {{1, missing}, {3, 4}, 0, 0, 0},
              {{1, missing}, {3, 4}, 0, 1, 0},
              {{1, missing}, {3, 4}, 0, -1, -1},
+             {{1, belowSentinel}, {3, 4}, 0, -1, 0},
              {{1, 2}, {notANumber, 4}, 0, -1, 0},
          }) {
         caller_columns x({table.first, table.second});

@@ -115,6 +115,12 @@ TYPED_TEST(FlatSquare, SymmetrizeTakesTheMeanOfEachPair)
     EXPECT_EQ(x.symmetrize(), 0);
     expectCells(x.cells(), {1, 4, 4, 4, 5, missing, 4, missing, notANumber});
 
+    constexpr double smallest = 5e-324;
+    TypeParam exact({1, smallest, belowSentinel, smallest, 1, 2, 2, belowSentinel, 1}, 3);
+    exact.symmetrize();
+    constexpr double half = belowSentinel / 2.0;
+    expectCells(exact.cells(), {1, smallest, half, smallest, 1, half, half, half, 1});
+
     TypeParam y({1, 3, missing, 4}, 2);
     y.symmetrize();
     expectCells(y.cells(), {1, 3, 3, 4});
@@ -275,4 +281,7 @@ TEST(FlatSquareTable, OfSimilaritiesBecomesDissimilarities)
     EXPECT_EQ(VB_M_TransformSimToDissim(none.data(), 1), 0);
     EXPECT_EQ(VB_M_TransformSimToDissim(x.data(), 0), 0);
     EXPECT_EQ(valuesOf(none), doubles{missing});
+    guarded<double> lowest(doubles{0, belowSentinel, missing, -1.0});
+    EXPECT_EQ(VB_M_TransformSimToDissim(lowest.data(), 2), 0);
+    EXPECT_EQ(valuesOf(lowest), (doubles{0, -belowSentinel, missing, 1})) << "missing is one number only";
 }

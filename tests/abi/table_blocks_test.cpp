@@ -136,6 +136,7 @@ TEST(FlatTableBlocks, CopyBlockOfATriangle)
     EXPECT_EQ(block(2, 3, 1, 2, {{0, 0}, {0, 0}}), (columns{{12, 13}, {22, 23}}));
     EXPECT_EQ(block(1, 2, 3, 3, {{0, 0}}), (columns{{13, 23}}));
     EXPECT_EQ(block(2, 1, 3, 3, {{70, 70}}), (columns{{70, 70}}));
+    EXPECT_EQ(block(3, 4, 2, 2, {{0, 0}}), (columns{{23, -1}})) << "reaches outside";
 }
 
 TEST(FlatTableBlocks, Paste)

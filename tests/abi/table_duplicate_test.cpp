@@ -136,6 +136,9 @@ void expectRecords(Function duplicate)
     labelled_table<Cell> y(columns{{11, 12, 13}, {21}});
     duplicate(x.record(), 2, 5, y.record(), 3, 5, 1, 1);
     EXPECT_EQ(y.values(), (columns{{1, outside<Cell>, 13}, {2}}));
+    duplicate(x.record(), 2, -1, y.record(), 3, 2, 1, 1);
+    duplicate(x.record(), 2, 2, y.record(), 3, -1, 1, 1);
+    EXPECT_EQ(y.values(), (columns{{1, outside<Cell>, 13}, {2}})) << "no columns";
 }
 
 } // namespace

@@ -187,6 +187,9 @@ TEST(FlatTableMerge, AVectorAndATable)
          3,
          {1, 0, 0, 8, 9, 0, 0, 0, 0},
          {8, 9, 0, 1, 0, 0, 0, 0, 0}},
+        {"a shorter vector", 2, 1, {1, 2}, {8}, 2, 2, {1, 2, 8, 0}, {8, 0, 1, 2}},
+        {"a shorter table", 1, 1, {1}, {8, 9}, 2, 2, {1, 0, 8, 9}, {8, 9, 1, 0}},
+        {"a wider result", 1, 1, {1}, {8}, 1, 4, {1, 8, 0, 0}, {8, 1, 0, 0}},
         {"a lower result", 2, 1, {1, 2}, {8, 9}, 1, 2, {1, 8}, {8, 1}},
         {"a narrower result", 2, 1, {1, 2}, {8, 9}, 2, 0, {1, 2}, {8, 9}},
     };
@@ -239,6 +242,16 @@ TEST(FlatTableMerge, AVectorAndOneColumn)
     EXPECT_EQ(merged(1, 1), (codes{8, 1}));
     EXPECT_EQ(merged(3, 2), (codes{8, 9, -1, -1})) << "no such column";
     EXPECT_EQ(merged(0, 2), (codes{8, 9, -1, -1})) << "no such column";
+
+    const auto uneven = [](int n, int rows) {
+        caller_cells<double> v({8, 9});
+        caller_cells<double> x({1, 2});
+        caller_cells<double> out(codes(4, 70));
+        EXPECT_EQ(VB_HMergeVectColDbl(v.data(), n, x.data(), rows, 1, 1, out.data(), 2), 0);
+        return out.values();
+    };
+    EXPECT_EQ(uneven(1, 2), (codes{8, 0, 1, 2})) << "a shorter vector";
+    EXPECT_EQ(uneven(2, 1), (codes{8, 9, 1, 0})) << "a shorter column";
 
     caller_cells<double> v({8, 9});
     caller_cells<double> x({1, 2});

@@ -88,6 +88,88 @@ inline void unpack(const table& v, int n, table& x)
     }
 }
 
+inline void symmetrize(table& x, int n)
+{
+    for (int j = 1; j <= n; ++j) {
+        for (int i = j + 1; i <= n; ++i) {
+            const double a = x.vbget(i, j);
+            const double b = x.vbget(j, i);
+            const double mean = a == MISSING_DBL ? b : b == MISSING_DBL ? a : (a + b) / 2.0;
+            x.vbset(i, j, mean);
+            x.vbset(j, i, mean);
+        }
+    }
+}
+
+inline bool isSymmetric(const table& x, int n)
+{
+    bool equal = true;
+    for (int j = 1; j <= n; ++j) {
+        for (int i = 1; i < j; ++i) {
+            equal = equal && x.vbget(i, j) == x.vbget(j, i);
+        }
+    }
+    return equal;
+}
+
+inline bool hasConstantDiagonal(const table& x, int n)
+{
+    bool equal = true;
+    for (int i = 2; i <= n; ++i) {
+        equal = equal && x.vbget(i, i) == x.vbget(1, 1);
+    }
+    return equal;
+}
+
+/** 2 for dissimilarities, 1 for similarities, 0 for neither. */
+inline int kindOfProximity(const table& x, int n)
+{
+    bool similar = n > 0;
+    bool dissimilar = n > 0;
+    for (int i = 1; i <= n; ++i) {
+        const double own = x.vbget(i, i);
+        similar = similar && own == x.vbget(1, 1) && own != MISSING_DBL;
+        dissimilar = dissimilar && own == 0.0;
+        for (int j = 1; j <= n; ++j) {
+            const double cell = x.vbget(i, j);
+            const bool counts = i != j && cell != MISSING_DBL;
+            similar = similar && (!counts || cell <= x.vbget(1, 1));
+            dissimilar = dissimilar && (!counts || cell >= 0.0);
+        }
+    }
+    return dissimilar ? 2 : similar ? 1 : 0;
+}
+
+/** 2 when no cell below the diagonal is filled, 1 when none above it is, 0 otherwise. */
+inline int filledHalf(const table& x, int n)
+{
+    bool below = false;
+    bool above = false;
+    for (int i = 2; i <= n; ++i) {
+        for (int j = 1; j < i; ++j) {
+            below = below || !(x.vbget(i, j) == 0.0 || x.vbget(i, j) == MISSING_DBL);
+            above = above || !(x.vbget(j, i) == 0.0 || x.vbget(j, i) == MISSING_DBL);
+        }
+    }
+    return !below ? 2 : !above ? 1 : 0;
+}
+
+inline void toDissimilarities(table& x, int n)
+{
+    double largest = MISSING_DBL;
+    for (int i = 1; i <= n; ++i) {
+        for (int j = 1; j <= n; ++j) {
+            largest = x.vbget(i, j) > largest ? x.vbget(i, j) : largest;
+        }
+    }
+    for (int j = 1; j <= n; ++j) {
+        for (int i = 1; i <= n; ++i) {
+            const double cell = x.vbget(i, j);
+            x.vbset(i, j, cell == MISSING_DBL ? MISSING_DBL : largest - cell);
+        }
+    }
+}
+
 inline void squareRoots(const table& x, int rows, int cols, table& y)
 {
     for (int j = 0; j < cols; ++j) {

@@ -156,16 +156,16 @@ TEST(TableMerge, VectorsAndTablesAsThePlainLoops)
         reference::hMerge(v, n, 1, v, n / 2, 1, expected);
         expectSame(out, expected);
 
-        HMergeVectCol(v.data, n, &x, rows, cols, &out, rows);
-        reference::copy(v, 1, 1, expected, 1, 1, std::min(n, rows), 1);
-        reference::copy(x, 1, cols, expected, 1, 2, rows, 1);
+        const int outRows = cells.integer(0, rows + 1);
+        HMergeVectCol(v.data, n, &x, rows, cols, &out, outRows);
+        reference::copy(v, 1, 1, expected, 1, 1, std::min(n, outRows), 1);
+        reference::copy(x, 1, cols, expected, 1, 2, std::min(rows, outRows), 1);
         expectSame(out, expected);
 
         HMergeTableVect2(&out, cols, v.data, n);
         reference::copy(v, 1, 1, expected, 1, cols + 1, n, 1);
         expectSame(out, expected);
 
-        const int outRows = cells.integer(0, rows + 1);
         const int outCols = cells.integer(0, cols + 2);
         HMergeTableVect(&x, rows, cols, v.data, n, &out, outRows, outCols);
         reference::copy(x, 1, 1, expected, 1, 1, std::min(rows, outRows), std::min(cols, outCols));

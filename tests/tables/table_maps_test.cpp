@@ -6,6 +6,7 @@
 #include "support/random_cells.h"
 #include "tables/cell_maps.h"
 #include "tables/fill.h"
+#include "tables/proximity.h"
 #include "tables/row_maps.h"
 #include "tables/symmetric.h"
 #include "tables/text_rows.h"
@@ -129,6 +130,40 @@ TEST(TableMaps, OfPackedTrianglesAreThePlainLoops)
         expectAlike(
             given.made(n, n), [&](table& out) { M_CopyVectorToSymMat(&v, n, &out); },
             [&](table& out) { plain::unpack(v, n, out); });
+    });
+}
+
+TEST(TableMaps, OfSquareTablesAreThePlainLoops)
+{
+    forRandomTables([](random_tables given) {
+        const int n = given.cols;
+        const auto on = [n](auto core) {
+            return [n, core](table& x) {
+                table* changed = &x;
+                core(changed, n);
+            };
+        };
+        expectAlike(given.made(n, n), on([](table*& x, int order) { M_Symmetrize(x, order, order); }),
+                    on([](table* x, int order) { plain::symmetrize(*x, order); }));
+        expectAlike(given.made(n, n), on([](table*& x, int order) { M_TransformSimToDissim(x, order); }),
+                    on([](table* x, int order) { plain::toDissimilarities(*x, order); }));
+
+        // Cells that can be alike: pairs and diagonals are equal now and then.
+        for (const double spare : {0.0, 1.0, -1.0}) {
+            for (const bool bLower : {false, true}) {
+                table x = given.made(n, n);
+                for (int j = 0; j < x.nbcols; ++j) {
+                    for (int i = 0; i < x.nbrows; ++i) {
+                        x.data[i + x.nbrows * j] = i == j ? spare : (i > j) == bLower ? 0.0 : -spare;
+                    }
+                }
+                x.oobValue = spare;
+                EXPECT_EQ(M_IsSymmetric(&x, n), plain::isSymmetric(x, n) ? -1 : 0);
+                EXPECT_EQ(M_IsDiagConstant(&x, n), plain::hasConstantDiagonal(x, n) ? -1 : 0);
+                EXPECT_EQ(M_CheckIfSimOrDissim(&x, n, n), plain::kindOfProximity(x, n));
+                EXPECT_EQ(M_IsTriangular(x, n, 0), plain::filledHalf(x, n));
+            }
+        }
     });
 }
 

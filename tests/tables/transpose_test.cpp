@@ -55,7 +55,7 @@ void expectSameTable(const matrix<T>& actual, const matrix<T>& expected)
 }
 
 /** Shapes round the tiles, and two that are written past the caches. */
-constexpr std::array<std::pair<int, int>, 15> shapes{{{1, 1},
+constexpr std::array<std::pair<int, int>, 16> shapes{{{1, 1},
                                                       {1, 50},
                                                       {50, 1},
                                                       {2, 3},
@@ -69,7 +69,8 @@ constexpr std::array<std::pair<int, int>, 15> shapes{{{1, 1},
                                                       {4, 0},
                                                       {1031, 1023},
                                                       {513, 2048},
-                                                      {3, 400000}}};
+                                                      {3, 400000},
+                                                      {400000, 3}}};
 
 template <class From, class To>
 void expectTwin()
@@ -150,6 +151,15 @@ TEST(Transpose, AMissingIntegerIsANumberLikeTheOthers)
     M_Transpose(x, 2, 1, y);
     EXPECT_EQ(y.data[0], -2147483648.0);
     EXPECT_EQ(y.data[1], 3.0);
+}
+
+TEST(Transpose, OfFewerRowsThanNoneIsOneColumnOfZeros)
+{
+    const auto x = numbered<double>(2, 3);
+    matrix<double> y(3, 1, 9.0);
+    M_Transpose(x, -1, 3, y);
+    EXPECT_EQ(y.nbrows, 3);
+    EXPECT_EQ(std::vector<double>(y.data, y.data + y.nbElem), std::vector<double>(3, 0.0));
 }
 
 TEST(Transpose, ReadsTheBlockInTheShapeThatItIsTold)
