@@ -59,7 +59,7 @@ const std::vector<overlap_case> cases{
          double a[] = {91, 92};
          VB_HMergeTableVect(a, 2, 1, x, 3, y, 3, 2);
      }},
-    {"VB_HMergeTableVect2", 2, 4, [](double* x, double* y) { VB_HMergeTableVect2(y, 2, 1, x, 2); }},
+    {"VB_HMergeTableVect2", 3, 4, [](double* x, double* y) { VB_HMergeTableVect2(y, 2, 1, x, 3); }},
     {"VB_HMergeVectTable, vector", 3, 6,
      [](double* x, double* y) {
          double a[] = {91, 92};
