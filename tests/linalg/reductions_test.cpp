@@ -103,6 +103,12 @@ TEST(Reductions, RowSumNormOfABlockOfATriangle)
     EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 3, 2), 20.0));
     EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 2, 3), 26.0));
     EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 2, 2), 10.0));
+    std::vector<double> block{1, 2, 100};
+    matrix3D<matrix<double>> shortColumn;
+    shortColumn.chunks.emplace_back(2, 1, block.data(), true);
+    shortColumn.chunks.push_back(vectorOf<double>({8, 16}));
+    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&shortColumn, 2, 3), 26.0)) << "column 0 has no third element";
+    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&shortColumn, 1, 3), 4.0)) << "its spare slot reads -1";
     triangle.chunks[1].data[1] = MISSING_DBL;
     EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 2, 3), 10.0));
     triangle.chunks[0].oobValue = -50.0;
