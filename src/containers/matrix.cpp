@@ -25,7 +25,7 @@ matrix<T>::matrix(SAFEARRAY* sa) : matrix()
 template <class T>
 std::uint64_t matrix<T>::fillable() const
 {
-    if (data == nullptr) {
+    if (data == nullptr || static_cast<std::int64_t>(nbElem) < 0) {
         return 0;
     }
     return safeArray == nullptr || bOwner ? nbElem : std::min(nbElem, korvel::hostArrayLength(*safeArray));

@@ -33,8 +33,9 @@ matrix<T>::matrix(int rows, int cols, OLECHAR** bstrs, int srcRows, int srcCols)
     : matrix()
 {
     allocate(rows, cols, false);
-    readTexts(*this, bstrs,
-              korvel::elementCount(srcRows != 0 ? srcRows : nbrows, srcCols != 0 ? srcCols : nbcols));
+    const auto given = static_cast<std::int64_t>(
+        korvel::elementCount(srcRows != 0 ? srcRows : nbrows, srcCols != 0 ? srcCols : nbcols));
+    readTexts(*this, bstrs, static_cast<std::uint64_t>(std::max(given, std::int64_t{0})));
 }
 
 template <class T>

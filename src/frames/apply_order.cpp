@@ -6,22 +6,29 @@
 
 using namespace korvel;
 
-int VB_SortApply(double* x, int rows, int cols, double* order, double* out)
+namespace
 {
-    auto table = frame::borrow(x, rows, cols);
-    auto positions = frame::borrow(order, rows);
+
+template <class T>
+int applyOrder(T* x, int rows, int cols, double* order, T* out)
+{
     auto result = frame::borrow(out, rows, cols);
+    auto table = frame::besides(result, x, rows, cols);
+    auto positions = frame::borrow(order, rows);
     SortApply(&table, rows, cols, &positions, &result);
     return 0;
 }
 
+} // namespace
+
+int VB_SortApply(double* x, int rows, int cols, double* order, double* out)
+{
+    return applyOrder(x, rows, cols, order, out);
+}
+
 int VB_SortApplyLng(int* x, int rows, int cols, double* order, int* out)
 {
-    auto table = frame::borrow(x, rows, cols);
-    auto positions = frame::borrow(order, rows);
-    auto result = frame::borrow(out, rows, cols);
-    SortApply(&table, rows, cols, &positions, &result);
-    return 0;
+    return applyOrder(x, rows, cols, order, out);
 }
 
 int VB_SortApplyStr(OLECHAR** x, int rows, int cols, double* order, OLECHAR** out)

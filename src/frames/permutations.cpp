@@ -77,8 +77,8 @@ int Cpp_M_ShuffleStr2(OLECHAR** x, int rows, int cols, int* seed, short int flag
 
 int Cpp_M_ShuffleDbl(double* x, int rows, int cols, double* out, int* seed, short int flag, int* nextSeed)
 {
-    auto table = frame::borrow(x, rows, cols);
     auto result = frame::borrow(out, rows, cols);
+    const auto table = frame::besides(result, x, rows, cols);
     shuffleRows(table, rows, cols, result, seed, flag, nextSeed);
     return 0;
 }

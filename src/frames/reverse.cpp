@@ -8,15 +8,16 @@ using namespace korvel;
 
 int VB_V_ReverseDbl(double* x, int n, double* out)
 {
-    auto values = frame::borrow(x, n);
     auto result = frame::borrow(out, n);
+    auto values = frame::besides(result, x, n);
     V_Reverse(&values, n, &result);
     return 0;
 }
 
 int VB_V_ReverseBool(short int* x, int n, short int* out)
 {
-    V_ReverseBool(x, n, out);
+    const auto flags = frame::besides(frame::borrow(out, n), x, n);
+    V_ReverseBool(flags.data, n, out);
     return 0;
 }
 

@@ -187,9 +187,9 @@ void V_GetRanksTiesInt(matrix<double>* x, int n, matrix<double>* w, matrix<doubl
         values[i] = (*x)[i];
         weights[i] = (*w)[i];
     }
+    const auto sorted = ascending(values, n); // before `ranks` is written, which may be `x`
     V_GetRanksTies(&values, n, 0, &weights, ranks, nTies, tieSizes);
 
-    const auto sorted = ascending(*x, n);
     int rank = 0;
     for (std::size_t k = 0; k < sorted.size(); ++k) {
         (*ranks)[sorted.position(k)] = sorted.key(k) == MISSING_DBL ? MISSING_DBL : ++rank;

@@ -249,6 +249,17 @@ TEST(FlatDistinct, Lists)
     EXPECT_EQ(n, 0);
 }
 
+TEST(FlatRanks, DistinctRanksMayTakeThePlaceOfTheirNumbers)
+{
+    guarded<double> x{30, 10, 20, 10};
+    guarded<double> w{1, 1, 1, 1};
+    guarded<double> sizes{0, 0, 0, 0};
+    int ties = -1;
+    EXPECT_EQ(VB_V_GetRanksTiesIntDbl(x.data(), 4, w.data(), x.data(), &ties, sizes.data()), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{4, 1, 3, 2}));
+    EXPECT_EQ(ties, 1);
+}
+
 TEST(FlatReverse, EveryForm)
 {
     guarded<double> x{1, 2, 3};

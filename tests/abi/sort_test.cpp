@@ -2,6 +2,7 @@
 #include "support/caller_memory.h"
 #include "support/guarded.h"
 
+#include <boost/numeric/conversion/cast.hpp>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -218,6 +219,21 @@ TEST(FlatSort, Vectors)
     EXPECT_EQ(Cpp_SortQVector2Str(blockOf(more), 4, 2, 4, -1, index.data()), 0);
     EXPECT_EQ(textsIn(more), (texts{u"z", u"b", u"b", u"a"}));
     EXPECT_EQ(valuesOf(index), (ints{1, 2, 4, 3}));
+    EXPECT_TRUE(memory.guardsIntact());
+}
+
+TEST(FlatSort, AVectorIsAsLongAsItsDescriptorSays)
+{
+    caller_memory memory;
+    SAFEARRAY* none = nullptr;
+    EXPECT_EQ(VB_SortQVectorDbl(&none, 3, 1, 3, 0), 0);
+    EXPECT_EQ(VB_SortQVectorLng(&none, 3, 1, 3, 0), 0);
+
+    SAFEARRAY* numbers = memory.array(doubles{3, 1, 2});
+    numbers->rgsabound[0].cElements = 0x80000000;
+    EXPECT_THROW(VB_SortQVectorDbl(&numbers, 3, 1, 3, 0), boost::numeric::positive_overflow);
+    numbers->rgsabound[0].cElements = 3;
+    EXPECT_EQ(numbersIn<double>(numbers), (doubles{3, 1, 2}));
     EXPECT_TRUE(memory.guardsIntact());
 }
 

@@ -260,6 +260,21 @@ TEST(FlatTableMerge, AVectorAndOneColumn)
     EXPECT_EQ(out.values(), (codes{8, 9, 1, 2})) << "0 is one column";
 }
 
+TEST(FlatTableMerge, AResultOfNegativeHeightIsNotWritten)
+{
+    const codes before{1, 2, 3, 4, 5, 6};
+    caller_cells<double> x(before);
+    caller_cells<double> out(before);
+    double* const middle = out.data() + 3;
+    EXPECT_EQ(VB_HMergeTablesDbl(x.data(), -1, 1, x.data(), -2, 1, middle), 0);
+    EXPECT_EQ(VB_HMergeVectors(x.data(), -1, x.data(), -2, middle), 0);
+    EXPECT_EQ(VB_HMergeTableVect(x.data(), 1, 1, x.data(), 1, middle, -1, 3), 0);
+    EXPECT_EQ(VB_HMergeVectTable(x.data(), 1, x.data(), 1, 1, middle, -1, 3), 0);
+    EXPECT_EQ(VB_VMergeTablesDbl(x.data(), -1, 1, x.data(), 0, 2, middle), 0);
+    EXPECT_EQ(out.values(), before);
+    EXPECT_EQ(x.values(), before);
+}
+
 TEST(FlatTableMerge, OneVectorBelowTheOther)
 {
     expectOneBelowTheOther<double>(VB_VMergeVectorsDbl);

@@ -3,6 +3,7 @@
 #include "frames/KORVELMathTools.h"
 #include "support/caller_cells.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <numeric>
 #include <vector>
@@ -21,6 +22,7 @@ struct overlap_case {
 
 double list[] = {2.0};
 int rowList[] = {2};
+double rowOrder[] = {3, 1, 2};
 
 // The table that is read has 3 by 3 cells where nothing else is said.
 const std::vector<overlap_case> cases{
@@ -130,6 +132,32 @@ const std::vector<overlap_case> cases{
      [](double* x, double* y) { Cpp_M_CopyVectortoTableByRowDbl(x, 3, 3, y); }},
     {"Cpp_M_CopySymMatToVector", 9, 6, [](double* x, double* y) { Cpp_M_CopySymMatToVector(x, 3, y); }},
     {"Cpp_M_CopyVectorToSymMat", 6, 9, [](double* x, double* y) { Cpp_M_CopyVectorToSymMat(x, 3, y); }},
+    {"VB_SortApply", 9, 9, [](double* x, double* y) { VB_SortApply(x, 3, 3, rowOrder, y); }},
+    {"VB_V_ReverseDbl", 5, 5, [](double* x, double* y) { VB_V_ReverseDbl(x, 5, y); }},
+    {"VB_M_GroupBy", 9, 9,
+     [](double* x, double* y) {
+         int kinds[] = {0, 0, 0};
+         int groups = 0;
+         VB_M_GroupBy(x, 3, 3, kinds, 1, 0, &groups, y);
+     }},
+    {"VB_M_GroupByW", 9, 9,
+     [](double* x, double* y) {
+         int kinds[] = {0, 0, 0};
+         double weights[] = {1, 2, 3};
+         int groups = 0;
+         VB_M_GroupByW(x, 3, 3, kinds, 1, 0, &groups, y, weights);
+     }},
+    {"VB_M_Dedupe", 9, 15,
+     [](double* x, double* y) {
+         int kept = 0;
+         VB_M_Dedupe(x, 3, 2, &kept, y);
+     }},
+    {"Cpp_M_ShuffleDbl", 9, 9,
+     [](double* x, double* y) {
+         int seed = 7;
+         int nextSeed = 0;
+         Cpp_M_ShuffleDbl(x, 3, 3, y, &seed, -1, &nextSeed);
+     }},
 };
 
 } // namespace
@@ -152,4 +180,22 @@ TEST(FlatTables, ReadAllBeforeItIsWrittenOver)
             }
         }
     }
+}
+
+TEST(FlatTables, FlagsAreReversedBeforeTheyAreWrittenOver)
+{
+    for (std::size_t to = 0; to <= 8; ++to) {
+        std::vector<short int> shared{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+        std::vector<short int> expected = shared;
+        std::reverse_copy(shared.begin() + 4, shared.begin() + 8, expected.begin() + static_cast<int>(to));
+        VB_V_ReverseBool(shared.data() + 4, 4, shared.data() + to);
+        ASSERT_EQ(shared, expected) << to;
+    }
+}
+
+TEST(FlatTables, IntegersAreOrderedBeforeTheyAreWrittenOver)
+{
+    std::vector<int> shared{1, 2, 3, 4, 5};
+    VB_SortApplyLng(shared.data(), 3, 1, rowOrder, shared.data() + 1);
+    EXPECT_EQ(shared, (std::vector<int>{1, 3, 1, 2, 5}));
 }

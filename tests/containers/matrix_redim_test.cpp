@@ -121,6 +121,15 @@ TYPED_TEST(MatrixRedim, ABorrowedObjectStaysAsItIs)
     EXPECT_EQ(values, expected);
 }
 
+TYPED_TEST(MatrixRedim, AViewOfANegativeCountHasNothingToFill)
+{
+    auto values = elements<TypeParam>(6);
+    auto m = viewOf(-1, 3, values.data() + 3);
+    m.Redim(-1, 3, element<TypeParam>(9));
+    expectShape(m, -1, 3, static_cast<std::uint64_t>(-3));
+    EXPECT_EQ(values, elements<TypeParam>(6));
+}
+
 TYPED_TEST(MatrixRedim, ACountThatCannotBeHadFails)
 {
     auto m = numbered<TypeParam>(2, 2);

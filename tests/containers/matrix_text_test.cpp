@@ -40,6 +40,10 @@ TEST(TextMatrix, SourceCountsSayHowManyTextsAreRead)
     EXPECT_EQ(read(3, 2, 2, 0), (std::vector<text>{u"a", u"b", u"c", u"d", u"", u""}));
     // More texts than elements: the table takes what it can hold.
     EXPECT_EQ(read(2, 1, 3, 2), (std::vector<text>{u"a", u"b"}));
+    // A product below 0 is no text at all.
+    EXPECT_EQ(read(2, 1, -1, 1), std::vector<text>(2));
+    EXPECT_EQ(read(2, 1, 0, -2), std::vector<text>(2));
+    EXPECT_EQ(read(2, 1, -1, -1), (std::vector<text>{u"a", u""}));
     // A table always has a column, and so has its own count.
     EXPECT_EQ(read(2, 0, 0, 0), (std::vector<text>{u"a", u"b"}));
 }
