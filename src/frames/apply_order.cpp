@@ -35,7 +35,7 @@ int VB_SortApplyStr(OLECHAR** x, int rows, int cols, double* order, OLECHAR** ou
 {
     auto table = frame::readTexts(x, rows, cols);
     auto positions = frame::borrow(order, rows);
-    auto result = frame::blank<text>(rows, cols);
+    auto result = frame::filling(out, rows, cols);
     SortApply(&table, rows, cols, &positions, &result);
     frame::writeTexts(result, out);
     return 0;

@@ -86,7 +86,7 @@ int Cpp_M_ShuffleDbl(double* x, int rows, int cols, double* out, int* seed, shor
 int Cpp_M_ShuffleStr(OLECHAR** x, int rows, int cols, OLECHAR** out, int* seed, short int flag, int* nextSeed)
 {
     auto table = frame::readTexts(x, rows, cols);
-    auto result = frame::blank<text>(rows, cols);
+    auto result = frame::filling(out, rows, cols);
     shuffleRows(table, rows, cols, result, seed, flag, nextSeed);
     frame::writeTexts(result, out);
     return 0;

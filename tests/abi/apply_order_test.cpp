@@ -45,6 +45,22 @@ TEST(FlatApplyOrder, TakesRowsInTheGivenOrder)
     EXPECT_TRUE(memory.guardsIntact());
 }
 
+TEST(FlatApplyOrder, ATableWithoutColumnsLeavesTheResultAlone)
+{
+    guarded<double> order{3, 1, 2};
+    guarded<double> x{1, 2, 3};
+    guarded<double> out{7, 8, 9};
+    EXPECT_EQ(VB_SortApply(x.data(), 3, 0, order.data(), out.data()), 0);
+    EXPECT_EQ(valuesOf(out), (doubles{7, 8, 9}));
+
+    caller_memory memory;
+    SAFEARRAY* labels = memory.texts({u"a", u"b", u"c"});
+    SAFEARRAY* labelsOut = memory.texts({u"x", u"y", u"z"});
+    EXPECT_EQ(VB_SortApplyStr(blockOf(labels), 3, 0, order.data(), blockOf(labelsOut)), 0);
+    EXPECT_EQ(textsIn(labelsOut), (texts{u"x", u"y", u"z"}));
+    EXPECT_TRUE(memory.guardsIntact());
+}
+
 TEST(FlatApplyOrder, WorksInPlaceOnEveryForm)
 {
     guarded<double> order{3, 1, 2};

@@ -209,5 +209,9 @@ TEST(FlatShuffle, OfTexts)
     EXPECT_EQ(used.next, expected.next);
     EXPECT_EQ(Cpp_M_ShuffleStr2(blockOf(x), 4, 2, &used.seed, used.flag, &used.next), 0);
     EXPECT_EQ(textsIn(x), shuffled);
+
+    // A table without columns leaves the result alone.
+    EXPECT_EQ(Cpp_M_ShuffleStr(blockOf(x), 4, 0, blockOf(out), &used.seed, used.flag, &used.next), 0);
+    EXPECT_EQ(textsIn(out), shuffled);
     EXPECT_TRUE(memory.guardsIntact());
 }
