@@ -154,9 +154,13 @@ void V_GetRanksTies(matrix<double>* x, int n, short int bRestore, matrix<double>
         for (int k = 0; k < n; ++k) {
             rankOf[static_cast<std::size_t>(sortedPlace(k))] = k;
         }
-        rearrange(*w, n, [&](int i) { return rankOf[static_cast<std::size_t>(i)]; });
+        // Weights that are the elements themselves are sorted with them, and put back with them.
+        const bool apart = w->data != x->data;
+        if (apart) {
+            rearrange(*w, n, [&](int i) { return rankOf[static_cast<std::size_t>(i)]; });
+        }
         rankSorted(*x, n, *w, *ranks, {nTies, tieSizes}, mid_rank{});
-        if (bRestore == -1) {
+        if (apart && bRestore == -1) {
             rearrange(*w, n, sortedPlace);
         }
     });

@@ -29,7 +29,7 @@ KORVEL_API void V_GetRanks(matrix<double>* x, int n, matrix<int>* out);
  * @param n        number of elements
  * @param bRestore -1: `x`, `w` and `ranks` are put back into the original order; otherwise all three stay
  * sorted
- * @param w        `n` weights, sorted along
+ * @param w        `n` weights, sorted along; may be `x`
  * @param ranks    receives `n` ranks
  * @param nTies    receives the number of groups: tied ones, and single elements that weigh more than 1
  * @param tieSizes room for `n` numbers; receives the weight of each group
@@ -50,7 +50,8 @@ KORVEL_API void V_GetRanksTiesMinDbl2(matrix<double>* x, int n, short int bResto
 
 /**
  * Ranks 1, 2, ... in ascending order, tied elements in their original order; missing for a missing element.
- * Nothing but the results is modified. The groups are those of `V_GetRanksTies`.
+ * Nothing but the results is modified, each of which may be `x` or `w`. The groups are those of
+ * `V_GetRanksTies`.
  */
 KORVEL_API void V_GetRanksTiesInt(matrix<double>* x, int n, matrix<double>* w, matrix<double>* ranks,
                                   int* nTies, matrix<double>* tieSizes);

@@ -166,7 +166,7 @@ void SortQByCol(matrix<double>* table, int rows, int cols, int from, int to, mat
     const korvel::row_range range(from, to, cols);
     const auto sorted = sortKeys(*key, range, bDesc);
     moveColumnsOf(*table, rows, range, sorted);
-    if (auxRows > 0) {
+    if (auxRows > 0 && aux->data != key->data && aux->data != table->data) {
         moveColumnsOf(*aux, auxRows, range, sorted);
     }
     if (bSortKey) {

@@ -66,15 +66,15 @@ void V_TopBottom3BoxConditional(matrix<double>* x, int n, matrix<double>* w, mat
 {
     const auto sorted = ascending(*x, n);
     std::vector<double> unsorted(sorted.size());
+    std::vector<char> counts(sorted.size()); // taken before the weights move: they may be the groups
     for (std::size_t k = 0; k < sorted.size(); ++k) {
         unsorted[k] = (*w)[static_cast<std::int64_t>(k)];
+        counts[k] = std::fabs((*group)[sorted.position(k)] - groupValue) < levelWidth ? 1 : 0;
     }
     for (std::size_t k = 0; k < sorted.size(); ++k) {
         (*w)[static_cast<std::int64_t>(k)] = unsorted[static_cast<std::size_t>(sorted.position(k))];
     }
-    const auto weightAt = [&](std::size_t k) {
-        return std::fabs((*group)[sorted.position(k)] - groupValue) < levelWidth ? unsorted[k] : 0.0;
-    };
+    const auto weightAt = [&](std::size_t k) { return counts[k] != 0 ? unsorted[k] : 0.0; };
     sumBoxes(sorted, weightAt, {top1, top2, top3}, {bottom1, bottom2, bottom3});
 }
 

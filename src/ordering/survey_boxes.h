@@ -18,8 +18,8 @@
  * @param w          `n` weights. The sort by score moves them in place, but the weight that counts at a
  * sorted position is the one that stood at that position before: with weights that differ, they are those of
  * other rows
- * @param group      `n` group values, not modified; only elements within 1e-12 of `groupValue` add their
- * weight
+ * @param group      `n` group values, not modified unless they are `w`; only elements within 1e-12 of
+ * `groupValue` add their weight
  * @param groupValue the group to count
  */
 KORVEL_API void V_TopBottom3BoxConditional(matrix<double>* x, int n, matrix<double>* w, matrix<double>* group,

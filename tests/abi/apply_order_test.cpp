@@ -94,3 +94,13 @@ TEST(FlatApplyOrder, ANumberThatIsNoRowReadsTheSpareSlot)
     EXPECT_EQ(VB_SortApply2(x.data(), 6, 1, order.data()), 0);
     EXPECT_EQ(valuesOf(x), (doubles{4, -1, -1, -1, -1, 5}));
 }
+
+TEST(FlatApplyOrder, TheOrderMayBeTheTableOrTheResult)
+{
+    guarded<double> x{3, 1, 2};
+    VB_SortApply2(x.data(), 3, 1, x.data());
+    EXPECT_EQ(valuesOf(x), (doubles{2, 3, 1}));
+    guarded<double> table{10, 20, 30};
+    VB_SortApply(table.data(), 3, 1, x.data(), x.data());
+    EXPECT_EQ(valuesOf(x), (doubles{20, 30, 10}));
+}

@@ -57,6 +57,15 @@ TEST(FlatQuantiles, ShortcutsGiveElementsExactly)
     EXPECT_TRUE(sameBits(VB_V_Quantile(many.data(), 91, 0.7), 62.0));
 }
 
+TEST(FlatQuantiles, APositionIsWholeWithinItsTolerance)
+{
+    guarded<double> x{0, 1e12};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 9e-13), 0.0));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 1.5e-12), 1.5));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 1 - 9e-13), 0.0)) << "the integer part";
+    EXPECT_NEAR(VB_V_Quantile(x.data(), 2, 1 - 1.5e-12), 1e12 - 1.5, 2e-4);
+}
+
 TEST(FlatQuantiles, BetweenTwoElementsEachTakesItsShare)
 {
     // One step from the lower element would give 0.92500000000000004.
@@ -228,6 +237,17 @@ TEST(FlatDeviations, MedianAbsoluteIsWeightedUnlessTheWeightsAreConstant)
     EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(holes.data(), 4, 0.0, flags.data(), constant.data()), 2.0));
 }
 
+TEST(FlatDeviations, ConstantWeightsOfZeroGiveThePlainMedian)
+{
+    guarded<double> x{1, 2, 4, 8};
+    guarded<short int> flags{0, 0, 0, -1};
+    guarded<double> w{0, 0, MISSING_DBL, 0};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), w.data()), 2.0));
+    guarded<double> onlyThere{0, 0, 0, 1};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), onlyThere.data()), MISSING_DBL))
+        << "the weight of an element that is left out makes them uneven";
+}
+
 TEST(FlatDeviations, AMissingCentreBecomesTheMedian)
 {
     guarded<double> x{1, 2, 9};
@@ -255,4 +275,12 @@ TEST(FlatDeviations, WinsorizingPullsInTheTails)
     guarded<double> crossed{1, 2, 3, 4, 5};
     EXPECT_EQ(Cpp_V_Winsorize2(crossed.data(), 5, 1.0, 0.0), 0);
     EXPECT_EQ(valuesOf(crossed), (doubles{5, 5, 5, 5, 1}));
+}
+
+TEST(FlatDeviations, WinsorizingLeavesWhatIsNotAboveTheMissingValue)
+{
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    guarded<double> x{1, -infinite, 2, MISSING_DBL, 3};
+    Cpp_V_Winsorize2(x.data(), 5, 0.75, 1.0);
+    EXPECT_EQ(valuesOf(x), (doubles{2, -infinite, 2, MISSING_DBL, 3}));
 }

@@ -153,6 +153,44 @@ TEST(FlatRanks, TiesAreCloserThanTheirWidth)
     EXPECT_EQ(valuesOf(ranks), (doubles{2, 1, 3})) << "dense ranks know no ties but equals";
 }
 
+TEST(FlatRanks, IntegerRanksAndGroupsMayReplaceTheirData)
+{
+    int ties = -1;
+    guarded<double> ones{1, 1, 1, 1};
+    guarded<double> ranks{0, 0, 0, 0};
+    guarded<double> sizes{0, 0, 0, 0};
+    guarded<double> x{20, 10, 30, 20};
+    VB_V_GetRanksTiesIntDbl(x.data(), 4, ones.data(), x.data(), &ties, sizes.data());
+    EXPECT_EQ(valuesOf(x), (doubles{2, 1, 4, 3}));
+    guarded<double> y{20, 10, 30, 20};
+    VB_V_GetRanksTiesIntDbl(y.data(), 4, ones.data(), ranks.data(), &ties, y.data());
+    EXPECT_EQ(valuesOf(ranks), (doubles{2, 1, 4, 3}));
+    EXPECT_EQ(valuesOf(y), (doubles{2, 10, 30, 20}));
+
+    guarded<double> z{5, 1, 5, 9};
+    guarded<double> w{2, 3, 1, 0.5};
+    VB_V_GetRanksTiesIntDbl(z.data(), 4, w.data(), w.data(), &ties, sizes.data());
+    EXPECT_EQ(valuesOf(w), (doubles{2, 1, 3, 4}));
+    EXPECT_EQ(ties, 2);
+    EXPECT_EQ(valuesOf(sizes)[0], 3.0);
+    EXPECT_EQ(valuesOf(sizes)[1], 3.0);
+}
+
+TEST(FlatRanks, WeightsMayBeTheElementsThemselves)
+{
+    guarded<double> x{3, 1, 2};
+    guarded<double> ranks{0, 0, 0};
+    guarded<double> sizes{0, 0, 0};
+    int ties = -1;
+    VB_V_GetRanksTiesDbl(x.data(), 3, -1, x.data(), ranks.data(), &ties, sizes.data());
+    EXPECT_EQ(valuesOf(x), (doubles{3, 1, 2}));
+    EXPECT_EQ(valuesOf(ranks), (doubles{5, 1, 2.5}));
+    EXPECT_EQ(valuesOf(sizes), (doubles{2, 3, 0}));
+    VB_V_GetRanksTiesDbl(x.data(), 3, 0, x.data(), ranks.data(), &ties, sizes.data());
+    EXPECT_EQ(valuesOf(x), (doubles{1, 2, 3}));
+    EXPECT_EQ(valuesOf(ranks), (doubles{1, 2.5, 5}));
+}
+
 TEST(FlatRanks, PositionsInSquareTables)
 {
     int row = 0;
@@ -231,6 +269,21 @@ TEST(FlatDistinct, Counts)
     caller_memory memory;
     SAFEARRAY* labels = memory.texts({u"a", u"", u"A", u"a"});
     EXPECT_EQ(Cpp_V_NbDistinctStr(blockOf(labels), 4), 3);
+}
+
+TEST(FlatDistinct, AStepOfTheToleranceFromTheOneBeforeIsNone)
+{
+    constexpr double epsilon = 2.220446049250313e-16;
+    guarded<double> x{1, 1 + epsilon, 1 + 2 * epsilon, 3, 3 + 2 * epsilon};
+    EXPECT_EQ(VB_V_NbDistinct(x.data(), 5), 3);
+    guarded<double> out{0, 0, 0, 0, 0};
+    int n = -1;
+    VB_V_ExtractDistinct(x.data(), 5, out.data(), &n);
+    EXPECT_EQ(n, 3);
+    EXPECT_EQ(valuesOf(out), (doubles{1, 3, 3 + 2 * epsilon, 0, 0}));
+    VB_V_ExtractDistinct(x.data(), 5, x.data(), &n);
+    EXPECT_EQ(n, 3);
+    EXPECT_EQ(valuesOf(x), (doubles{1, 3, 3 + 2 * epsilon, 3, 3 + 2 * epsilon})) << "over the data";
 }
 
 TEST(FlatDistinct, Lists)
@@ -356,4 +409,20 @@ TEST(FlatSurveyBoxes, OfAGroupCountTheWeightThatStoodAtTheSortedPosition)
     EXPECT_EQ(valuesOf(w), (doubles{20, 30, 10}));
     EXPECT_EQ(valuesOf(x), (doubles{3, 1, 2}));
     EXPECT_EQ(valuesOf(group), (doubles{1, 1, 0}));
+}
+
+TEST(FlatSurveyBoxes, TheWeightsMayBeTheGroups)
+{
+    guarded<double> x{3, 1, 2};
+    guarded<double> both{1, 2, 1};
+    EXPECT_EQ(boxesOf(x, 3, both, both, 1.0), (doubles{1, 0, 3, 2, 3, 3}));
+    EXPECT_EQ(valuesOf(both), (doubles{2, 1, 1}));
+}
+
+TEST(FlatSurveyBoxes, AGroupIsAsWideAsALevel)
+{
+    guarded<double> x{1, 2, 3};
+    guarded<double> ones{1, 1, 1};
+    guarded<double> group{1 + 1e-13, 1 + 1e-11, 1 - 1e-13};
+    EXPECT_EQ(boxesOf(x, 3, ones, group, 1.0), (doubles{1, 1, 1, 1, 2, 2}));
 }

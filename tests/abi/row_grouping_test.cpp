@@ -75,6 +75,19 @@ TEST(FlatGroupBy, AnUnknownMethodLeavesTheSortedInput)
     }
 }
 
+TEST(FlatGroupBy, ByAColumnThatIsNotTheFirst)
+{
+    guarded<double> x{10, 4, 30, 6, 2, 1, 2, 1, 5, 7, 5, 8};
+    guarded<int> kinds{0, 1, 1};
+    guarded<double> out(doubles(12, -7.0));
+    int groups = -1;
+    VB_M_GroupBy(x.data(), 4, 3, kinds.data(), 2, 0, &groups, out.data());
+    EXPECT_EQ(groups, 2);
+    EXPECT_EQ(valuesOf(out), (doubles{10, 40, 10, 30, 1, 2, 2, 2, 7, 5, 5, 5}));
+    VB_M_GroupBy(x.data(), 4, 3, kinds.data(), 2, 0, &groups, x.data());
+    EXPECT_EQ(valuesOf(x), valuesOf(out)) << "over its own table";
+}
+
 TEST(FlatGroupBy, RangeOfNothingIsMissingAndOfOneRowIsZero)
 {
     guarded<double> x{1, 2, 3, 5, MISSING_DBL, 7};
@@ -129,6 +142,24 @@ TEST(FlatGroupBy, WeightsStayWithTheirRows)
     EXPECT_EQ(valuesOf(w), weights);
 }
 
+TEST(FlatGroupBy, WeightedSumsAndMeansPassOverMissingCells)
+{
+    // In sorted order: key 1 with 4 (weight 2), missing (5), 6 (1); key 2 with 3 (weight 8).
+    guarded<double> x{1, 2, 1, 1, 4, 3, MISSING_DBL, 6};
+    guarded<int> kinds{0, 0};
+    guarded<double> w{2, 8, 5, 1};
+    const double expected[8][2] = {{14, 24}, {14.0 / 3, 3}, {MISSING_DBL, 3}, {4, 3},
+                                   {6, 3},   {4, 3},        {6, 3},           {2, 0}};
+    for (int method = 0; method < 8; ++method) {
+        guarded<double> out(doubles(8, -7.0));
+        int groups = -1;
+        VB_M_GroupByW(x.data(), 4, 2, kinds.data(), 1, method, &groups, out.data(), w.data());
+        EXPECT_EQ(groups, 2);
+        EXPECT_EQ(valuesOf(out)[4], expected[method][0]) << method;
+        EXPECT_EQ(valuesOf(out)[5], expected[method][1]) << method;
+    }
+}
+
 TEST(FlatDedupe, MergesEqualRowsAndListsTheDropped)
 {
     // Rows (data, identifier): (1, 2, 50), (3, 4, 40), (1, 2, 30), (1, 2, 20), (3, 5, 10)
@@ -157,6 +188,17 @@ TEST(FlatDedupe, DistinctRowsAreAllKept)
     EXPECT_EQ(doubles(cells.begin() + 8, cells.begin() + 12), (doubles{1, 2, 3, 4}));
     VB_M_Dedupe(x.data(), 0, 1, &kept, out.data());
     EXPECT_EQ(kept, 0);
+}
+
+TEST(FlatDedupe, EqualIdentifiersKeepTheOrderOfTheData)
+{
+    // The last data column orders first: (2, 1) comes before (1, 2), and its copy before the other's.
+    guarded<double> x{1, 1, 2, 2, 2, 2, 1, 1, 7, 7, 7, 7};
+    guarded<double> out(doubles(20, -7.0));
+    int kept = -1;
+    VB_M_Dedupe(x.data(), 4, 2, &kept, out.data());
+    EXPECT_EQ(kept, 2);
+    EXPECT_EQ(valuesOf(out), (doubles{2, 1, 2, 1, 1, 2, 1, 2, 2, 2, 0, 0, 7, 7, 7, 7, 1, 1, 0, 0}));
 }
 
 TEST(FlatExtremes, SmallestOfARecord)

@@ -235,6 +235,20 @@ TEST(SortQByCol, KeepsItsKeysUnlessAskedAndTheRowsBelowThoseThatMove)
     EXPECT_TRUE(std::equal(keys, keys + 3, std::vector<double>{3, 2, 1}.begin()));
 }
 
+TEST(SortQByCol, ACompanionThatIsTheKeyOrTheTableIsNotMovedAgain)
+{
+    double cells[] = {10, 20, 30};
+    double keys[] = {2, 3, 1};
+    matrix<double> table(1, 3, cells, true);
+    matrix<double> sameTable(1, 3, cells, true);
+    matrix<double> key(3, 1, keys, true);
+    matrix<double> sameKey(1, 3, keys, true);
+    SortQByCol(&table, 1, 3, 1, 3, &key, &sameTable, 1, false, false);
+    EXPECT_TRUE(std::equal(cells, cells + 3, std::vector<double>{30, 10, 20}.begin()));
+    SortQByCol(&table, 1, 3, 1, 3, &key, &sameKey, 1, false, false);
+    EXPECT_TRUE(std::equal(keys, keys + 3, std::vector<double>{2, 3, 1}.begin()));
+}
+
 TEST(SortByColumn, SortsItsRangeOfRowsOnly)
 {
     const double start[] = {9, 3, 1, 0, 90, 30, 10, 5};
