@@ -112,6 +112,15 @@ TEST(FlatQuantiles, WeightedTakesTheFirstValueBeyondItsShare)
     EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.9), 3.0));
 }
 
+TEST(FlatQuantiles, WeightedComparesItsShareExactly)
+{
+    guarded<double> x{1, 2, 3};
+    guarded<double> w{0.1, 0.2, 0.3};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5), 2.5));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5 - 1e-15), 2.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5 + 1e-15), 3.0));
+}
+
 TEST(FlatQuantiles, WeightedWithOddWeights)
 {
     // A missing weight is left out of the total of 4, and takes the sum below the target of 2 to the end.

@@ -176,6 +176,19 @@ TEST(FlatRanks, IntegerRanksAndGroupsMayReplaceTheirData)
     EXPECT_EQ(valuesOf(sizes)[1], 3.0);
 }
 
+TEST(FlatRanks, IntegerRanksCountFromTheFirstThatIsNotMissing)
+{
+    guarded<double> x{7, MISSING_DBL, 3, MISSING_DBL, 7};
+    guarded<double> ones{1, 1, 1, 1, 1};
+    guarded<double> ranks{0, 0, 0, 0, 0};
+    guarded<double> sizes{0, 0, 0, 0, 0};
+    int ties = -1;
+    VB_V_GetRanksTiesIntDbl(x.data(), 5, ones.data(), ranks.data(), &ties, sizes.data());
+    EXPECT_EQ(valuesOf(ranks), (doubles{2, MISSING_DBL, 1, MISSING_DBL, 3}));
+    EXPECT_EQ(ties, 1);
+    EXPECT_EQ(valuesOf(sizes)[0], 2.0);
+}
+
 TEST(FlatRanks, WeightsMayBeTheElementsThemselves)
 {
     guarded<double> x{3, 1, 2};

@@ -242,4 +242,7 @@ TEST(FlatSort, IsSorted)
     guarded<double> x{1, 1, 2};
     EXPECT_EQ(VB_V_IsSorted(x.data(), 3, 0), -1);
     EXPECT_EQ(VB_V_IsSorted(x.data(), 3, 7), 0);
+    guarded<double> lastFalls{1, 3, 2};
+    EXPECT_EQ(VB_V_IsSorted(lastFalls.data(), 3, 0), 0);
+    EXPECT_EQ(VB_V_IsSorted(lastFalls.data(), 2, 0), -1) << "only the elements counted";
 }
