@@ -37,6 +37,54 @@ TEST(FlatSort, TableOfNumbersByAKeyWithACompanion)
     }
 }
 
+TEST(FlatSort, ACompanionMovesInAllItsColumns)
+{
+    const doubles moved{5, 4, 6, 8, 7, 9};
+    guarded<double> key{2, 1, 3};
+    for (const auto sort : {VB_SortQDbl, VB_SortQDbl2}) {
+        guarded<double> x{1, 2, 3};
+        guarded<double> aux{4, 5, 6, 7, 8, 9};
+        sort(x.data(), 3, 1, 1, 3, key.data(), aux.data(), 2, 0, 0);
+        EXPECT_EQ(valuesOf(aux), moved);
+    }
+    guarded<int> integers{1, 2, 3};
+    guarded<int> integerKey{2, 1, 3};
+    guarded<int> integerAux{4, 5, 6, 7, 8, 9};
+    VB_SortQLng(integers.data(), 3, 1, 1, 3, integerKey.data(), integerAux.data(), 2, 0, 0);
+    EXPECT_EQ(valuesOf(integerAux), (ints{5, 4, 6, 8, 7, 9}));
+    guarded<short int> booleans{0, -1, 0};
+    guarded<short int> booleanAux{4, 5, 6, 7, 8, 9};
+    VB_SortQBool(booleans.data(), 3, 1, 1, 3, key.data(), booleanAux.data(), 2, 0, 0);
+    EXPECT_EQ(valuesOf(booleanAux), (shorts{5, 4, 6, 8, 7, 9}));
+
+    caller_memory memory;
+    const texts six{u"4", u"5", u"6", u"7", u"8", u"9"};
+    const texts sixMoved{u"5", u"4", u"6", u"8", u"7", u"9"};
+    SAFEARRAY* labels = memory.texts({u"a", u"b", u"c"});
+    SAFEARRAY* others = memory.texts(six);
+    VB_SortQStr(blockOf(labels), 3, 1, 1, 3, key.data(), blockOf(others), 2, 0, 0);
+    EXPECT_EQ(textsIn(others), sixMoved);
+
+    ST_MVect numbers = memory.table({memory.column(u"p", doubles{1, 2, 3})}, {u"p"});
+    guarded<double> aux{4, 5, 6, 7, 8, 9};
+    Cpp_SortQDbl_ST(&numbers, 3, 1, 1, 3, key.data(), aux.data(), 2, 0, 0);
+    EXPECT_EQ(valuesOf(aux), moved);
+    ST_MVect names = memory.table({memory.column(u"p", texts{u"a", u"b", u"c"})}, {u"p"});
+    SAFEARRAY* more = memory.texts(six);
+    Cpp_SortQStr_ST(&names, 3, 1, 1, 3, key.data(), blockOf(more), 2, 0, 0);
+    EXPECT_EQ(textsIn(more), sixMoved);
+    SAFEARRAY* array = memory.array(ints{1, 2, 3});
+    guarded<int> arrayAux{4, 5, 6, 7, 8, 9};
+    Cpp_SortQLng_ST(&array, 3, 1, 1, 3, integerKey.data(), arrayAux.data(), 2, 0, 0);
+    EXPECT_EQ(valuesOf(arrayAux), (ints{5, 4, 6, 8, 7, 9}));
+
+    guarded<double> row{1, 2, 3};
+    guarded<double> twoRows{4, 7, 5, 8, 6, 9};
+    VB_SortQByColDbl(row.data(), 1, 3, 1, 3, key.data(), twoRows.data(), 2, 0, 0);
+    EXPECT_EQ(valuesOf(twoRows), (doubles{5, 8, 4, 7, 6, 9}));
+    EXPECT_TRUE(memory.guardsIntact());
+}
+
 TEST(FlatSort, EqualKeysKeepTheirRowsInBothDirections)
 {
     for (const short int descending : shorts{0, -1}) {
