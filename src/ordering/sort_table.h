@@ -65,8 +65,8 @@ KORVEL_API void SortQ(matrixSparse* table, int rows, int cols, int from, int to,
  * @param from     first column to sort, from 1
  * @param to       last column to sort, included
  * @param key      keys, read at positions `from..to`
- * @param aux      a second table of the same column count, whose columns move along; may be null when
- * `auxRows` is below 1
+ * @param aux      a second table of the same column count, whose columns move along unless it is the key or
+ * the table itself; may be null when `auxRows` is below 1
  * @param auxRows  its rows; below 1 it is left alone
  * @param bDesc    descending when true
  * @param bSortKey true: the key is rewritten in sorted order
