@@ -137,6 +137,17 @@ TEST_F(HostArray, ClearingReachesOnlyTheNewCount)
     EXPECT_EQ(array.numbers<double>(6), (std::vector<double>{0, 0, 0, 0, 5, 6}));
 }
 
+TEST_F(HostArray, ShrinksWithoutData)
+{
+    SAFEARRAY withoutData{};
+    withoutData.cDims = 1;
+    withoutData.cbElements = sizeof(double);
+    withoutData.rgsabound[0] = {3, 1};
+    EXPECT_TRUE(resizeHostArray(withoutData, counts{2}, true));
+    EXPECT_EQ(withoutData.rgsabound[0].cElements, 2u);
+    EXPECT_EQ(withoutData.pvData, nullptr);
+}
+
 TEST_F(HostArray, LowerBoundsStay)
 {
     const host_array array(VT_R8, {2, 2}, -9);

@@ -81,6 +81,7 @@ TYPED_TEST(MatrixRedim, TheSameShapeKeepsEverything)
     m.Redim(2, 3);
     EXPECT_EQ(m.data, block);
     EXPECT_EQ(linear(m), elements<TypeParam>(6));
+    m.capacity = 0; // which only a new shape asks for
     m.Redim(2, 3, element<TypeParam>(4));
     EXPECT_EQ(m.data, block);
     EXPECT_EQ(linear(m), std::vector<TypeParam>(6, element<TypeParam>(4)));

@@ -4,6 +4,7 @@
 #include "support/automation_watch.h"
 #include "support/host_arrays.h"
 
+#include <array>
 #include <boost/numeric/conversion/cast.hpp>
 #include <type_traits>
 
@@ -162,6 +163,51 @@ TEST(Frame, AttachedTextsReturnOnDestruction)
     host_array array(VT_BSTR, {2}, {u"a", null});
     frame::attach<text>(array.address())[0] = u"changed";
     EXPECT_EQ(array.texts(2), (std::vector<place>{u"changed", u""}));
+}
+
+TEST(Frame, WhatSharesMemoryWithTheResultIsCopied)
+{
+    alignas(double) std::array<int, 24> places{};
+    const auto copied = [](const auto& written, auto* from, int rows, int cols) {
+        return frame::besides(written, from, rows, cols).data != from;
+    };
+    const auto integers = frame::borrow(places.data() + 4, 2, 3); // places 4 to 9
+    EXPECT_FALSE(copied(integers, places.data(), 4, 1));
+    EXPECT_FALSE(copied(integers, places.data(), 2, 2));
+    EXPECT_TRUE(copied(integers, places.data(), 5, 1));
+    EXPECT_TRUE(copied(integers, places.data(), 1, 5));
+    EXPECT_TRUE(copied(integers, places.data(), 24, 1)) << "around it";
+    EXPECT_TRUE(copied(integers, places.data() + 6, 1, 1)) << "within it";
+    EXPECT_TRUE(copied(integers, places.data() + 9, 2, 1));
+    EXPECT_FALSE(copied(integers, places.data() + 10, 2, 1));
+    EXPECT_FALSE(copied(integers, places.data() + 2, 5, 0)) << "no cells";
+    EXPECT_FALSE(copied(integers, places.data() + 2, -5, -1)) << "no cells";
+
+    const auto numbers = frame::borrow(reinterpret_cast<double*>(places.data() + 4), 3); // the same places
+    EXPECT_FALSE(copied(numbers, places.data(), 4, 1));
+    EXPECT_TRUE(copied(numbers, places.data(), 5, 1));
+    EXPECT_TRUE(copied(numbers, places.data() + 9, 2, 1));
+    EXPECT_FALSE(copied(numbers, places.data() + 10, 2, 1));
+}
+
+TEST(Frame, WhatIsToBeFilledIsInPlaceOrEmptyTexts)
+{
+    std::array<double, 6> cells{1, 2, 3, 4, 5, 6};
+    auto numbers = frame::filling(cells.data(), 3, 2);
+    EXPECT_EQ(numbers.data, cells.data());
+    frame::clearUnless(true, numbers);
+    EXPECT_EQ(cells[5], 6.0);
+    frame::clearUnless(false, numbers);
+    EXPECT_EQ(cells, (std::array<double, 6>{}));
+    expectShape(frame::filling(cells.data(), 3, 0), 3, 0, 0);
+
+    OLECHAR** const noBlock = nullptr;
+    EXPECT_EQ(linear(frame::filling(noBlock, 3, 2)), std::vector<text>(6));
+    for (const int cols : {0, -1}) {
+        const auto nothing = frame::filling(noBlock, 3, cols);
+        expectShape(nothing, 0, 0, 0);
+        frame::bringBack(nothing, noBlock);
+    }
 }
 
 TEST(Frame, NoFlagsAreZeros)
