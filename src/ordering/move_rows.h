@@ -15,25 +15,38 @@
 namespace korvel
 {
 
-/** From this many cells on, moving them is shared among threads. */
-inline constexpr std::int64_t parallelCellsFrom = 500'000;
+// Small tables must not pay for threads. By a column of its own a table is moved in columns, which takes few
+// threads and pays early; by another key it is moved in rows, as a list that is cut up, and starts later.
+
+/** Whether threads share the moving of a table of so many cells that is sorted by one of its columns. */
+[[nodiscard]] constexpr bool sharesColumns(std::int64_t rows, std::int64_t cols)
+{
+    return rows * cols >= 50'001;
+}
+
+/** Whether threads share the moving of `moved` rows of a table of so many cells that is sorted by another
+ * key. */
+[[nodiscard]] constexpr bool sharesRows(std::int64_t rows, std::int64_t cols, std::size_t moved)
+{
+    return rows * cols >= 500'000 && moved >= 1000;
+}
 
 /**
- * Moves rows into sorted order: rank k goes to place k.
+ * Moves rows into sorted order: rank k goes to place k. The outcome is the same whether it is shared or not.
  *
  * @param sorted   the order, with `size()` and `position(k)`
  * @param columns  number of columns
  * @param columnAt `columnAt(j)` points at the first of the rows that move, in column j; null for a column
  * that is left alone
+ * @param shared   whether threads share the work
  */
 template <class T, class Sorted, class ColumnAt>
-void moveRows(const Sorted& sorted, int columns, ColumnAt columnAt)
+void moveRows(const Sorted& sorted, int columns, ColumnAt columnAt, bool shared)
 {
     const std::size_t rows = sorted.size();
     if (rows == 0 || columns <= 0) {
         return;
     }
-    const bool shared = static_cast<std::int64_t>(rows) * columns >= parallelCellsFrom;
     const int threads = shared ? omp_get_max_threads() : 1;
     if (columns < threads) {
         // Few long columns: each is cut among the threads.

@@ -23,7 +23,7 @@ void sortByColumn(matrix<T>& table, int rows, int cols, int keyCol, int from, in
     const T* key = columnAt(keyCol - 1);
     const korvel::sorted_keys<T> sorted(range.count, descending,
                                         [=](std::int32_t k) -> const T& { return key[k]; });
-    korvel::moveRows<T>(sorted, columns, columnAt);
+    korvel::moveRows<T>(sorted, columns, columnAt, korvel::sharesColumns(rows, cols));
 }
 
 template <class T>

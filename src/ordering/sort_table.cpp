@@ -52,12 +52,15 @@ const void* storageOf(const cST_MVect<T>& table)
     return table.Vectors.empty() ? nullptr : table.Vectors.front().Vect.data;
 }
 
-/** Moves the rows of the range in columns `firstColumn` to `cols - 1`, as far as the table has them. */
+/** Moves the rows of the range in columns `firstColumn` to `cols - 1`, as far as the table of `rows` has
+ * them. */
 template <class T, class Table, class Sorted>
-void moveRowsOf(Table& table, int firstColumn, int cols, const korvel::row_range& range, const Sorted& sorted)
+void moveRowsOf(Table& table, int rows, int firstColumn, int cols, const korvel::row_range& range,
+                const Sorted& sorted)
 {
-    korvel::moveRows<T>(sorted, cols - firstColumn,
-                        [&](int j) { return rangeInColumn(table, firstColumn + j, range); });
+    korvel::moveRows<T>(
+        sorted, cols - firstColumn, [&](int j) { return rangeInColumn(table, firstColumn + j, range); },
+        korvel::sharesRows(rows, cols, sorted.size()));
 }
 
 template <class Table, class T, class Key>
@@ -67,9 +70,9 @@ void sortTable(Table& table, int rows, int cols, int from, int to, matrix<Key>& 
     const korvel::row_range range(from, to, rows);
     const bool keyIsFirstColumn = sortKey && storageOf(key) == storageOf(table);
     const auto sorted = sortKeys(key, range, descending);
-    moveRowsOf<T>(table, keyIsFirstColumn ? 1 : 0, cols, range, sorted);
+    moveRowsOf<T>(table, rows, keyIsFirstColumn ? 1 : 0, cols, range, sorted);
     if (auxCols > 0 && storageOf(*aux) != storageOf(key) && storageOf(*aux) != storageOf(table)) {
-        moveRowsOf<T>(*aux, 0, auxCols, range, sorted);
+        moveRowsOf<T>(*aux, rows, 0, auxCols, range, sorted);
     }
     if (sortKey) {
         writeKeys(sorted, range, key);
