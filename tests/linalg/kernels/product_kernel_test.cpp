@@ -30,7 +30,7 @@ class table
 {
 public:
     table(index rows, index cols, index apart, random_cells& cells)
-        : rows_(rows), stride_(rows + apart), cells_(static_cast<std::size_t>(1 + stride_ * cols + 1))
+        : stride_(rows + apart), cells_(static_cast<std::size_t>(1 + stride_ * cols + 1))
     {
         std::generate(cells_.begin(), cells_.end(), [&] { return cells.value(); });
         for (index j = 0; j < cols; ++j) {
@@ -64,7 +64,6 @@ private:
         return const_cast<T* const*>(list_.data());
     }
 
-    index rows_;
     index stride_;
     std::vector<double> cells_;
     std::vector<double*> list_;
