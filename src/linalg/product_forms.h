@@ -8,7 +8,6 @@
 #define KORVEL_LINALG_PRODUCT_FORMS_H
 
 #include "containers/views.h"
-#include "linalg/clear_result.h"
 #include "linalg/kernels/product.h"
 
 #include <algorithm>

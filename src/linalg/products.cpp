@@ -1,5 +1,6 @@
 #include "linalg/products.h"
 
+#include "linalg/clear_result.h"
 #include "linalg/product_forms.h"
 #include "linalg/team.h"
 

@@ -1,5 +1,6 @@
 #include "linalg/products_missing.h"
 
+#include "linalg/clear_result.h"
 #include "linalg/product_forms.h"
 
 namespace

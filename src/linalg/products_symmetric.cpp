@@ -1,6 +1,7 @@
 #include "linalg/products_symmetric.h"
 
 #include "containers/conversion.h"
+#include "linalg/clear_result.h"
 #include "linalg/product_forms.h"
 
 #include <algorithm>

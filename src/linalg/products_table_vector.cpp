@@ -1,5 +1,6 @@
 #include "linalg/products_table_vector.h"
 
+#include "linalg/clear_result.h"
 #include "linalg/product_forms.h"
 #include "linalg/vector_products.h"
 
