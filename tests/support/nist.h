@@ -8,8 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -23,30 +21,7 @@ struct univariate_set {
 };
 
 /** Reads the file of a univariate set; the number that a certified line ends with follows its last colon. */
-inline univariate_set readUnivariateSet(const std::string& name)
-{
-    std::ifstream file(std::string(KORVEL_TEST_DATA) + "/nist/" + name + ".dat");
-    univariate_set found;
-    std::string line;
-    std::size_t observations = 0;
-    const auto certified = [&] { return std::stod(line.substr(line.rfind(':') + 1)); };
-    while (std::getline(file, line) && line.rfind("---", 0) != 0) {
-        if (line.rfind("Sample Mean", 0) == 0) {
-            found.mean = certified();
-        } else if (line.rfind("Sample Standard Deviation", 0) == 0) {
-            found.deviation = certified();
-        } else if (line.rfind("Number of Observations", 0) == 0) {
-            observations = static_cast<std::size_t>(certified());
-        }
-    }
-    for (double cell = 0.0; file >> cell;) {
-        found.cells.push_back(cell);
-    }
-    if (found.cells.empty() || found.cells.size() != observations) {
-        throw std::runtime_error(name + ": not the data set that its head describes");
-    }
-    return found;
-}
+univariate_set readUnivariateSet(const std::string& name);
 
 /** How many decimal digits of `value` are right, at most the 15 that are certified. */
 inline double correctDigits(double value, double certified)
