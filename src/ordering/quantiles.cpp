@@ -103,7 +103,8 @@ double sortedQuantile(const matrix<double>& x, int n, double p)
 {
     const double position = (n - 1) * p + (p <= 0.5 ? 0.5 : 1.0);
     if (korvel::isWholePosition(position)) {
-        return x[korvel::truncateToInt(position) - 1];
+        // A rounding error may have left the position just below its integer.
+        return x[korvel::truncateToInt(std::round(position)) - 1];
     }
     const double below = std::floor(position);
     if (below == 0.0) {

@@ -4,8 +4,10 @@
 #include "support/caller_memory.h"
 #include "support/guarded.h"
 
+#include <array>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <vector>
 
 using korvel::test::doubles;
@@ -189,18 +191,34 @@ TEST(FlatQuantiles, ThirteenSortTheirDataAndShiftTheirPosition)
     EXPECT_EQ(valuesOf(out), doubles(13, MISSING_DBL));
 }
 
-TEST(FlatQuantiles, ThirteenTakeWholePositionsAndEqualNeighboursAsTheyAre)
+TEST(FlatQuantiles, ThirteenTakeTheElementAtAWholePosition)
+{
+    // Hundredths, so that the positions are exact in integers.
+    constexpr std::array percents{5, 10, 20, 25, 30, 40, 50, 60, 70, 75, 80, 90, 95};
+    // Computed, the position of the 70 % quantile of 91 elements is just below 64, that of 181 just below
+    // 127.
+    ASSERT_LT(90 * 0.7 + 1, 64.0);
+    ASSERT_LT(180 * 0.7 + 1, 127.0);
+    int whole = 0;
+    for (int n = 1; n <= 1000; ++n) {
+        std::vector<double> x(static_cast<std::size_t>(n));
+        std::iota(x.begin(), x.end(), 1.0);
+        std::vector<double> out(percents.size());
+        Cpp_V_Quantiles13(x.data(), n, out.data());
+        for (std::size_t k = 0; k < percents.size(); ++k) {
+            const int hundredths = (n - 1) * percents[k] + (percents[k] <= 50 ? 50 : 100);
+            if (hundredths % 100 == 0) {
+                ++whole;
+                ASSERT_TRUE(sameBits(out[k], hundredths / 100)) << n << ' ' << percents[k];
+            }
+        }
+    }
+    EXPECT_GT(whole, 1000);
+}
+
+TEST(FlatQuantiles, ThirteenTakeEqualNeighboursAsTheyAre)
 {
     guarded<double> out{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
-    // 0.7 * 90 + 1 is just below 64; the element at the integer part counts.
-    std::vector<double> many(91);
-    for (int i = 0; i < 91; ++i) {
-        many[static_cast<std::size_t>(i)] = i + 1;
-    }
-    ASSERT_LT(90 * 0.7 + 1, 64.0);
-    Cpp_V_Quantiles13(many.data(), 91, out.data());
-    EXPECT_TRUE(sameBits(valuesOf(out)[8], 63.0));
-
     constexpr double infinite = std::numeric_limits<double>::infinity();
     guarded<double> equal{infinite, infinite, infinite};
     Cpp_V_Quantiles13(equal.data(), 3, out.data());
