@@ -863,6 +863,32 @@ Public Declare PtrSafe Function Cpp_SortQVector2Str Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function VB_V_IsSorted Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal bStrict As Integer) As Integer
 
+' ---- statistics/column_deviations.h
+
+' Means and standard deviations of the columns.
+Public Declare PtrSafe Function VB_M_MeanStDev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef sds As Double, ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer, ByVal flag As Integer) As Long
+
+' Means, standard deviations and variances of the columns.
+Public Declare PtrSafe Function VB_M_MeanStDevVar Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef sds As Double, ByRef vars As Double, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Means and standard deviations of the rows.
+Public Declare PtrSafe Function VB_M_MeanStDevByRow Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef sds As Double, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Mean, standard deviation and variance of all cells as one sample, column after column, each cell
+' with the weight of its row.
+Public Declare PtrSafe Function VB_M_MeanStDevVarOneInMat Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef mean As Double, _
+    ByRef sd As Double, ByRef var As Double, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer) As Long
+
 ' ---- survey_boxes.h
 
 ' Weights of the highest and lowest distinct scores, cumulative over one, two and three levels.

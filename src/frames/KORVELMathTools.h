@@ -29,6 +29,7 @@
 #include "frames/sampling.h"
 #include "frames/sort_table.h"
 #include "frames/sort_vector.h"
+#include "frames/statistics/column_deviations.h"
 #include "frames/survey_boxes.h"
 #include "frames/symmetric.h"
 #include "frames/table_blocks.h"

@@ -55,6 +55,13 @@ struct running_variance : running_weight {
             mean += w * d / sumW;
         }
     }
+
+    /** The sum of squares over the denominator, of which only an exact 0 is tested: it gives missing. */
+    [[nodiscard]] double variance(short int bUnbiased, short int bFreq) const
+    {
+        const double under = denominator(bUnbiased, bFreq);
+        return under == 0.0 ? MISSING_DBL : m2 / under;
+    }
 };
 
 /** The update of `V_MeanVar`: the step of the mean also enters the sum of squares. */
@@ -134,6 +141,12 @@ template <class State, class Values, class Flags, class Weights>
 [[nodiscard]] inline double rootOrMissing(double x)
 {
     return x < 0.0 ? MISSING_DBL : std::sqrt(x);
+}
+
+/** The same, but 0.0 for a variance of either zero. */
+[[nodiscard]] inline double deviationFrom(double variance)
+{
+    return variance == 0.0 ? 0.0 : rootOrMissing(variance);
 }
 
 } // namespace korvel

@@ -38,12 +38,6 @@ korvel::running_count_variance unweightedState(const matrix<double>& x, int n, K
         x);
 }
 
-double varianceFrom(const korvel::running_variance& state, short int bUnbiased, short int bFreq)
-{
-    const double denominator = state.denominator(bUnbiased, bFreq);
-    return denominator == 0.0 ? MISSING_DBL : state.m2 / denominator;
-}
-
 double overPositive(double m2, double denominator)
 {
     return denominator > 0.0 ? m2 / denominator : MISSING_DBL;
@@ -54,7 +48,7 @@ double overPositive(double m2, double denominator)
 double V_Var(matrix<double>* x, int n, short int* iMissing, matrix<double>* w, short int bUnbiased,
              short int bFreq)
 {
-    return varianceFrom(stateAfter<korvel::running_variance>(*x, n, iMissing, *w), bUnbiased, bFreq);
+    return stateAfter<korvel::running_variance>(*x, n, iMissing, *w).variance(bUnbiased, bFreq);
 }
 
 double V_Var2(matrix<double>* x, int n, short int bUnbiased, short int bFreq)
@@ -69,8 +63,7 @@ double V_Var2(matrix<double>* x, int n, short int bUnbiased, short int bFreq)
 double V_Stdev(matrix<double>* x, int n, short int* iMissing, matrix<double>* w, short int bUnbiased,
                short int bFreq)
 {
-    const double variance = V_Var(x, n, iMissing, w, bUnbiased, bFreq);
-    return variance == 0.0 ? 0.0 : korvel::rootOrMissing(variance);
+    return korvel::deviationFrom(V_Var(x, n, iMissing, w, bUnbiased, bFreq));
 }
 
 void V_MeanVar(matrix<double>* x, int n, double* mean, double* var, short int* iMissing, matrix<double>* w,
@@ -118,7 +111,7 @@ double unweightedVariance(const matrix<double>& x, int n, short int bUnbiased, s
     const auto state = withCells(
         n, [=](auto values) { return accumulate<running_variance>(values, n, no_flags{}, unit_weights{}); },
         x);
-    return varianceFrom(state, bUnbiased, bFreq);
+    return state.variance(bUnbiased, bFreq);
 }
 
 } // namespace korvel
