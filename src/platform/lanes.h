@@ -1,0 +1,260 @@
+/**
+ * @file
+ * Lanes: several doubles computed side by side in one register, from one source for every processor.
+ *
+ * Each lane has the bits that a double by itself would have, so lanes serve results that do not depend on
+ * each other. The usual operators work lane by lane, also with a plain double on one side. A comparison gives
+ * a mask, `&` and `|` combine masks, and `v[k]` is lane k.
+ *
+ * @code
+ * constexpr int width = korvel::lanes::registerWidth;
+ * for (; j + width <= columns; j += width) {
+ *     const auto x = lanes::load<width>(row + j);
+ *     const auto sum = lanes::load<width>(sums + j) + lanes::only(x != MISSING_DBL, w * x);
+ *     lanes::store(sums + j, sum);
+ * }
+ * @endcode
+ *
+ * The width is a template argument: 2, 4 or 8 doubles, at most `registerWidth`, for a loop that wants more at
+ * once holds several registers in an array. On a 64-bit Arm processor a register has two doubles, as it has
+ * on x86 without AVX.
+ *
+ * All functions are inlined always, also without optimisation, and leave no copy that the linker could share.
+ * So a source that is compiled for one instruction set, as those in `kernels/` are, may use them: there
+ * `registerWidth` is that set's, and the width must not come from another source.
+ */
+#ifndef KORVEL_PLATFORM_LANES_H
+#define KORVEL_PLATFORM_LANES_H
+
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+#define KORVEL_IN_LANES inline __attribute__((always_inline))
+
+namespace korvel::lanes
+{
+
+/** Doubles in a register of the instruction set that the source is compiled for; its own in each source. */
+#if defined(__AVX512F__)
+constexpr int registerWidth = 8;
+#elif defined(__AVX__)
+constexpr int registerWidth = 4;
+#else
+constexpr int registerWidth = 2;
+#endif
+
+namespace detail
+{
+
+/** `Width` elements of type `T` in a register, and the same at any address. */
+template <class T, int Width>
+struct register_of {
+    static_assert(Width * sizeof(T) <= registerWidth * sizeof(double), "no register is so wide: use several");
+
+    typedef T type __attribute__((vector_size(Width * sizeof(T))));
+    typedef T loose __attribute__((vector_size(Width * sizeof(T)), aligned(alignof(T)), may_alias));
+};
+
+template <class T, int Width>
+KORVEL_IN_LANES typename register_of<T, Width>::type loadAny(const T* from)
+{
+    return *reinterpret_cast<const typename register_of<T, Width>::loose*>(from);
+}
+
+/** Number of lanes in a type. */
+template <class Lanes>
+constexpr int widthOf = static_cast<int>(sizeof(Lanes) / sizeof(double));
+
+} // namespace detail
+
+/** `Width` doubles. */
+template <int Width>
+using doubles = typename detail::register_of<double, Width>::type;
+
+/** For each of `Width` lanes all bits set or none: what comparing `doubles` gives. */
+template <int Width>
+using mask = decltype(doubles<Width>{} < doubles<Width>{});
+
+/** The `Width` doubles from `from` on, at any address. */
+template <int Width>
+KORVEL_IN_LANES doubles<Width> load(const double* from)
+{
+    return detail::loadAny<double, Width>(from);
+}
+
+/** The `Width` integers from `from` on, as doubles. */
+template <int Width>
+KORVEL_IN_LANES doubles<Width> load(const int* from)
+{
+#if defined(__SSE2__)
+    if constexpr (Width == 2) {
+        return _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(from)));
+    } else
+#endif
+    {
+        return __builtin_convertvector(detail::loadAny<int, Width>(from), doubles<Width>);
+    }
+}
+
+/** Which of the `Width` flags from `from` on are 0. */
+template <int Width>
+KORVEL_IN_LANES mask<Width> areClear(const short int* from)
+{
+#if defined(__SSE2__)
+    if constexpr (Width == 2) {
+        int both = 0;
+        __builtin_memcpy(&both, from, sizeof both);
+        const __m128i clear = _mm_cmpeq_epi16(_mm_cvtsi32_si128(both), _mm_setzero_si128());
+        const __m128i doubled = _mm_unpacklo_epi16(clear, clear);
+        return reinterpret_cast<mask<2>>(_mm_unpacklo_epi32(doubled, doubled));
+    } else
+#endif
+    {
+        return __builtin_convertvector(detail::loadAny<short int, Width>(from) == 0, mask<Width>);
+    }
+}
+
+/** Stores the lanes as doubles from `to` on, at any address. */
+template <class Doubles>
+KORVEL_IN_LANES void store(double* to, Doubles values)
+{
+    *reinterpret_cast<typename detail::register_of<double, detail::widthOf<Doubles>>::loose*>(to) = values;
+}
+
+namespace detail
+{
+
+template <int Width, std::size_t... Lane>
+KORVEL_IN_LANES doubles<Width> repeat(double x, std::index_sequence<Lane...>)
+{
+    return doubles<Width>{(static_cast<void>(Lane), x)...};
+}
+
+} // namespace detail
+
+/** `x` in every lane, bit for bit. */
+template <int Width>
+KORVEL_IN_LANES doubles<Width> everywhere(double x)
+{
+    return detail::repeat<Width>(x, std::make_index_sequence<Width>());
+}
+
+/** Every lane chosen, or none. */
+template <int Width>
+KORVEL_IN_LANES mask<Width> everyLane(bool chosen)
+{
+    return mask<Width>{} - (chosen ? 1 : 0);
+}
+
+/** `a` in the lanes that are chosen, `b` in the others. `chosen` is a comparison, or several combined. */
+template <class Mask, class Doubles>
+KORVEL_IN_LANES Doubles select(Mask chosen, Doubles a, Doubles b)
+{
+    return chosen ? a : b;
+}
+
+/** `x` in the lanes that are kept, +0.0 in the others. */
+template <class Mask, class Doubles>
+KORVEL_IN_LANES Doubles only(Mask kept, Doubles x)
+{
+    return reinterpret_cast<Doubles>(kept & reinterpret_cast<Mask>(x));
+}
+
+/** Whether a lane is chosen. */
+template <class Mask>
+KORVEL_IN_LANES bool any(Mask chosen)
+{
+#if defined(__SSE2__)
+    if constexpr (detail::widthOf<Mask> == 2) {
+        return _mm_movemask_pd(reinterpret_cast<__m128d>(chosen)) != 0;
+    } else
+#endif
+    {
+        auto together = chosen[0];
+        for (int k = 1; k < detail::widthOf<Mask>; ++k) {
+            together |= chosen[k];
+        }
+        return together != 0;
+    }
+}
+
+/** `a < b ? a : b`: where one of the two is a NaN, and for two zeros, that is `b`. */
+template <class Doubles>
+KORVEL_IN_LANES Doubles smaller(Doubles a, Doubles b)
+{
+    return a < b ? a : b;
+}
+
+/** `a > b ? a : b`. */
+template <class Doubles>
+KORVEL_IN_LANES Doubles larger(Doubles a, Doubles b)
+{
+    return a > b ? a : b;
+}
+
+/** The absolute values: the sign is cleared, of a NaN too. */
+template <class Doubles>
+KORVEL_IN_LANES Doubles absolute(Doubles x)
+{
+    using bits = mask<detail::widthOf<Doubles>>;
+    return reinterpret_cast<Doubles>(reinterpret_cast<bits>(x) & INT64_MAX);
+}
+
+/** The first lanes of `a` and `b`, and their second lanes. */
+KORVEL_IN_LANES doubles<2> firstOf(doubles<2> a, doubles<2> b)
+{
+    return __builtin_shufflevector(a, b, 0, 2);
+}
+KORVEL_IN_LANES doubles<2> secondOf(doubles<2> a, doubles<2> b)
+{
+    return __builtin_shufflevector(a, b, 1, 3);
+}
+
+/** Asks for the line of the cache that holds an address, which may lie anywhere. */
+KORVEL_IN_LANES void prefetch(const void* address)
+{
+    __builtin_prefetch(address);
+}
+
+/** Four integers. */
+using integers4 = detail::register_of<int, 4>::type;
+
+/**
+ * Stores past the caches where the processor can do so, for what is not read again soon. `to` is a multiple
+ * of 16; `finishStreaming` follows the last of such stores.
+ */
+KORVEL_IN_LANES void stream(double* to, doubles<2> values)
+{
+#if defined(__SSE2__)
+    _mm_stream_pd(to, values);
+#else
+    store(to, values);
+#endif
+}
+KORVEL_IN_LANES void stream(int* to, integers4 values)
+{
+#if defined(__SSE2__)
+    _mm_stream_si128(reinterpret_cast<__m128i*>(to), reinterpret_cast<__m128i>(values));
+#else
+    *reinterpret_cast<detail::register_of<int, 4>::loose*>(to) = values;
+#endif
+}
+
+/** Makes streamed stores visible to other threads in the order of the program. */
+KORVEL_IN_LANES void finishStreaming()
+{
+#if defined(__SSE2__)
+    _mm_sfence();
+#endif
+}
+
+} // namespace korvel::lanes
+
+#undef KORVEL_IN_LANES
+
+#endif

@@ -1,0 +1,4 @@
+#if defined(__x86_64__)
+#define KORVEL_TEST_SET avx2
+#include "platform/lanes_operations.inc"
+#endif
