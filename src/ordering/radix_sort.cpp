@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <omp.h>
 #include <utility>
 #include <vector>
 
@@ -275,13 +274,12 @@ void parallelRadixSort(std::span<image_pair> pairs, std::span<image_pair> scratc
 
 } // namespace
 
-void radixSort(std::span<image_pair> pairs, std::span<image_pair> scratch)
+void radixSort(std::span<image_pair> pairs, std::span<image_pair> scratch, int threads)
 {
-    const auto threads = static_cast<std::size_t>(std::max(1, omp_get_max_threads()));
     if (pairs.size() < parallelFrom) {
         serialRadixSort(pairs.data(), scratch.data(), pairs.size());
     } else {
-        parallelRadixSort(pairs, scratch, threads);
+        parallelRadixSort(pairs, scratch, static_cast<std::size_t>(std::max(1, threads)));
     }
 }
 

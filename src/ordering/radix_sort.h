@@ -41,14 +41,15 @@ inline constexpr std::uint64_t signBit = std::uint64_t{1} << 63;
 
 /**
  * Sorts by ascending image; pairs of one image keep their order. The result does not depend on the number of
- * threads. Above `parallelFrom` pairs the work is shared among the threads that OpenMP grants.
+ * threads.
  *
  * @param pairs   the pairs
  * @param scratch as many pairs, overwritten
+ * @param threads how many threads share the work from `parallelFrom` pairs on
  */
-void radixSort(std::span<image_pair> pairs, std::span<image_pair> scratch);
+void radixSort(std::span<image_pair> pairs, std::span<image_pair> scratch, int threads);
 
-/** From this many pairs on, `radixSort` shares the work among threads. */
+/** Lists of fewer pairs are sorted on one thread. */
 inline constexpr std::size_t parallelFrom = 100'000;
 
 } // namespace korvel

@@ -11,7 +11,8 @@
 namespace
 {
 
-/** Sorts the elements of the range; `landed(k, position)` is told where the element of rank k came from. */
+/** Sorts the elements of the range on this thread; `landed(k, position)` is told where the element of rank k
+ * came from. */
 template <class T, class Landed>
 void sortRange(matrix<T>& x, const korvel::row_range& range, bool descending, Landed landed)
 {
@@ -22,16 +23,17 @@ void sortRange(matrix<T>& x, const korvel::row_range& range, bool descending, La
     const auto count = static_cast<std::size_t>(range.count);
     if constexpr (korvel::is_text<T>) {
         std::vector<T> moved(std::make_move_iterator(elements), std::make_move_iterator(elements + count));
-        const korvel::sorted_texts sorted(range.count, descending, [&](std::int32_t k) -> const T& {
-            return moved[static_cast<std::size_t>(k)];
-        });
+        const korvel::sorted_texts sorted(
+            range.count, descending,
+            [&](std::int32_t k) -> const T& { return moved[static_cast<std::size_t>(k)]; },
+            korvel::sort_threads::one);
         for (std::size_t k = 0; k < count; ++k) {
             landed(k, sorted.position(k));
             elements[k] = std::move(moved[static_cast<std::size_t>(sorted.position(k))]);
         }
     } else {
-        const korvel::sorted_numbers<T> sorted(range.count, descending,
-                                               [&](std::int32_t k) { return elements[k]; });
+        const korvel::sorted_numbers<T> sorted(
+            range.count, descending, [&](std::int32_t k) { return elements[k]; }, korvel::sort_threads::one);
         for (std::size_t k = 0; k < count; ++k) {
             landed(k, sorted.position(k));
             elements[k] = sorted.key(k);

@@ -1,7 +1,8 @@
 /**
  * @file
  * Sorting a vector in place. Equal elements keep their order in both directions. Missing values have no
- * special treatment: the missing number is smaller than every other finite number.
+ * special treatment: the missing number is smaller than every other finite number. A sort of a vector works
+ * on the calling thread alone, however long the vector.
  */
 #ifndef KORVEL_ORDERING_SORT_VECTOR_H
 #define KORVEL_ORDERING_SORT_VECTOR_H

@@ -56,17 +56,17 @@ void comparisonSort(std::span<key_pair<double>> pairs, bool descending)
     serialSort(pairs, key_before<double>{descending});
 }
 
-void comparisonSort(std::span<key_pair<text>> pairs, bool descending)
+void comparisonSort(std::span<key_pair<text>> pairs, bool descending, sort_threads threads)
 {
     const key_before<text> before{descending};
-    if (pairs.size() < parallelTextsFrom || omp_get_max_threads() == 1) {
+    if (threads == sort_threads::one || pairs.size() < parallelTextsFrom || omp_get_max_threads() == 1) {
         serialSort(pairs, before);
     } else {
         __gnu_parallel::stable_sort(pairs.begin(), pairs.end(), before);
     }
 }
 
-void imageSort(std::span<image_pair> pairs)
+void imageSort(std::span<image_pair> pairs, sort_threads threads)
 {
     const auto before = [](const image_pair& a, const image_pair& b) { return a.image < b.image; };
     if (pairs.size() <= smallSort) {
@@ -82,7 +82,7 @@ void imageSort(std::span<image_pair> pairs)
         std::stable_sort(pairs.begin(), pairs.end(), before);
         return;
     }
-    radixSort(pairs, {scratch.get(), pairs.size()});
+    radixSort(pairs, {scratch.get(), pairs.size()}, threads == sort_threads::one ? 1 : omp_get_max_threads());
 }
 
 } // namespace korvel

@@ -34,14 +34,17 @@ struct key_pair {
     std::int32_t position;
 };
 
-/** Stable comparison sort, `a < b` ascending and `a > b` descending. Shared among threads when that pays. */
-void comparisonSort(std::span<key_pair<text>> pairs, bool descending);
+/** Which threads may work on a sort: all that OpenMP grants, where that pays, or the caller's alone. */
+enum class sort_threads { shared, one };
+
+/** Stable comparison sort, `a < b` ascending and `a > b` descending. */
+void comparisonSort(std::span<key_pair<text>> pairs, bool descending, sort_threads threads);
 /** The same on one thread: with a NaN the outcome follows from the steps of the merge, which must not vary.
  */
 void comparisonSort(std::span<key_pair<double>> pairs, bool descending);
 
 /** Sorts `pairs` by image, by insertion when they are few, with scratch of its own otherwise. */
-void imageSort(std::span<image_pair> pairs);
+void imageSort(std::span<image_pair> pairs, sort_threads threads);
 
 /** An array that is part of its object while it is small. */
 template <class T>
@@ -71,17 +74,17 @@ requires(std::same_as<Key, double> || std::same_as<Key, int>) class sorted_numbe
 {
 public:
     template <class KeyAt>
-    sorted_numbers(int count, bool descending, KeyAt keyAt)
+    sorted_numbers(int count, bool descending, KeyAt keyAt, sort_threads threads = sort_threads::shared)
         : pairs_(static_cast<std::size_t>(std::max(count, 0))), flip_(descending ? ~std::uint64_t{0} : 0)
     {
-        const bool unordered = readKeys(keyAt);
+        const bool unordered = readKeys(keyAt, threads);
         if constexpr (std::same_as<Key, double>) {
             if (unordered) {
                 sortUnordered(descending, keyAt);
                 return;
             }
         }
-        imageSort(pairs_.cells());
+        imageSort(pairs_.cells(), threads);
     }
 
     [[nodiscard]] std::size_t size() const { return pairs_.cells().size(); }
@@ -106,12 +109,12 @@ public:
 private:
     /** Fills the pairs; true when there was a NaN, for which the images do not serve. */
     template <class KeyAt>
-    bool readKeys(KeyAt& keyAt)
+    bool readKeys(KeyAt& keyAt, sort_threads threads)
     {
         const std::span<image_pair> pairs = pairs_.cells();
         const auto count = static_cast<std::int32_t>(pairs.size());
         int unordered = 0;
-        if (pairs.size() < parallelFrom) {
+        if (pairs.size() < parallelFrom || threads == sort_threads::one) {
             for (std::int32_t k = 0; k < count; ++k) {
                 unordered |= readKey(pairs, k, keyAt);
             }
@@ -166,7 +169,7 @@ class sorted_texts
 {
 public:
     template <class KeyAt>
-    sorted_texts(int count, bool descending, KeyAt keyAt)
+    sorted_texts(int count, bool descending, KeyAt keyAt, sort_threads threads = sort_threads::shared)
         : pairs_(static_cast<std::size_t>(std::max(count, 0)))
     {
         const std::span<key_pair<text>> pairs = pairs_.cells();
@@ -174,7 +177,7 @@ public:
             const text& key = keyAt(static_cast<std::int32_t>(k));
             pairs[k] = {&key, static_cast<std::int32_t>(k)};
         }
-        comparisonSort(pairs, descending);
+        comparisonSort(pairs, descending, threads);
     }
 
     [[nodiscard]] std::size_t size() const { return pairs_.cells().size(); }
