@@ -1,9 +1,7 @@
 #include "containers/json_maker.h"
 
-#include "containers/json_number.h"
 #include "containers/utf8.h"
 
-#include <cmath>
 #include <memory>
 #include <new>
 #include <string_view>
@@ -97,15 +95,7 @@ void JsonMaker::write(const std::string& key, int value)
 
 void JsonMaker::write(const std::string& key, double value)
 {
-    json_writer& target = at(key);
-    if (std::isfinite(value)) {
-        // RapidJSON's own digits read back as the number, but are at times too many, and often not the
-        // nearest.
-        const std::string number = jsonNumber(value);
-        target.RawValue(number.data(), number.size(), rapidjson::kNumberType);
-    } else {
-        target.Double(value);
-    }
+    at(key).Double(value);
 }
 
 void JsonMaker::write(const std::string& key, const text& value)

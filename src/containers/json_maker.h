@@ -42,8 +42,9 @@ using json_writer = rapidjson::PrettyWriter<json_buffer, rapidjson::UTF8<char>, 
  * with `dispose`; nothing is freed before that.
  *
  * Form of the text: UTF-8; one member of an object a line, indented by 4 spaces a level; an array on one
- * line, with ", " between its elements. A `double` is the shortest text that reads back as the same number
- * and always has a decimal point or an exponent. `NaN`, `Infinity` and `-Infinity`, which standard JSON
+ * line, with ", " between its elements. A `double` has the digits that RapidJSON finds (Loitsch's Grisu2):
+ * they read back as the same number, nearly always the fewest that do, though not always the nearest of
+ * these. It always has a decimal point or an exponent. `NaN`, `Infinity` and `-Infinity`, which standard JSON
  * lacks, stand as such. A missing number is written like any other.
  *
  * An operation with an empty key writes an element of an array, or the one value that the text consists of;

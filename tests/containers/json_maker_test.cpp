@@ -1,8 +1,16 @@
 #include "containers/json_maker.h"
+#include "containers/missing.h"
+#include "support/bits.h"
 
+#include <bit>
+#include <charconv>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
+#include <utility>
 
 #if !defined(_WIN32)
 #include <cstdlib>
@@ -89,13 +97,76 @@ TEST(JsonMaker, IndentsObjectsAndKeepsArraysOnOneLine)
     maker.dispose();
 }
 
-TEST(JsonMaker, WritesTheShortestNumberWithAPointOrAnExponent)
+TEST(JsonMaker, WritesNumbersWithAPointOrAnExponent)
 {
-    EXPECT_EQ(jsonOf(1.0), "1.0");
-    EXPECT_EQ(jsonOf(-0.0), "-0.0");
-    EXPECT_EQ(jsonOf(0.1 + 0.2), "0.30000000000000004");
-    EXPECT_EQ(jsonOf(1e21), "1e21");
-    EXPECT_EQ(jsonOf(MISSING_DBL), "-1.79769313486231e308");
+    const std::pair<double, const char*> cases[] = {
+        {0.0, "0.0"},
+        {-0.0, "-0.0"},
+        {1.0, "1.0"},
+        {-17.0, "-17.0"},
+        {12.5, "12.5"},
+        {0.1, "0.1"},
+        {0.05, "0.05"},
+        {1.0 / 3.0, "0.3333333333333333"},
+        {123456.789, "123456.789"},
+        {9007199254740993.0, "9007199254740992.0"},
+        {1e20, "100000000000000000000.0"},
+        {123456789012345678901.0, "123456789012345680000.0"},
+        {-9.999999999999999e20, "-999999999999999900000.0"},
+        {1e21, "1e21"},
+        {1.5e21, "1.5e21"},
+        {1e-5, "0.00001"},
+        {1.25e-6, "0.00000125"},
+        {1e-6, "0.000001"},
+        {9.5e-7, "9.5e-7"},
+        {-1.25e-10, "-1.25e-10"},
+        {5e-324, "5e-324"},
+        {std::numeric_limits<double>::max(), "1.7976931348623157e308"},
+        {std::numeric_limits<double>::min(), "2.2250738585072014e-308"},
+        {MISSING_DBL, "-1.79769313486231e308"},
+    };
+    for (const auto& [value, expected] : cases) {
+        EXPECT_EQ(jsonOf(value), expected);
+    }
+}
+
+/** The digits are RapidJSON's own. They read back as the number, but are not always the nearest or fewest. */
+TEST(JsonMaker, WritesTheDigitsThatReadersOfItsTextsKnow)
+{
+    EXPECT_EQ(jsonOf(0.1 + 0.2), "0.30000000000000007");
+    EXPECT_EQ(jsonOf(0.13640703636619722), "0.13640703636619723");
+    EXPECT_EQ(jsonOf(2.517779544046383e16), "25177795440463833.0");
+    EXPECT_EQ(jsonOf(-3.223839540649372e-236), "-3.2238395406493718e-236");
+}
+
+TEST(JsonMaker, WritesANumberAsAPlainPrettyWriterDoes)
+{
+    using plain_buffer = rapidjson::GenericStringBuffer<rapidjson::UTF8<>, rapidjson::MemoryPoolAllocator<>>;
+    using plain_writer = rapidjson::PrettyWriter<plain_buffer, rapidjson::UTF8<>, rapidjson::UTF8<>,
+                                                 rapidjson::MemoryPoolAllocator<>>;
+    const auto expectPlain = [](double value) {
+        plain_buffer buffer;
+        plain_writer writer(buffer);
+        writer.Double(value);
+        const std::string number = jsonOf(value);
+        EXPECT_EQ(number, buffer.GetString());
+        EXPECT_NE(number.find_first_of(".e"), std::string::npos) << number;
+        double readBack = 0.0;
+        std::from_chars(number.data(), number.data() + number.size(), readBack);
+        EXPECT_TRUE(korvel::test::sameBits(readBack, value)) << number;
+    };
+    std::mt19937_64 random(30);
+    for (int round = 0; round < 3000; ++round) {
+        if (const auto anyBits = std::bit_cast<double>(random()); std::isfinite(anyBits)) {
+            expectPlain(anyBits);
+        }
+        expectPlain(static_cast<double>(random() >> 11) * 0x1p-53);
+        expectPlain(static_cast<double>(static_cast<int>(random())) / 100.0);
+    }
+    for (int exponent = -1074; exponent < 1024; ++exponent) {
+        expectPlain(std::ldexp(1.0, exponent));
+        expectPlain(-std::nextafter(std::ldexp(1.0, exponent), 0.0));
+    }
 }
 
 TEST(JsonMaker, WritesNumbersThatJsonLacks)
