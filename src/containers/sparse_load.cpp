@@ -2,6 +2,7 @@
 #include "containers/sparse_matrix.h"
 #include "containers/views.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
@@ -37,7 +38,7 @@ void accumulate(std::vector<int>& starts)
 template <class View>
 void load(matrixSparse& target, int rows, int cols, int storedCols, const View& source)
 {
-    std::vector<int> starts(static_cast<std::size_t>(std::int64_t{rows} + 1));
+    std::vector<int> starts(static_cast<std::size_t>(std::max(std::int64_t{rows} + 1, std::int64_t{0})));
     const auto countColumn = [&](auto cells) {
         for (int i = 0; i < rows; ++i) {
             starts[static_cast<std::size_t>(i) + 1] += isKept(cells[i]) ? 1 : 0;

@@ -108,7 +108,8 @@ public:
      * kept: the start of row 1 is set only by an entry of row 1 or of a later row. When row 0 is the only one
      * with entries, in a table of two rows or more, they therefore read as row 1's.
      *
-     * @param m the table; not null
+     * @param m the table; not null. Its counts become this table's, also below 0, and then there are no
+     * entries
      * @throws std::bad_alloc when memory is short, std::length_error when there are more entries than a
      * 32-bit position can tell; this table is then as it was
      */
@@ -155,7 +156,8 @@ public:
      *                    receives false for the larger of the two counts
      * @param rowOffset   first row of the block, 0-based
      * @param colOffset   first column of the block, 0-based
-     * @throws std::bad_alloc, std::length_error (a negative count)
+     * A count below 0 stands for none.
+     * @throws std::bad_alloc when memory is short
      */
     KORVEL_API void calcStrucInfo(int rows, int cols, std::vector<bool>& colEmpty,
                                   std::vector<bool>& rowEmpty, std::vector<bool>& rowDiagOnly, int rowOffset,

@@ -41,9 +41,10 @@ void matrixSparse::calcStrucInfo(int rows, int cols, bool* colEmpty, bool* rowEm
 void matrixSparse::calcStrucInfo(int rows, int cols, std::vector<bool>& colEmpty, std::vector<bool>& rowEmpty,
                                  std::vector<bool>& rowDiagOnly, int rowOffset, int colOffset)
 {
-    colEmpty.assign(static_cast<std::size_t>(cols), true);
-    rowEmpty.assign(static_cast<std::size_t>(rows), false);
-    rowDiagOnly.assign(static_cast<std::size_t>(std::max(rows, cols)), false);
+    const auto flagsFor = [](int count) { return static_cast<std::size_t>(std::max(count, 0)); };
+    colEmpty.assign(flagsFor(cols), true);
+    rowEmpty.assign(flagsFor(rows), false);
+    rowDiagOnly.assign(flagsFor(std::max(rows, cols)), false);
     for (int i = 0; i < rows; ++i) {
         const korvel::entry_range row = korvel::entriesOfRow(*this, std::int64_t{rowOffset} + i);
         for (std::size_t k = row.first; k < row.last; ++k) {

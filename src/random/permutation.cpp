@@ -41,7 +41,7 @@ template <class T>
 void exchangeFromTheLast(matrix<T>& out, int n)
 {
     const double placesPerRaw = n * placeScale;
-    std::array<std::int32_t, 1024> raw;
+    std::array<std::int32_t, laneBlock> raw;
     for (std::int64_t last = std::int64_t{n} - 1; last >= 1;) {
         const auto count = std::min<std::int64_t>(last, raw.size());
         drawRawBlock(processSource, raw.data(), static_cast<std::size_t>(count));

@@ -11,10 +11,6 @@ namespace korvel
 namespace
 {
 
-constexpr int lanes = 4;
-constexpr int laneLength = 256;
-constexpr std::size_t laneBlock = std::size_t{lanes} * laneLength;
-
 /**
  * `laneBlock` numbers of the combined generator. Each step waits for the one before, so the block is cut into
  * lanes that start where the lane before will end, and are walked side by side.

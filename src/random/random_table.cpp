@@ -9,15 +9,14 @@
 namespace
 {
 
+using korvel::panelCells;
 using korvel::processSource;
 
 /**
- * Cells drawn at a time. The draws run along rows and the table lies in columns, so a panel of some rows is
- * drawn first and then dealt out column by column, whole cache lines at once. The panel holds raw numbers,
- * half the size of what they become, and stays in the cache.
+ * The draws run along rows and the table lies in columns, so a panel of some rows is drawn first and then
+ * dealt out column by column, whole cache lines at once. The panel holds raw numbers, half the size of what
+ * they become, and stays in the cache.
  */
-constexpr int panelCells = 131072;
-
 template <class T>
 void fillCells(matrix<T>& out, int rows, int cols)
 {

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <stdexcept>
 #include <vector>
 
 namespace
@@ -43,14 +42,14 @@ void transposeInPlace(matrix<T>& x, int rows, int cols)
 template <class From, class To>
 void transposeView(const From& from, int rows, int cols, const To& to)
 {
-    constexpr int strip = 16;
-    constexpr int run = 128;
+    using korvel::detail::runCols;
+    using korvel::detail::stripRows;
     korvel::withCells(
         [&](auto in) {
-            for (int firstRow = 0; firstRow < rows; firstRow += strip) {
-                const int endRow = std::min(rows, firstRow + strip);
-                for (int firstCol = 0; firstCol < cols; firstCol += run) {
-                    const int endCol = std::min(cols, firstCol + run);
+            for (int firstRow = 0; firstRow < rows; firstRow += stripRows) {
+                const int endRow = std::min(rows, firstRow + stripRows);
+                for (int firstCol = 0; firstCol < cols; firstCol += runCols) {
+                    const int endCol = std::min(cols, firstCol + runCols);
                     for (int i = firstRow; i < endRow; ++i) {
                         korvel::withCells(
                             [&](auto& out) {
@@ -115,11 +114,8 @@ void M_Transpose(matrix<double>* x, int rows, int cols, matrix3D<matrix<double>>
 
 void M_Transpose(const matrixSparse& x, int rows, int cols, matrixSparse& y)
 {
-    if (rows < 0 || cols < 0) {
-        throw std::length_error("matrixSparse: a negative count");
-    }
     // Entries of each row of the result, one place ahead, and from them where each row starts.
-    std::vector<int> starts(static_cast<std::size_t>(cols) + 1);
+    std::vector<int> starts(static_cast<std::size_t>(std::max(cols, 0)) + 1);
     forEachEntry(x, rows, cols, [&](int, std::size_t j, double) { ++starts[j + 1]; });
     for (std::size_t j = 1; j < starts.size(); ++j) {
         starts[j] += starts[j - 1];
@@ -132,8 +128,8 @@ void M_Transpose(const matrixSparse& x, int rows, int cols, matrixSparse& y)
         colIndex[place] = i;
         values[place] = value;
     });
-    y.nbrows = cols;
-    y.nbcols = rows;
+    y.nbrows = std::max(cols, 0);
+    y.nbcols = std::max(rows, 0);
     y.nnz = starts.back();
     y.colIndex.swap(colIndex);
     y.rowStart.swap(starts);

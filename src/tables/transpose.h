@@ -60,11 +60,11 @@ KORVEL_API void M_Transpose(matrix<double>* x, int rows, int cols, matrix3D<matr
  *
  * @param x    the table; only entries in the first `rows` rows and the first `cols` columns are taken, with
  *             whatever value is stored
- * @param rows rows of `x`
- * @param cols columns of `x`
+ * @param rows rows of `x`; a count below 0 stands for none
+ * @param cols columns of `x`; likewise
  * @param y    replaced by a table of `cols` by `rows`; in each row the entries stand in ascending column
  *             order. May be `x`
- * @throws std::bad_alloc when memory is short, std::length_error for counts below 0; `y` is then as it was
+ * @throws std::bad_alloc when memory is short; `y` is then as it was
  */
 KORVEL_API void M_Transpose(const matrixSparse& x, int rows, int cols, matrixSparse& y);
 

@@ -19,6 +19,17 @@ namespace detail
 
 inline constexpr std::size_t cacheLine = 64;
 
+/** Side of the square tiles, and the bytes of a result from which on it is written past the caches. */
+inline constexpr std::ptrdiff_t tileSide = 16;
+inline constexpr std::ptrdiff_t streamedFrom = std::ptrdiff_t{4} << 20;
+
+/** Rows that are written past the caches side by side. */
+inline constexpr std::ptrdiff_t streamedRows = 512;
+
+/** Rows and columns that are taken at a time where a table is transposed cell by cell. */
+inline constexpr int stripRows = 16;
+inline constexpr int runCols = 128;
+
 /** Fills the cache line at `to` with `at(0)`, `at(1)`, ..., past the caches. */
 template <class At>
 void streamLine(double* to, At at)
@@ -44,7 +55,6 @@ void streamLine(int* to, At at)
 template <class From, class To>
 void transposeStreaming(const From* x, std::ptrdiff_t rows, std::ptrdiff_t cols, To* y)
 {
-    constexpr std::ptrdiff_t strip = 512;
     constexpr auto width = static_cast<std::ptrdiff_t>(cacheLine / sizeof(To));
     const auto cell = [=](std::ptrdiff_t i, std::ptrdiff_t j) { return static_cast<To>(x[i + rows * j]); };
     // The first column of row i whose cell in the result opens a cache line.
@@ -52,8 +62,8 @@ void transposeStreaming(const From* x, std::ptrdiff_t rows, std::ptrdiff_t cols,
         const auto address = reinterpret_cast<std::uintptr_t>(y + cols * i);
         return static_cast<std::ptrdiff_t>(-address % cacheLine / sizeof(To));
     };
-    for (std::ptrdiff_t firstRow = 0; firstRow < rows; firstRow += strip) {
-        const std::ptrdiff_t endRow = std::min(rows, firstRow + strip);
+    for (std::ptrdiff_t firstRow = 0; firstRow < rows; firstRow += streamedRows) {
+        const std::ptrdiff_t endRow = std::min(rows, firstRow + streamedRows);
         for (std::ptrdiff_t firstCol = 0; firstCol < cols; firstCol += width) {
             for (std::ptrdiff_t i = firstRow; i < endRow; ++i) {
                 const std::ptrdiff_t j = firstCol + head(i);
@@ -89,18 +99,17 @@ void transposeBlock(const From* x, int rows, int cols, To* y)
     const auto height = static_cast<std::ptrdiff_t>(rows);
     const auto width = static_cast<std::ptrdiff_t>(cols);
     if constexpr (std::same_as<To, double> || std::same_as<To, int>) {
-        constexpr std::ptrdiff_t streamedFrom = std::ptrdiff_t{4} << 20;
         if (height > 0 && width > 0 &&
-            height * width * static_cast<std::ptrdiff_t>(sizeof(To)) >= streamedFrom) {
+            height * width * static_cast<std::ptrdiff_t>(sizeof(To)) >= detail::streamedFrom) {
             detail::transposeStreaming(x, height, width, y);
             return;
         }
     }
-    constexpr std::ptrdiff_t tile = 16;
-    for (std::ptrdiff_t firstCol = 0; firstCol < width; firstCol += tile) {
-        const std::ptrdiff_t endCol = std::min(width, firstCol + tile);
-        for (std::ptrdiff_t firstRow = 0; firstRow < height; firstRow += tile) {
-            const std::ptrdiff_t endRow = std::min(height, firstRow + tile);
+    using detail::tileSide;
+    for (std::ptrdiff_t firstCol = 0; firstCol < width; firstCol += tileSide) {
+        const std::ptrdiff_t endCol = std::min(width, firstCol + tileSide);
+        for (std::ptrdiff_t firstRow = 0; firstRow < height; firstRow += tileSide) {
+            const std::ptrdiff_t endRow = std::min(height, firstRow + tileSide);
             for (std::ptrdiff_t i = firstRow; i < endRow; ++i) {
                 for (std::ptrdiff_t j = firstCol; j < endCol; ++j) {
                     y[j + width * i] = static_cast<To>(x[i + height * j]);

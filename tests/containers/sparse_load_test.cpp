@@ -89,6 +89,9 @@ TEST(SparseLoad, TakesTablesWithoutCells)
     EXPECT_EQ(matrixSparse(&noColumns).rowStart, (positions{0, 0, 0, 0}));
     matrix<double> fewerThanNone(-1, 1, &cell, true);
     EXPECT_EQ(matrixSparse(&fewerThanNone).nnz, 0);
+    matrix<double> negativeRows(-5, 3, &cell, true);
+    EXPECT_EQ(matrixSparse(&negativeRows).nbrows, -5);
+    EXPECT_TRUE(matrixSparse(&negativeRows).rowStart.empty());
     matrix<double> negativeColumns(3, -1, &cell, true);
     EXPECT_EQ(matrixSparse(&negativeColumns).nnz, 0);
 }

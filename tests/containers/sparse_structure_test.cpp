@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <stdexcept>
 
 using korvel::test::guarded;
 using korvel::test::tableOf;
@@ -173,5 +172,10 @@ TEST(SparseStructure, CountsBelowOneDescribeNothing)
     EXPECT_TRUE(none.rowDiagOnly.empty());
     EXPECT_TRUE(pointerForm(m, -1, -1).rowEmpty.empty());
     EXPECT_TRUE(vectorForm(m, 0, 0, 0, 0).rowDiagOnly.empty());
-    EXPECT_THROW(vectorForm(m, 1, -1, 0, 0), std::length_error);
+    const structure noColumns = vectorForm(m, 1, -1, 0, 0);
+    EXPECT_TRUE(noColumns.colEmpty.empty());
+    EXPECT_EQ(noColumns.rowEmpty.size(), 1u);
+    EXPECT_EQ(noColumns.rowDiagOnly, (flags{false}));
+    EXPECT_EQ(vectorForm(m, -1, 2, 0, 0).colEmpty, (flags{true, true}));
+    EXPECT_TRUE(vectorForm(m, -2, -3, 0, 0).rowDiagOnly.empty());
 }

@@ -86,6 +86,18 @@ TEST_F(DesktopFolder, ABackslashTakesTheNextCharacterAsItIs)
     EXPECT_EQ(desktopFolder(), path("/srv/a \"b\" $HOME \\ c"));
 }
 
+TEST_F(DesktopFolder, WithoutAClosingQuoteTheLineEndsIt)
+{
+    configure("XDG_DESKTOP_DIR=\"/srv/desk\n# a comment\n");
+    EXPECT_EQ(desktopFolder(), path("/srv/desk"));
+    configure("XDG_DESKTOP_DIR=\"$HOME/Desk");
+    EXPECT_EQ(desktopFolder(), home / "Desk");
+    configure("XDG_DESKTOP_DIR=\"/srv/desk\\");
+    EXPECT_EQ(desktopFolder(), path("/srv/desk\\")) << "a backslash with nothing behind it stands for itself";
+    configure("XDG_DESKTOP_DIR=\"");
+    EXPECT_EQ(desktopFolder(), home / "Desktop");
+}
+
 TEST_F(DesktopFolder, OtherLinesNameNoFolder)
 {
     for (const char* line : {"XDG_DESKTOP_DIR=\"relative\"", "XDG_DESKTOP_DIR=/unquoted", "XDG_DESKTOP_DIR",

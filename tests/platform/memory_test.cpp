@@ -1,6 +1,7 @@
 #include "platform/memory.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
@@ -60,22 +61,57 @@ TEST(Memory, ATakenBlockLeavesTheFreeAddressSpaceAndComesBack)
     EXPECT_GE(after - during, gigabyte / 4 - 16 * megabyte);
 }
 
-TEST(Memory, ALimitOfTheProcessCounts)
+namespace
 {
-    rlimit old{};
-    ASSERT_EQ(getrlimit(RLIMIT_AS, &old), 0);
-    static_cast<void>(availableAddressSpace()); // the first look maps and unmaps pages of its own
-    const std::uint64_t used = (std::uint64_t{1} << 47) - availableAddressSpace();
-    rlimit tight = old;
-    tight.rlim_cur = used + gigabyte;
-    ASSERT_EQ(setrlimit(RLIMIT_AS, &tight), 0);
-    const std::uint64_t left = availableAddressSpace();
-    void* tooLarge = commitPages(2 * gigabyte);
-    ASSERT_EQ(setrlimit(RLIMIT_AS, &old), 0);
 
-    EXPECT_EQ(tooLarge, nullptr);
-    EXPECT_LE(left, gigabyte);
-    EXPECT_GE(left, gigabyte - 16 * megabyte);
+/** Sets how much address space the process may have, within what it may at most. */
+void limitAddressSpace(std::uint64_t bytes)
+{
+    rlimit limit{};
+    getrlimit(RLIMIT_AS, &limit);
+    limit.rlim_cur = std::min<std::uint64_t>(bytes, limit.rlim_max);
+    setrlimit(RLIMIT_AS, &limit);
+}
+
+/** What the process has mapped. */
+std::uint64_t addressSpaceInUse()
+{
+    limitAddressSpace(std::numeric_limits<std::uint64_t>::max());
+    rlimit limit{};
+    getrlimit(RLIMIT_AS, &limit);
+    static_cast<void>(availableAddressSpace()); // the first look maps and unmaps pages of its own
+    return std::min<std::uint64_t>(limit.rlim_cur, std::uint64_t{1} << 47) - availableAddressSpace();
+}
+
+/** Ends the process with 0 when a limit of the address space is what is told. */
+[[noreturn]] void lookUnderALimit()
+{
+    limitAddressSpace(addressSpaceInUse() + gigabyte);
+    const std::uint64_t left = availableAddressSpace();
+    const bool isTold = left <= gigabyte && left >= gigabyte - 16 * megabyte;
+    std::exit(isTold && commitPages(2 * gigabyte) == nullptr ? 0 : 1);
+}
+
+/** The same for a limit below what the process has taken already. */
+[[noreturn]] void lookUnderALimitBelowWhatIsUsed()
+{
+    limitAddressSpace(addressSpaceInUse() / 2);
+    const std::uint64_t left = availableAddressSpace();
+    std::exit(left == 0 && commitPages(megabyte) == nullptr ? 0 : 1);
+}
+
+} // namespace
+
+// Each look has a process of its own, whatever limit this one stands under.
+
+TEST(MemoryDeathTest, ALimitOfTheProcessCounts)
+{
+    EXPECT_EXIT(lookUnderALimit(), ::testing::ExitedWithCode(0), "");
+}
+
+TEST(MemoryDeathTest, NothingIsLeftUnderALimitBelowWhatIsUsed)
+{
+    EXPECT_EXIT(lookUnderALimitBelowWhatIsUsed(), ::testing::ExitedWithCode(0), "");
 }
 
 #endif

@@ -132,7 +132,8 @@ TEST_F(CombinedGenerator, BlocksHoldWhatSingleDrawsGive)
     for (const int seed : {12345, 5, -7, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
         seedWith(seed);
         modular_twin twin{seed, seed / 10};
-        for (const std::size_t count : {0U, 1U, 1023U, 1024U, 1025U, 5000U, 2U}) {
+        for (const std::size_t count : {std::size_t{0}, std::size_t{1}, laneBlock - 1, laneBlock,
+                                        laneBlock + 1, std::size_t{5000}, std::size_t{2}}) {
             std::vector<std::int32_t> block(count);
             drawRawBlock(processSource, block.data(), count);
             for (const auto raw : block) {

@@ -58,8 +58,9 @@ TYPED_TEST_SUITE(Permutation, Elements);
 
 TYPED_TEST(Permutation, ExchangesPlaceByPlace)
 {
+    constexpr auto block = static_cast<int>(laneBlock);
     for (const int algorithm : {0, 1}) {
-        for (const int n : {0, 1, 2, 3, 4, 5, 7, 8, 31, 100, 1023, 1024, 1025, 1026, 5000}) {
+        for (const int n : {0, 1, 2, 3, 4, 5, 7, 8, 31, 100, block - 1, block, block + 1, block + 2, 5000}) {
             this->expectPlain(algorithm, n, n, -1, 12345 + n, {});
             this->expectPlain(algorithm, n, n, -1, -999, {TypeParam{5}, TypeParam{6}});
         }

@@ -69,8 +69,11 @@ TEST_F(RandomTable, HoldsOneDrawAfterAnotherInEveryShape)
         int rows;
         int cols;
     };
-    for (const auto [rows, cols] : {shape{1, 1}, shape{1, 1500}, shape{1500, 1}, shape{33000, 2},
-                                    shape{7, 9000}, shape{3, 40000}, shape{257, 129}}) {
+    // Tables of less than one panel, of one, and of more; and rows that are a panel each, or longer.
+    for (const auto [rows, cols] :
+         {shape{1, 1}, shape{1, 1500}, shape{1500, 1}, shape{257, 129}, shape{panelCells / 2 - 1, 2},
+          shape{panelCells / 2, 2}, shape{panelCells / 2 + 1, 2}, shape{70'000, 2}, shape{7, panelCells / 3},
+          shape{2, panelCells - 1}, shape{2, panelCells}, shape{2, panelCells + 1}}) {
         const auto u = draws(rows + cols, rows * cols);
         const int stateAfter = processSource.s1;
         matrix<double> table(rows + 2, cols + 1, 9.0);

@@ -5,8 +5,8 @@
 #include "support/bits.h"
 #include "support/random_cells.h"
 #include "support/sparse_tables.h"
+#include "tables/transposed_block.h"
 
-#include <array>
 #include <memory>
 #include <random>
 #include <type_traits>
@@ -54,29 +54,40 @@ void expectSameTable(const matrix<T>& actual, const matrix<T>& expected)
     }
 }
 
-/** Shapes round the tiles, and two that are written past the caches. */
-constexpr std::array<std::pair<int, int>, 16> shapes{{{1, 1},
-                                                      {1, 50},
-                                                      {50, 1},
-                                                      {2, 3},
-                                                      {15, 16},
-                                                      {16, 17},
-                                                      {33, 31},
-                                                      {64, 64},
-                                                      {127, 129},
-                                                      {128, 256},
-                                                      {0, 4},
-                                                      {4, 0},
-                                                      {1031, 1023},
-                                                      {513, 2048},
-                                                      {3, 400000},
-                                                      {400000, 3}}};
+using shape = std::pair<int, int>;
+
+/** Shapes round each size at which the loops change their ways, for a result with elements of type `To`. */
+template <class To>
+std::vector<shape> shapes()
+{
+    constexpr int tile = korvel::detail::tileSide;
+    constexpr int strip = korvel::detail::streamedRows;
+    constexpr auto streamed = static_cast<int>(korvel::detail::streamedFrom / sizeof(To));
+    return {{1, 1},
+            {1, 50},
+            {50, 1},
+            {2, 3},
+            {tile - 1, tile},
+            {tile, tile + 1},
+            {2 * tile + 1, 2 * tile - 1},
+            {4 * tile, 4 * tile},
+            {127, 129},
+            {0, 4},
+            {4, 0},
+            {strip, streamed / strip - 1},
+            {strip - 1, streamed / strip + 5},
+            {strip, streamed / strip},
+            {strip + 1, streamed / strip + 1},
+            {2 * strip + 7, streamed / strip + 3},
+            {3, streamed / 3 + 1},
+            {streamed / 3 + 1, 3}};
+}
 
 template <class From, class To>
 void expectTwin()
 {
     random_cells cells(1, odd_cells::all);
-    for (const auto& [rows, cols] : shapes) {
+    for (const auto& [rows, cols] : shapes<To>()) {
         const auto x = randomCells<From>(cells, rows, cols);
         // From a table that is larger already, smaller, and another shape of the same size.
         for (const int extra : {-1, 0, 3}) {
@@ -223,8 +234,12 @@ TYPED_TEST(InPlaceTranspose, TakesTheNewShape)
 
 TEST(TransposedChunks, AreThePlainLoop)
 {
+    using korvel::detail::runCols;
+    using korvel::detail::stripRows;
     for (const auto& [rows, cols] :
-         {std::pair{1, 1}, {5, 3}, {16, 130}, {33, 257}, {100, 7}, {0, 3}, {3, 0}}) {
+         {shape{1, 1}, shape{5, 3}, shape{stripRows - 1, runCols - 1}, shape{stripRows, runCols},
+          shape{stripRows + 1, runCols + 1}, shape{2 * stripRows + 1, 2 * runCols + 1}, shape{100, 7},
+          shape{0, 3}, shape{3, 0}}) {
         for (const int missingRows : {0, 1, 4}) {
             random_cells cells(4, odd_cells::all);
             chunk_table x(cells, rows, cols, missingRows);
@@ -361,7 +376,16 @@ TEST(TransposedSparse, MayReplaceItsSource)
     M_Transpose(x, 2, 3, x);
     auto expected = tableOf({{1, 0}, {0, 5}, {3, 6}});
     EXPECT_TRUE(sameStorage(x, matrixSparse(&expected)));
-    EXPECT_THROW(M_Transpose(x, -1, 2, x), std::length_error);
-    EXPECT_THROW(M_Transpose(x, 2, -1, x), std::length_error);
-    EXPECT_TRUE(sameStorage(x, matrixSparse(&expected)));
+}
+
+TEST(TransposedSparse, TakesACountBelowNoneForNone)
+{
+    auto dense = tableOf({{1, 0, 3}, {0, 5, 6}});
+    const matrixSparse x(&dense);
+    for (const auto& [rows, cols] : {shape{-1, 3}, shape{2, -1}, shape{-1, -1}, shape{-5, -7}, shape{0, 0}}) {
+        matrixSparse y(2, 2, 1.0, false);
+        M_Transpose(x, rows, cols, y);
+        const matrixSparse empty(std::max(cols, 0), std::max(rows, 0), 0.0, false);
+        EXPECT_TRUE(sameStorage(y, empty)) << rows << " by " << cols;
+    }
 }
