@@ -1,4 +1,4 @@
-# What users take: the libraries, the headers in their folders, the package files for find_package, and the bindings
+# What users take: the libraries, the public headers, the package files for find_package, and the bindings
 # for callers that do not link.
 include(CMakePackageConfigHelpers)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/KORVELMathTools)
@@ -18,7 +18,6 @@ install(FILES
     ${PROJECT_BINARY_DIR}/KORVELMathToolsConfigVersion.cmake
     DESTINATION ${package_folder})
 
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/ DESTINATION ${KORVEL_INSTALLED_HEADERS}
-    FILES_MATCHING PATTERN "*.h" PATTERN "platform/automation" EXCLUDE)
+install(DIRECTORY ${KORVEL_PUBLIC_HEADERS}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/bindings/ DESTINATION ${data_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/docs/reference.md DESTINATION ${CMAKE_INSTALL_DOCDIR})

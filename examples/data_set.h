@@ -6,7 +6,7 @@
 #define KORVEL_EXAMPLES_DATA_SET_H
 
 #include "csv.h"
-#include "frames/KORVELMathTools.h"
+#include "korvelmathtools/KORVELMathTools.h"
 
 #include <cstddef>
 #include <string>

@@ -5,7 +5,7 @@
 #ifndef KORVEL_EXAMPLES_UTF8_H
 #define KORVEL_EXAMPLES_UTF8_H
 
-#include "frames/KORVELMathTools.h"
+#include "korvelmathtools/KORVELMathTools.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,8 @@
 // Uniform draws beside the same generator elsewhere. "Array" fills a column of doubles, "Single" makes one
 // call for each draw; both peers of a draw use MT19937.
-#include "frames/random.h"
+#include "frames/random/random_generators.h"
+#include "frames/random/random_source.h"
+#include "frames/random/random_table.h"
 #include "random/random_generators.h"
 #include "random/random_table.h"
 #include "support/peer_script.h"

@@ -3,7 +3,7 @@
 // leaves cells out is also timed on a vector with missing cells and set flags, one in ten of each, which GSL
 // and R do not have.
 #include "containers/matrix3d.h"
-#include "frames/KORVELMathTools.h"
+#include "korvelmathtools/KORVELMathTools.h"
 #include "statistics/plain_loops.h"
 #include "statistics/table_extremes.h"
 #include "statistics/vector_extremes.h"

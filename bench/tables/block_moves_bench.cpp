@@ -4,7 +4,7 @@
 // cells where there is one to see what the runs of memory are worth.
 
 #include "containers/matrix.h"
-#include "frames/KORVELMathTools.h"
+#include "korvelmathtools/KORVELMathTools.h"
 #include "support/stop_watch.h"
 
 #include <algorithm>

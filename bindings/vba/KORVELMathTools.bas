@@ -24,7 +24,307 @@ Option Explicit
 
 Public Const KORVEL_NULL As LongPtr = 0
 
-' ---- apply_order.h
+' ---- containers/host_array.h
+
+' The block of texts behind a host array, for functions that take such a block.
+Public Declare PtrSafe Function ExtractBSTR Lib "KORVELMathTools.dll" ( _
+    ByVal sa As LongPtr) As LongPtr
+
+' ---- containers/matrix3d.h
+
+' Adds up everything that a labelled table holds: a check that a record crosses the boundary intact.
+Public Declare PtrSafe Function Cpp_Test Lib "KORVELMathTools.dll" ( _
+    ByVal record As LongPtr) As Double
+
+' ---- containers/missing.h
+
+' Tells whether a number is missing: whether it is at or below the sentinel -1.79769313486231e308.
+Public Declare PtrSafe Function VB_IsMissingValueDbl Lib "KORVELMathTools.dll" ( _
+    ByVal x As Double) As Integer
+
+' Tells whether a cell, rendered as text, is empty.
+Public Declare PtrSafe Function VB_IsMissingValueStr Lib "KORVELMathTools.dll" ( _
+    ByRef cell As Variant) As Integer
+
+' ---- containers/number_text.h
+
+' Sends a line to the debugger: the label, a blank, the value with 16 decimals in a field of 36, a
+' line end.
+Public Declare PtrSafe Sub dprint Lib "KORVELMathTools.dll" ( _
+    ByVal value As Double, ByVal label As String)
+
+' ---- containers/record_copies.h
+
+' Copies a table of numbers into the columns of a labelled one.
+Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
+    ByRef m As Double, ByVal rows As Long, ByVal cols As Long, ByVal mv As LongPtr) As Long
+
+' Copies a triangle from one labelled table to another: the first j elements of column j, for j from
+' 1 to the smaller number of columns.
+Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
+    ByVal src As LongPtr, ByVal dst As LongPtr) As Long
+
+' ---- linalg/diagonal_scaling.h
+
+' c(i, k) = a(i, k) * d(k, k).
+Public Declare PtrSafe Function VB_M_ProductADiag Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' c(k, i) = a(i, k) * d(i, i).
+Public Declare PtrSafe Function VB_M_ProductTrADiag Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' c(i, k) = a(i, k) * d(k).
+Public Declare PtrSafe Function VB_M_ProductADiagV Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' c(i, k) = d(i) * a(i, k).
+Public Declare PtrSafe Function VB_M_ProductDiagVA Lib "KORVELMathTools.dll" ( _
+    ByRef d As Double, ByVal n As Long, ByRef a As Double, ByVal p As Long, ByRef c As Double) As Long
+
+' c(i, k) = (d1(i) * a(i, k)) * d2(k).
+Public Declare PtrSafe Function VB_M_ProductDiagV1ADiagV2 Lib "KORVELMathTools.dll" ( _
+    ByRef d1 As Double, ByVal n As Long, ByRef a As Double, ByVal p As Long, ByRef d2 As Double, _
+    ByRef c As Double) As Long
+
+' c(k, r) = a(r, k) * d(r).
+Public Declare PtrSafe Function VB_M_ProductTrADiagV Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' ---- linalg/element_wise.h
+
+' c(i, j) = s * a(i, j); a missing cell stays missing.
+Public Declare PtrSafe Function VB_M_ScalarsA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef c As Double) As Long
+
+' a(i, j) = s * a(i, j); a missing cell stays missing.
+Public Declare PtrSafe Function VB_M_ScalarsA2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double) As Long
+
+' c(j, i) = s * a(i, j); a missing cell stays missing.
+Public Declare PtrSafe Function VB_M_ScalarsTrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef c As Double) As Long
+
+' c(i, j) = a(i, j) + s.
+Public Declare PtrSafe Function VB_M_APlusVal Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef c As Double) As Long
+
+' a(i, j) = a(i, j) + s.
+Public Declare PtrSafe Function VB_M_APlusVal2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double) As Long
+
+' a(i, j) = a(i, j) * a(i, j); a missing cell stays missing.
+Public Declare PtrSafe Function VB_M_Square Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long) As Long
+
+' c(i, j) = a(i, j) * b(i, j).
+Public Declare PtrSafe Function VB_M_ProductByElement Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByRef c As Double) As Long
+
+' c(i, j) = a(i, j) + b(i, j).
+Public Declare PtrSafe Function Cpp_SumMat Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef c As Double) As Long
+
+' x(i, j) = x(i, j) * s.
+Public Declare PtrSafe Function Cpp_MultiplyByVal Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal s As Double) As Long
+
+' ---- linalg/products.h
+
+' Product of two tables, c = a * b.
+Public Declare PtrSafe Function VB_M_ProductAB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double) As Long
+
+' Product of two tables of integers, c = a * b, in 32-bit arithmetic that wraps around.
+Public Declare PtrSafe Function VB_M_ProductABLng Lib "KORVELMathTools.dll" ( _
+    ByRef a As Long, ByVal n As Long, ByVal p As Long, ByRef b As Long, ByVal q As Long, _
+    ByRef c As Long) As Long
+
+' Product of a transposed table and a table, c = a' * b.
+Public Declare PtrSafe Function VB_M_ProductTrAB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double) As Long
+
+' Product of a table and a transposed table, c = a * b'.
+Public Declare PtrSafe Function VB_M_ProductATrB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal m As Long, _
+    ByRef c As Double) As Long
+
+' Product with a diagonal that is given as a vector, c = a * diag(d) * b, each term from left to
+' right.
+Public Declare PtrSafe Function VB_M_ProductADiagVB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef b As Double, _
+    ByVal q As Long, ByRef c As Double) As Long
+
+' Product with a diagonal that is given as a vector, c = a * diag(d) * b', each term from left to
+' right.
+Public Declare PtrSafe Function VB_M_ProductADiagVTrB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef b As Double, _
+    ByVal m As Long, ByRef c As Double) As Long
+
+' ---- linalg/products_missing.h
+
+' Product of two tables that heeds missing cells: where a term has a missing factor, c(i,j) is
+' missing.
+Public Declare PtrSafe Function VB_M_ProductABMissing Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double) As Long
+
+' ---- linalg/products_records.h
+
+' Product of two labelled tables, c = a * b.
+Public Declare PtrSafe Function Cpp_M_ProductAB_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, ByVal q As Long, _
+    ByVal c As LongPtr) As Long
+
+' Product of a transposed labelled table and another, c = a' * b.
+Public Declare PtrSafe Function Cpp_M_ProductTrAB_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, ByVal q As Long, _
+    ByVal c As LongPtr) As Long
+
+' Product of a labelled table and another transposed, c = a * b'.
+Public Declare PtrSafe Function Cpp_M_ProductATrB_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, ByVal m As Long, _
+    ByVal c As LongPtr) As Long
+
+' Product of three labelled tables, c = a * b * a'.
+Public Declare PtrSafe Function Cpp_M_ProductABTrA_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, _
+    ByVal symmetric As Integer, ByVal c As LongPtr) As Long
+
+' ---- linalg/products_symmetric.h
+
+' Product of a table with itself, c = a' * a.
+Public Declare PtrSafe Function VB_M_ProductTrAA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef c As Double) As Long
+
+' Product of a table of integers with itself, c = a' * a.
+Public Declare PtrSafe Function Cpp_M_ProductTrAALng Lib "KORVELMathTools.dll" ( _
+    ByRef a As Long, ByVal n As Long, ByVal p As Long, ByRef c As Long) As Long
+
+' Product of a table with itself, c = a * a'.
+Public Declare PtrSafe Function VB_M_ProductATrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef c As Double) As Long
+
+' Product with a diagonal, c = a * d * a', each term from left to right.
+Public Declare PtrSafe Function VB_M_ProductADTrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' Product with a diagonal, c = a' * d * a, each term from left to right.
+Public Declare PtrSafe Function VB_M_ProductTrADA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' Product with a diagonal that is given as a vector, c = a' * diag(d) * a, each term from left to
+' right.
+Public Declare PtrSafe Function VB_M_ProductTrADiagVA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' Product with a diagonal that is given as a vector, c = a * diag(d) * a', each term from left to
+' right.
+Public Declare PtrSafe Function VB_M_ProductADiagVTrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
+
+' ---- linalg/products_table_vector.h
+
+' Table times vector, y = b * v.
+Public Declare PtrSafe Function VB_M_ProductBV Lib "KORVELMathTools.dll" ( _
+    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
+
+' Vector times table, y = v' * b, that heeds missing cells: where a term has a missing factor, y(j)
+' is missing.
+Public Declare PtrSafe Function VB_M_ProductVB Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal q As Long, ByRef y As Double) As Long
+
+' Transposed table times vector, y = b' * v.
+Public Declare PtrSafe Function VB_M_ProductTrBV Lib "KORVELMathTools.dll" ( _
+    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
+
+' Vector times transposed table, y = v' * b'.
+Public Declare PtrSafe Function VB_M_ProductVTrB Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal m As Long, ByRef y As Double) As Long
+
+' The quadratic form v' * b * v.
+Public Declare PtrSafe Function VB_M_ProductTrVBV Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double) As Double
+
+' The bilinear form x1' * b * x2.
+Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef b As Double, ByRef x2 As Double) As Double
+
+' ---- linalg/products_triple.h
+
+' Product of three tables, c = a * b * a'.
+Public Declare PtrSafe Function VB_M_ProductABTrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, _
+    ByVal symmetric As Integer, ByRef c As Double) As Long
+
+' Product of three tables, c = a' * b * a.
+Public Declare PtrSafe Function VB_M_ProductTrABA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, _
+    ByVal symmetric As Integer, ByRef c As Double) As Long
+
+' Product of three tables, d = a * b * c.
+Public Declare PtrSafe Function VB_M_ProductABC Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double, ByVal r As Long, ByRef d As Double) As Long
+
+' Product of three tables, d = a' * b * c.
+Public Declare PtrSafe Function VB_M_ProductTrABC Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double, ByVal r As Long, ByRef d As Double) As Long
+
+' Product of three tables, d = a * b' * c.
+Public Declare PtrSafe Function VB_M_ProductATrBC Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef c As Double, ByVal r As Long, ByRef d As Double) As Long
+
+' Product of two tables and a vector, y = a' * b * v.
+Public Declare PtrSafe Function Cpp_M_ProductTrABV Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
+    ByRef v As Double, ByRef y As Double) As Long
+
+' ---- linalg/reductions.h
+
+' The trace: the sum of a(i, i).
+Public Declare PtrSafe Function VB_M_Trace Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long) As Double
+
+' The trace of a' * b: the sum over the columns of the inner products of like columns.
+Public Declare PtrSafe Function VB_M_FrobeniusNorm Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double) As Double
+
+' The row sum norm: the largest sum of magnitudes of a row.
+Public Declare PtrSafe Function Cpp_M_RowSumNorm Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal m As Long) As Double
+
+' ---- linalg/vector_products.h
+
+' The inner product: the sum of x1(i) * x2(i).
+Public Declare PtrSafe Function VB_V_ProductTrV1V2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Double
+
+' y(i) = x1(i) * x2(i), missing when one of the two is.
+Public Declare PtrSafe Function VB_V_ProductV1V2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef y As Double) As Long
+
+' x1(i) = x1(i) * x2(i).
+Public Declare PtrSafe Function VB_V_ProductV1V22 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Long
+
+' The outer product: c(i, j) = x1(i) * x2(j).
+Public Declare PtrSafe Function VB_V_ProductV1TrV2 Lib "KORVELMathTools.dll" ( _
+    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef c As Double) As Long
+
+' The product of all elements in ascending order, from 1.0.
+Public Declare PtrSafe Function VB_V_Product1toNDbl Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long) As Double
+
+' The product of all elements in ascending order, from 1.0, in Double.
+Public Declare PtrSafe Function VB_V_Product1toNLng Lib "KORVELMathTools.dll" ( _
+    ByRef v As Long, ByVal n As Long) As Double
+
+' ---- ordering/apply_order.h
 
 ' Takes the rows of a table of numbers in a given order: row i of the result is row order[i] of the
 ' table.
@@ -69,98 +369,28 @@ Public Declare PtrSafe Function Cpp_SortApply2Bool Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_SortApply2_ST Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef order As Double) As Long
 
-' ---- cell_maps.h
+' ---- ordering/deviations.h
 
-' Natural logarithms.
-Public Declare PtrSafe Function VB_M_LogMatrix Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+' Weighted mean of the absolute deviations from a centre.
+Public Declare PtrSafe Function Cpp_V_MeanAbsDev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
+    ByRef w As Double) As Double
 
-' Logarithms to base 10.
-Public Declare PtrSafe Function VB_M_Log10Matrix Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+' Median of the absolute deviations from a centre; weighted unless the weights are constant.
+Public Declare PtrSafe Function Cpp_V_MedianAbsDev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
+    ByRef w As Double) As Double
 
-' Square roots.
-Public Declare PtrSafe Function Cpp_M_SquareRootAij Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+' Median of the absolute deviations from a centre, missing elements taking part as the smallest
+' numbers.
+Public Declare PtrSafe Function Cpp_V_MedianAbsDev2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef centre As Double) As Double
 
-' Square roots, in place.
-Public Declare PtrSafe Function Cpp_M_SquareRootAij2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+' Moves the elements outside two quantiles onto them.
+Public Declare PtrSafe Function Cpp_V_Winsorize2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal qLow As Double, ByVal qHigh As Double) As Long
 
-' Subtracts the first cell of its row from each cell, in place; the first column becomes 0.
-Public Declare PtrSafe Function Cpp_M_SubstractFirstCol2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
-
-' Tells whether all cells of a table lie in an interval.
-Public Declare PtrSafe Function VB_M_IsInIntervalSPV Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal lo As Double, _
-    ByVal hi As Double, ByVal bOpen As Integer, ByVal bSkipMissing As Integer) As Integer
-
-' ---- containers.h
-
-' Tells whether a number is missing: whether it is at or below the sentinel -1.79769313486231e308.
-Public Declare PtrSafe Function VB_IsMissingValueDbl Lib "KORVELMathTools.dll" ( _
-    ByVal x As Double) As Integer
-
-' Tells whether a cell, rendered as text, is empty.
-Public Declare PtrSafe Function VB_IsMissingValueStr Lib "KORVELMathTools.dll" ( _
-    ByRef cell As Variant) As Integer
-
-' The block of texts behind a host array, for functions that take such a block.
-Public Declare PtrSafe Function ExtractBSTR Lib "KORVELMathTools.dll" ( _
-    ByVal sa As LongPtr) As LongPtr
-
-' Adds up everything that a labelled table holds: a check that a record crosses the boundary intact.
-Public Declare PtrSafe Function Cpp_Test Lib "KORVELMathTools.dll" ( _
-    ByVal record As LongPtr) As Double
-
-' Sends a line to the debugger: the label, a blank, the value with 16 decimals in a field of 36, a
-' line end.
-Public Declare PtrSafe Sub dprint Lib "KORVELMathTools.dll" ( _
-    ByVal value As Double, ByVal label As String)
-
-' ---- diagonal_scaling.h
-
-' c(i, k) = a(i, k) * d(k, k).
-Public Declare PtrSafe Function VB_M_ProductADiag Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
-
-' c(k, i) = a(i, k) * d(i, i).
-Public Declare PtrSafe Function VB_M_ProductTrADiag Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
-
-' c(i, k) = a(i, k) * d(k).
-Public Declare PtrSafe Function VB_M_ProductADiagV Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
-
-' c(i, k) = d(i) * a(i, k).
-Public Declare PtrSafe Function VB_M_ProductDiagVA Lib "KORVELMathTools.dll" ( _
-    ByRef d As Double, ByVal n As Long, ByRef a As Double, ByVal p As Long, ByRef c As Double) As Long
-
-' c(i, k) = (d1(i) * a(i, k)) * d2(k).
-Public Declare PtrSafe Function VB_M_ProductDiagV1ADiagV2 Lib "KORVELMathTools.dll" ( _
-    ByRef d1 As Double, ByVal n As Long, ByRef a As Double, ByVal p As Long, ByRef d2 As Double, _
-    ByRef c As Double) As Long
-
-' c(k, r) = a(r, k) * d(r).
-Public Declare PtrSafe Function VB_M_ProductTrADiagV Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
-
-' ---- distinct.h
-
-' The most frequent code of a vector of codes 0, 1, 2, ...; a number x is code trunc(x + 1) - 1.
-Public Declare PtrSafe Function VB_V_ModeCatDbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Double
-
-' The label with the greatest sum of weights, the first in the order of code units of equals.
-' iMissing (Integer) may be null.
-Public Declare PtrSafe Function VB_V_Mode Lib "KORVELMathTools.dll" ( _
-    ByVal labels As LongPtr, ByVal n As Long, ByRef iMissing As Any, ByRef w As Double, _
-    ByVal mode As LongPtr) As Long
-
-' The label with the greatest sum of weights, the first in the order of code units of equals.
-Public Declare PtrSafe Function Cpp_V_ModeW2 Lib "KORVELMathTools.dll" ( _
-    ByVal labels As LongPtr, ByVal n As Long, ByRef w As Double, ByVal mode As LongPtr) As Long
+' ---- ordering/distinct.h
 
 ' Number of distinct values; neighbours in ascending order differ by more than
 ' 2.220446049250313e-16.
@@ -180,290 +410,23 @@ Public Declare PtrSafe Function Cpp_V_NbDistinctStr Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function VB_V_ExtractDistinct Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef out As Double, ByRef nOut As Long) As Long
 
-' ---- element_wise.h
-
-' c(i, j) = s * a(i, j); a missing cell stays missing.
-Public Declare PtrSafe Function VB_M_ScalarsA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef c As Double) As Long
-
-' a(i, j) = s * a(i, j); a missing cell stays missing.
-Public Declare PtrSafe Function VB_M_ScalarsA2 Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double) As Long
-
-' c(j, i) = s * a(i, j); a missing cell stays missing.
-Public Declare PtrSafe Function VB_M_ScalarsTrA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef c As Double) As Long
-
-' c(i, j) = a(i, j) + s.
-Public Declare PtrSafe Function VB_M_APlusVal Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef c As Double) As Long
-
-' a(i, j) = a(i, j) + s.
-Public Declare PtrSafe Function VB_M_APlusVal2 Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double) As Long
-
-' a(i, j) = a(i, j) * a(i, j); a missing cell stays missing.
-Public Declare PtrSafe Function VB_M_Square Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long) As Long
-
-' c(i, j) = a(i, j) * b(i, j).
-Public Declare PtrSafe Function VB_M_ProductByElement Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByRef c As Double) As Long
-
-' c(i, j) = a(i, j) + b(i, j).
-Public Declare PtrSafe Function Cpp_SumMat Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef c As Double) As Long
-
-' x(i, j) = x(i, j) * s.
-Public Declare PtrSafe Function Cpp_MultiplyByVal Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal s As Double) As Long
-
-' ---- fill.h
-
-' Numbers a vector: element k, from 1, becomes k.
-Public Declare PtrSafe Function VB_V_Set1toNDbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Long
-
-' Numbers a vector: element k, from 1, becomes k.
-Public Declare PtrSafe Function VB_V_Set1toNLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long) As Long
-
-' Numbers a vector: element k, from 1, becomes k, in decimal digits.
-Public Declare PtrSafe Function VB_V_Set1toNStr Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal n As Long) As Long
-
-' Sets flags to false.
-Public Declare PtrSafe Function VB_InitVectorToFalse Lib "KORVELMathTools.dll" ( _
-    ByRef flags As Integer, ByVal n As Long) As Long
-
-' Sets flags to true.
-Public Declare PtrSafe Function VB_InitVectorToTrue Lib "KORVELMathTools.dll" ( _
-    ByRef flags As Integer, ByVal n As Long) As Long
-
-' Flags the cells of a table that equal a number.
-Public Declare PtrSafe Function Cpp_M_SetBooleanIfLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal value As Long, _
-    ByRef flags As Integer) As Long
-
-' ---- matrix_dump.h
-
-' Writes a table of numbers to a text file.
-Public Declare PtrSafe Sub Cpp_WriteMatrixDbl Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal rows As Long, ByVal cols As Long, ByVal name As String)
-
-' Writes a table of integers to a text file.
-Public Declare PtrSafe Sub Cpp_WriteMatrixLng Lib "KORVELMathTools.dll" ( _
-    ByRef a As Long, ByVal rows As Long, ByVal cols As Long, ByVal name As String)
-
-' Writes a table of texts to a text file.
-Public Declare PtrSafe Function Cpp_WriteMatrixStr Lib "KORVELMathTools.dll" ( _
-    ByVal a As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal name As String) As Long
-
-' ---- permutations.h
-
-' Random permutation of the integers 1 to n.
-Public Declare PtrSafe Function Cpp_Random1toNLong Lib "KORVELMathTools.dll" ( _
-    ByRef out As Long, ByVal n As Long, ByVal bReset As Integer, ByRef seed As Long, _
-    ByRef flag As Integer, ByRef nextSeed As Long) As Long
-
-' Random permutation of the numbers 1 to n.
-Public Declare PtrSafe Function Cpp_Random1toNDbl Lib "KORVELMathTools.dll" ( _
-    ByRef out As Double, ByVal n As Long, ByVal bReset As Integer, ByRef seed As Long, _
-    ByRef flag As Integer, ByRef nextSeed As Long) As Long
-
-' Random permutation of the integers from a to b, of which the array gets all but the last two.
-Public Declare PtrSafe Function Cpp_RandomAtoBLng Lib "KORVELMathTools.dll" ( _
-    ByRef out As Long, ByVal a As Long, ByVal b As Long, ByVal bReset As Integer, _
-    ByRef seed As Long, ByRef flag As Integer, ByRef nextSeed As Long) As Long
-
-' Random permutation of the numbers from a to b in steps of 1, of which the array gets all but the
-' last two.
-Public Declare PtrSafe Function Cpp_RandomAtoBDbl Lib "KORVELMathTools.dll" ( _
-    ByRef out As Double, ByVal a As Long, ByVal b As Long, ByVal bReset As Integer, _
-    ByRef seed As Long, ByRef flag As Integer, ByRef nextSeed As Long) As Long
-
-' Shuffles a vector of numbers.
-Public Declare PtrSafe Function Cpp_V_Shuffle Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef seed As Long, ByVal flag As Integer, _
-    ByRef nextSeed As Long) As Long
-
-' Shuffles a vector of integers.
-Public Declare PtrSafe Function Cpp_V_ShuffleLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long, ByRef seed As Long, ByVal flag As Integer, _
-    ByRef nextSeed As Long) As Long
-
-' Shuffles the rows of a table of numbers in place; the columns of a row stay together.
-Public Declare PtrSafe Function Cpp_M_ShuffleDbl2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
-    ByVal flag As Integer, ByRef nextSeed As Long) As Long
-
-' Shuffles the rows of a table of texts in place; the columns of a row stay together.
-Public Declare PtrSafe Function Cpp_M_ShuffleStr2 Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
-    ByVal flag As Integer, ByRef nextSeed As Long) As Long
-
-' Shuffles the rows of a table of numbers into another table; the columns of a row stay together.
-Public Declare PtrSafe Function Cpp_M_ShuffleDbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
-    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Long
-
-' Shuffles the rows of a table of texts into another table; the columns of a row stay together.
-Public Declare PtrSafe Function Cpp_M_ShuffleStr Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr, _
-    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Long
-
-' ---- products.h
-
-' Product of two tables, c = a * b.
-Public Declare PtrSafe Function VB_M_ProductAB Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
-    ByRef c As Double) As Long
-
-' Product of two tables of integers, c = a * b, in 32-bit arithmetic that wraps around.
-Public Declare PtrSafe Function VB_M_ProductABLng Lib "KORVELMathTools.dll" ( _
-    ByRef a As Long, ByVal n As Long, ByVal p As Long, ByRef b As Long, ByVal q As Long, _
-    ByRef c As Long) As Long
-
-' Product of two tables that heeds missing cells: where a term has a missing factor, c(i,j) is
-' missing.
-Public Declare PtrSafe Function VB_M_ProductABMissing Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
-    ByRef c As Double) As Long
-
-' Product of a transposed table and a table, c = a' * b.
-Public Declare PtrSafe Function VB_M_ProductTrAB Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
-    ByRef c As Double) As Long
-
-' Product of a table and a transposed table, c = a * b'.
-Public Declare PtrSafe Function VB_M_ProductATrB Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal m As Long, _
-    ByRef c As Double) As Long
-
-' Product of a table with itself, c = a' * a.
-Public Declare PtrSafe Function VB_M_ProductTrAA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef c As Double) As Long
-
-' Product of a table of integers with itself, c = a' * a.
-Public Declare PtrSafe Function Cpp_M_ProductTrAALng Lib "KORVELMathTools.dll" ( _
-    ByRef a As Long, ByVal n As Long, ByVal p As Long, ByRef c As Long) As Long
-
-' Product of a table with itself, c = a * a'.
-Public Declare PtrSafe Function VB_M_ProductATrA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef c As Double) As Long
-
-' Product with a diagonal, c = a * d * a', each term from left to right.
-Public Declare PtrSafe Function VB_M_ProductADTrA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
-
-' Product with a diagonal, c = a' * d * a, each term from left to right.
-Public Declare PtrSafe Function VB_M_ProductTrADA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
-
-' Product with a diagonal that is given as a vector, c = a' * diag(d) * a, each term from left to
-' right.
-Public Declare PtrSafe Function VB_M_ProductTrADiagVA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
-
-' Product with a diagonal that is given as a vector, c = a * diag(d) * a', each term from left to
-' right.
-Public Declare PtrSafe Function VB_M_ProductADiagVTrA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
-
-' Product with a diagonal that is given as a vector, c = a * diag(d) * b, each term from left to
-' right.
-Public Declare PtrSafe Function VB_M_ProductADiagVB Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef b As Double, _
-    ByVal q As Long, ByRef c As Double) As Long
-
-' Product with a diagonal that is given as a vector, c = a * diag(d) * b', each term from left to
-' right.
-Public Declare PtrSafe Function VB_M_ProductADiagVTrB Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef b As Double, _
-    ByVal m As Long, ByRef c As Double) As Long
-
-' ---- products_records.h
-
-' Product of two labelled tables, c = a * b.
-Public Declare PtrSafe Function Cpp_M_ProductAB_ST Lib "KORVELMathTools.dll" ( _
-    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, ByVal q As Long, _
-    ByVal c As LongPtr) As Long
-
-' Product of a transposed labelled table and another, c = a' * b.
-Public Declare PtrSafe Function Cpp_M_ProductTrAB_ST Lib "KORVELMathTools.dll" ( _
-    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, ByVal q As Long, _
-    ByVal c As LongPtr) As Long
-
-' Product of a labelled table and another transposed, c = a * b'.
-Public Declare PtrSafe Function Cpp_M_ProductATrB_ST Lib "KORVELMathTools.dll" ( _
-    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, ByVal m As Long, _
-    ByVal c As LongPtr) As Long
-
-' Product of three labelled tables, c = a * b * a'.
-Public Declare PtrSafe Function Cpp_M_ProductABTrA_ST Lib "KORVELMathTools.dll" ( _
-    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByVal b As LongPtr, _
-    ByVal symmetric As Integer, ByVal c As LongPtr) As Long
-
-' ---- products_table_vector.h
-
-' Table times vector, y = b * v.
-Public Declare PtrSafe Function VB_M_ProductBV Lib "KORVELMathTools.dll" ( _
-    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
-
-' Vector times table, y = v' * b, that heeds missing cells: where a term has a missing factor, y(j)
-' is missing.
-Public Declare PtrSafe Function VB_M_ProductVB Lib "KORVELMathTools.dll" ( _
-    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal q As Long, ByRef y As Double) As Long
-
-' Transposed table times vector, y = b' * v.
-Public Declare PtrSafe Function VB_M_ProductTrBV Lib "KORVELMathTools.dll" ( _
-    ByRef b As Double, ByVal n As Long, ByVal p As Long, ByRef v As Double, ByRef y As Double) As Long
-
-' Vector times transposed table, y = v' * b'.
-Public Declare PtrSafe Function VB_M_ProductVTrB Lib "KORVELMathTools.dll" ( _
-    ByRef v As Double, ByVal n As Long, ByRef b As Double, ByVal m As Long, ByRef y As Double) As Long
-
-' The quadratic form v' * b * v.
-Public Declare PtrSafe Function VB_M_ProductTrVBV Lib "KORVELMathTools.dll" ( _
-    ByRef v As Double, ByVal n As Long, ByRef b As Double) As Double
-
-' The bilinear form x1' * b * x2.
-Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef b As Double, ByRef x2 As Double) As Double
-
-' ---- products_triple.h
-
-' Product of three tables, c = a * b * a'.
-Public Declare PtrSafe Function VB_M_ProductABTrA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, _
-    ByVal symmetric As Integer, ByRef c As Double) As Long
-
-' Product of three tables, c = a' * b * a.
-Public Declare PtrSafe Function VB_M_ProductTrABA Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, _
-    ByVal symmetric As Integer, ByRef c As Double) As Long
-
-' Product of three tables, d = a * b * c.
-Public Declare PtrSafe Function VB_M_ProductABC Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
-    ByRef c As Double, ByVal r As Long, ByRef d As Double) As Long
-
-' Product of three tables, d = a' * b * c.
-Public Declare PtrSafe Function VB_M_ProductTrABC Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
-    ByRef c As Double, ByVal r As Long, ByRef d As Double) As Long
-
-' Product of three tables, d = a * b' * c.
-Public Declare PtrSafe Function VB_M_ProductATrBC Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
-    ByRef c As Double, ByVal r As Long, ByRef d As Double) As Long
-
-' Product of two tables and a vector, y = a' * b * v.
-Public Declare PtrSafe Function Cpp_M_ProductTrABV Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
-    ByRef v As Double, ByRef y As Double) As Long
-
-' ---- quantiles.h
+' ---- ordering/modes.h
+
+' The most frequent code of a vector of codes 0, 1, 2, ...; a number x is code trunc(x + 1) - 1.
+Public Declare PtrSafe Function VB_V_ModeCatDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' The label with the greatest sum of weights, the first in the order of code units of equals.
+' iMissing (Integer) may be null.
+Public Declare PtrSafe Function VB_V_Mode Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByRef iMissing As Any, ByRef w As Double, _
+    ByVal mode As LongPtr) As Long
+
+' The label with the greatest sum of weights, the first in the order of code units of equals.
+Public Declare PtrSafe Function Cpp_V_ModeW2 Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByRef w As Double, ByVal mode As LongPtr) As Long
+
+' ---- ordering/quantiles.h
 
 ' Quantile by linear interpolation between order statistics (type 7 of Hyndman and Fan).
 Public Declare PtrSafe Function VB_V_Quantile Lib "KORVELMathTools.dll" ( _
@@ -493,42 +456,7 @@ Public Declare PtrSafe Function VB_V_QuantileMW Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_V_Quantiles13 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
 
-' Weighted mean of the absolute deviations from a centre.
-Public Declare PtrSafe Function Cpp_V_MeanAbsDev Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
-    ByRef w As Double) As Double
-
-' Median of the absolute deviations from a centre; weighted unless the weights are constant.
-Public Declare PtrSafe Function Cpp_V_MedianAbsDev Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal centre As Double, ByRef iMissing As Integer, _
-    ByRef w As Double) As Double
-
-' Median of the absolute deviations from a centre, missing elements taking part as the smallest
-' numbers.
-Public Declare PtrSafe Function Cpp_V_MedianAbsDev2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef centre As Double) As Double
-
-' Moves the elements outside two quantiles onto them.
-Public Declare PtrSafe Function Cpp_V_Winsorize2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal qLow As Double, ByVal qHigh As Double) As Long
-
-' ---- random.h
-
-' Selects the random generator.
-Public Declare PtrSafe Function Cpp_set_rand_algo Lib "KORVELMathTools.dll" ( _
-    ByVal algorithm As Long) As Long
-
-' Seeds the random source and draws one uniform number.
-Public Declare PtrSafe Function Cpp_Random01 Lib "KORVELMathTools.dll" ( _
-    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Double
-
-' Seeds the random source and fills an array with uniform numbers in storage order, column after
-' column.
-Public Declare PtrSafe Function VB_M_GenerateRandom01 Lib "KORVELMathTools.dll" ( _
-    ByRef out As Double, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
-    ByVal flag As Integer, ByRef nextSeed As Long) As Long
-
-' ---- ranks.h
+' ---- ordering/ranks.h
 
 ' Dense ranks: 1 for the smallest element, one more at each change of value.
 Public Declare PtrSafe Function VB_V_GetRanksDbl Lib "KORVELMathTools.dll" ( _
@@ -563,32 +491,7 @@ Public Declare PtrSafe Function VB_V_GetPositionInMatNNm1o2 Lib "KORVELMathTools
 Public Declare PtrSafe Function VB_V_GetPositionInMatNN Lib "KORVELMathTools.dll" ( _
     ByVal k As Long, ByVal n As Long, ByRef row As Long, ByRef col As Long) As Long
 
-' ---- records.h
-
-' Copies a table of numbers into the columns of a labelled one.
-Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
-    ByRef m As Double, ByVal rows As Long, ByVal cols As Long, ByVal mv As LongPtr) As Long
-
-' Copies a triangle from one labelled table to another: the first j elements of column j, for j from
-' 1 to the smaller number of columns.
-Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
-    ByVal src As LongPtr, ByVal dst As LongPtr) As Long
-
-' ---- reductions.h
-
-' The trace: the sum of a(i, i).
-Public Declare PtrSafe Function VB_M_Trace Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long) As Double
-
-' The trace of a' * b: the sum over the columns of the inner products of like columns.
-Public Declare PtrSafe Function VB_M_FrobeniusNorm Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double) As Double
-
-' The row sum norm: the largest sum of magnitudes of a row.
-Public Declare PtrSafe Function Cpp_M_RowSumNorm Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByVal m As Long) As Double
-
-' ---- reverse.h
+' ---- ordering/reverse.h
 
 ' A vector of numbers back to front.
 Public Declare PtrSafe Function VB_V_ReverseDbl Lib "KORVELMathTools.dll" ( _
@@ -610,129 +513,43 @@ Public Declare PtrSafe Function Cpp_V_Reverse2Lng Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_V_Reverse2Bool Lib "KORVELMathTools.dll" ( _
     ByRef x As Integer, ByVal n As Long) As Long
 
-' Strips spaces (U+0020) from the ends of texts.
-Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
-    ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer, _
-    ByVal out As LongPtr) As Long
+' ---- ordering/sort_by_column.h
 
-' Strips spaces (U+0020) from the ends of texts, in place.
-Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
-    ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
+' Orders rows from..to of a table of numbers by one of its columns, all columns moving.
+Public Declare PtrSafe Function Cpp_SortQMatrixCol Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal keyCol As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByVal bDesc As Integer) As Long
 
-' ---- row_grouping.h
+' Orders rows from..to of a table of integers by one of its columns, all columns moving.
+Public Declare PtrSafe Function Cpp_SortQMatrixColLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal keyCol As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByVal bDesc As Integer) As Long
 
-' Aggregates the rows that share the value of a key column, in ascending order of the keys, compared
-' exactly.
-Public Declare PtrSafe Function VB_M_GroupBy Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
-    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double) As Long
+' Orders rows from..to of a table of texts by one of its columns, by 16-bit code units, all columns
+' moving.
+Public Declare PtrSafe Function Cpp_SortQMatrixColStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal keyCol As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByVal bDesc As Integer) As Long
 
-' Aggregates the rows that share the value of a key column, with a weight for each row.
-Public Declare PtrSafe Function VB_M_GroupByW Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
-    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double, _
-    ByRef w As Double) As Long
+' Orders all rows of a table of numbers, ascending, by column 1, then column 2, and so on.
+Public Declare PtrSafe Function VB_SortMatrixSeqQDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
 
-' Merges rows that are equal, exactly, in all data columns.
-Public Declare PtrSafe Function VB_M_Dedupe Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal p As Long, ByRef nOut As Long, ByRef out As Double) As Long
+' Orders all rows of a table of integers, ascending, by column 1, then column 2, and so on.
+Public Declare PtrSafe Function VB_SortMatrixSeqQLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long) As Long
 
-' ---- row_maps.h
+' Sorts all rows of a table of numbers, ascending, by column p1, then again by the next, up to p2:
+' column p2 orders first, then the one before it.
+Public Declare PtrSafe Function VB_SortMatrixSeqQP1toP2Dbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal p1 As Long, ByVal p2 As Long) As Long
 
-' The column of the largest cell of each row.
-Public Declare PtrSafe Function Cpp_M_MaxPosByRow Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef positions As Long) As Long
+' Sorts all rows of a table of integers, ascending, by column p1, then again by the next, up to p2:
+' column p2 orders first, then the one before it.
+Public Declare PtrSafe Function VB_SortMatrixSeqQP1toP2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal p1 As Long, ByVal p2 As Long) As Long
 
-' A new variable as a weighted sum of those of a table.
-Public Declare PtrSafe Function VB_ComputeNewVar Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef coefficients As Double, _
-    ByRef out As Double) As Long
-
-' Picks the rows that are not negligible.
-Public Declare PtrSafe Function Cpp_FilterOnSumOfSquares Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal threshold As Double, _
-    ByRef kept As Integer) As Long
-
-' ---- sampling.h
-
-' Marks a range of elements.
-Public Declare PtrSafe Function VB_GenerateIndicator Lib "KORVELMathTools.dll" ( _
-    ByRef out As Double, ByVal n As Long, ByVal first As Long, ByVal last As Long) As Long
-
-' Marks a range of elements of a host array.
-Public Declare PtrSafe Function Cpp_GenerateIndicator_ST Lib "KORVELMathTools.dll" ( _
-    ByRef out() As Double, ByVal n As Long, ByVal first As Long, ByVal last As Long) As Long
-
-' Marks a random subset of k out of n elements: those of the k smallest of n uniform draws.
-Public Declare PtrSafe Function VB_GenerateRandomIndicator Lib "KORVELMathTools.dll" ( _
-    ByRef out As Double, ByVal n As Long, ByVal k As Long, ByRef seed As Long, _
-    ByVal flag As Integer, ByRef nextSeed As Long) As Long
-
-' Marks a random subset of k out of n elements of a host array.
-Public Declare PtrSafe Function Cpp_GenerateRandomIndicator_ST Lib "KORVELMathTools.dll" ( _
-    ByRef out() As Double, ByVal n As Long, ByVal k As Long, ByRef seed As Long, _
-    ByVal flag As Integer, ByRef nextSeed As Long) As Long
-
-' Simple random sample of rows with replacement, in the order of the rows.
-Public Declare PtrSafe Function VB_M_SamplingWithReplacement Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
-    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
-    ByRef nextSeed As Long) As Long
-
-' Takes each row as many times as the caller says, in the order of the rows.
-Public Declare PtrSafe Function VB_M_SampleUserDefined Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal sample As LongPtr, _
-    ByRef counts As Double, ByRef selected As Double) As Long
-
-' Takes each row of a chunked table as many times as the caller says, in the order of the rows.
-Public Declare PtrSafe Function VB_M_SampleUserDefinedSPV Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal sample As LongPtr, _
-    ByRef counts As Double, ByRef selected As Double) As Long
-
-' Systematic sample of rows with a random start: with the step s, the quotient (rows - 1) / (k - 1)
-' without its fraction, every s-th row from a random one of the first rows - (k - 1) s.
-Public Declare PtrSafe Function VB_M_SamplingSystematicRdStart Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
-    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
-    ByRef nextSeed As Long) As Long
-
-' Systematic sample of the rows of a chunked table with a random start: see
-' VB_M_SamplingSystematicRdStart.
-Public Declare PtrSafe Function VB_M_SamplingSystematicRdStartSPV Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
-    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
-    ByRef nextSeed As Long) As Long
-
-' Systematic sample of rows with a start in the middle of the possible ones.
-Public Declare PtrSafe Function VB_M_SamplingSystematicCentered Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
-    ByVal sample As LongPtr, ByRef selected As Double) As Long
-
-' Systematic sample of the rows of a chunked table with a start in the middle of the possible ones.
-Public Declare PtrSafe Function VB_M_SamplingSystematicCenteredSPV Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
-    ByVal sample As LongPtr, ByRef selected As Double) As Long
-
-' One random row from each of k strata of consecutive rows.
-Public Declare PtrSafe Function VB_M_SamplingRandomStratified Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
-    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
-    ByRef nextSeed As Long) As Long
-
-' One random row of a chunked table from each of k strata of consecutive rows.
-Public Declare PtrSafe Function VB_M_SamplingRandomStratifiedSPV Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
-    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
-    ByRef nextSeed As Long) As Long
-
-' Simple random sample with replacement from each stratum, a stratum being the rows of one label.
-Public Declare PtrSafe Function Cpp_M_SamplingRandomStratifiedByStr Lib "KORVELMathTools.dll" ( _
-    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
-    ByVal sample As LongPtr, ByVal strata As LongPtr, ByRef selected As Double, _
-    ByRef counts As Double, ByVal nCounts As Long, ByRef seed As Long, ByVal flag As Integer, _
-    ByRef nextSeed As Long) As Long
-
-' ---- sort_table.h
+' ---- ordering/sort_table.h
 
 ' Orders the rows of a table of numbers by a key, on copies that then replace the caller's arrays.
 Public Declare PtrSafe Function VB_SortQDbl Lib "KORVELMathTools.dll" ( _
@@ -802,41 +619,7 @@ Public Declare PtrSafe Function VB_SortDataBy01Bool Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function VB_SortDataBy01Str Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef key As Double) As Long
 
-' Orders rows from..to of a table of numbers by one of its columns, all columns moving.
-Public Declare PtrSafe Function Cpp_SortQMatrixCol Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal keyCol As Long, _
-    ByVal from As Long, ByVal toValue As Long, ByVal bDesc As Integer) As Long
-
-' Orders rows from..to of a table of integers by one of its columns, all columns moving.
-Public Declare PtrSafe Function Cpp_SortQMatrixColLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal keyCol As Long, _
-    ByVal from As Long, ByVal toValue As Long, ByVal bDesc As Integer) As Long
-
-' Orders rows from..to of a table of texts by one of its columns, by 16-bit code units, all columns
-' moving.
-Public Declare PtrSafe Function Cpp_SortQMatrixColStr Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal keyCol As Long, _
-    ByVal from As Long, ByVal toValue As Long, ByVal bDesc As Integer) As Long
-
-' Orders all rows of a table of numbers, ascending, by column 1, then column 2, and so on.
-Public Declare PtrSafe Function VB_SortMatrixSeqQDbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
-
-' Orders all rows of a table of integers, ascending, by column 1, then column 2, and so on.
-Public Declare PtrSafe Function VB_SortMatrixSeqQLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal rows As Long, ByVal cols As Long) As Long
-
-' Sorts all rows of a table of numbers, ascending, by column p1, then again by the next, up to p2:
-' column p2 orders first, then the one before it.
-Public Declare PtrSafe Function VB_SortMatrixSeqQP1toP2Dbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal p1 As Long, ByVal p2 As Long) As Long
-
-' Sorts all rows of a table of integers, ascending, by column p1, then again by the next, up to p2:
-' column p2 orders first, then the one before it.
-Public Declare PtrSafe Function VB_SortMatrixSeqQP1toP2Lng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal p1 As Long, ByVal p2 As Long) As Long
-
-' ---- sort_vector.h
+' ---- ordering/sort_vector.h
 
 ' Sorts positions `from..to` of a vector of numbers.
 Public Declare PtrSafe Function VB_SortQVectorDbl Lib "KORVELMathTools.dll" ( _
@@ -862,6 +645,188 @@ Public Declare PtrSafe Function Cpp_SortQVector2Str Lib "KORVELMathTools.dll" ( 
 ' Tells whether a vector is in ascending order.
 Public Declare PtrSafe Function VB_V_IsSorted Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal bStrict As Integer) As Integer
+
+' ---- ordering/survey_boxes.h
+
+' Weights of the highest and lowest distinct scores, cumulative over one, two and three levels.
+Public Declare PtrSafe Function Cpp_V_TopBottom3Box Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef top1 As Double, _
+    ByRef bottom1 As Double, ByRef top2 As Double, ByRef bottom2 As Double, ByRef top3 As Double, _
+    ByRef bottom3 As Double) As Long
+
+' The boxes of one group: only elements whose group value is within 1e-12 of groupValue add their
+' weight.
+Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef group As Double, _
+    ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
+    ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
+
+' ---- ordering/trim.h
+
+' Strips spaces (U+0020) from the ends of texts.
+Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer, _
+    ByVal out As LongPtr) As Long
+
+' Strips spaces (U+0020) from the ends of texts, in place.
+Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
+
+' ---- random/indicator.h
+
+' Marks a range of elements.
+Public Declare PtrSafe Function VB_GenerateIndicator Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal n As Long, ByVal first As Long, ByVal last As Long) As Long
+
+' Marks a range of elements of a host array.
+Public Declare PtrSafe Function Cpp_GenerateIndicator_ST Lib "KORVELMathTools.dll" ( _
+    ByRef out() As Double, ByVal n As Long, ByVal first As Long, ByVal last As Long) As Long
+
+' Marks a random subset of k out of n elements: those of the k smallest of n uniform draws.
+Public Declare PtrSafe Function VB_GenerateRandomIndicator Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal n As Long, ByVal k As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' Marks a random subset of k out of n elements of a host array.
+Public Declare PtrSafe Function Cpp_GenerateRandomIndicator_ST Lib "KORVELMathTools.dll" ( _
+    ByRef out() As Double, ByVal n As Long, ByVal k As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' ---- random/permutation.h
+
+' Random permutation of the integers 1 to n.
+Public Declare PtrSafe Function Cpp_Random1toNLong Lib "KORVELMathTools.dll" ( _
+    ByRef out As Long, ByVal n As Long, ByVal bReset As Integer, ByRef seed As Long, _
+    ByRef flag As Integer, ByRef nextSeed As Long) As Long
+
+' Random permutation of the numbers 1 to n.
+Public Declare PtrSafe Function Cpp_Random1toNDbl Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal n As Long, ByVal bReset As Integer, ByRef seed As Long, _
+    ByRef flag As Integer, ByRef nextSeed As Long) As Long
+
+' Random permutation of the integers from a to b, of which the array gets all but the last two.
+Public Declare PtrSafe Function Cpp_RandomAtoBLng Lib "KORVELMathTools.dll" ( _
+    ByRef out As Long, ByVal a As Long, ByVal b As Long, ByVal bReset As Integer, _
+    ByRef seed As Long, ByRef flag As Integer, ByRef nextSeed As Long) As Long
+
+' Random permutation of the numbers from a to b in steps of 1, of which the array gets all but the
+' last two.
+Public Declare PtrSafe Function Cpp_RandomAtoBDbl Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal a As Long, ByVal b As Long, ByVal bReset As Integer, _
+    ByRef seed As Long, ByRef flag As Integer, ByRef nextSeed As Long) As Long
+
+' ---- random/random_generators.h
+
+' Seeds the random source and draws one uniform number.
+Public Declare PtrSafe Function Cpp_Random01 Lib "KORVELMathTools.dll" ( _
+    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Double
+
+' ---- random/random_source.h
+
+' Selects the random generator.
+Public Declare PtrSafe Function Cpp_set_rand_algo Lib "KORVELMathTools.dll" ( _
+    ByVal algorithm As Long) As Long
+
+' ---- random/random_table.h
+
+' Seeds the random source and fills an array with uniform numbers in storage order, column after
+' column.
+Public Declare PtrSafe Function VB_M_GenerateRandom01 Lib "KORVELMathTools.dll" ( _
+    ByRef out As Double, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' ---- random/sampling.h
+
+' Simple random sample of rows with replacement, in the order of the rows.
+Public Declare PtrSafe Function VB_M_SamplingWithReplacement Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Takes each row as many times as the caller says, in the order of the rows.
+Public Declare PtrSafe Function VB_M_SampleUserDefined Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal sample As LongPtr, _
+    ByRef counts As Double, ByRef selected As Double) As Long
+
+' Takes each row of a chunked table as many times as the caller says, in the order of the rows.
+Public Declare PtrSafe Function VB_M_SampleUserDefinedSPV Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal sample As LongPtr, _
+    ByRef counts As Double, ByRef selected As Double) As Long
+
+' Systematic sample of rows with a random start: with the step s, the quotient (rows - 1) / (k - 1)
+' without its fraction, every s-th row from a random one of the first rows - (k - 1) s.
+Public Declare PtrSafe Function VB_M_SamplingSystematicRdStart Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Systematic sample of the rows of a chunked table with a random start: see
+' VB_M_SamplingSystematicRdStart.
+Public Declare PtrSafe Function VB_M_SamplingSystematicRdStartSPV Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Systematic sample of rows with a start in the middle of the possible ones.
+Public Declare PtrSafe Function VB_M_SamplingSystematicCentered Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double) As Long
+
+' Systematic sample of the rows of a chunked table with a start in the middle of the possible ones.
+Public Declare PtrSafe Function VB_M_SamplingSystematicCenteredSPV Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double) As Long
+
+' One random row from each of k strata of consecutive rows.
+Public Declare PtrSafe Function VB_M_SamplingRandomStratified Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' One random row of a chunked table from each of k strata of consecutive rows.
+Public Declare PtrSafe Function VB_M_SamplingRandomStratifiedSPV Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByRef selected As Double, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Simple random sample with replacement from each stratum, a stratum being the rows of one label.
+Public Declare PtrSafe Function Cpp_M_SamplingRandomStratifiedByStr Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal k As Long, _
+    ByVal sample As LongPtr, ByVal strata As LongPtr, ByRef selected As Double, _
+    ByRef counts As Double, ByVal nCounts As Long, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' ---- random/shuffle.h
+
+' Shuffles a vector of numbers.
+Public Declare PtrSafe Function Cpp_V_Shuffle Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Shuffles a vector of integers.
+Public Declare PtrSafe Function Cpp_V_ShuffleLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef seed As Long, ByVal flag As Integer, _
+    ByRef nextSeed As Long) As Long
+
+' Shuffles the rows of a table of numbers in place; the columns of a row stay together.
+Public Declare PtrSafe Function Cpp_M_ShuffleDbl2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' Shuffles the rows of a table of texts in place; the columns of a row stay together.
+Public Declare PtrSafe Function Cpp_M_ShuffleStr2 Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef seed As Long, _
+    ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' Shuffles the rows of a table of numbers into another table; the columns of a row stay together.
+Public Declare PtrSafe Function Cpp_M_ShuffleDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
+    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Long
+
+' Shuffles the rows of a table of texts into another table; the columns of a row stay together.
+Public Declare PtrSafe Function Cpp_M_ShuffleStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr, _
+    ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Long
 
 ' ---- statistics/column_deviations.h
 
@@ -889,73 +854,244 @@ Public Declare PtrSafe Function VB_M_MeanStDevVarOneInMat Lib "KORVELMathTools.d
     ByRef sd As Double, ByRef var As Double, ByRef w As Double, ByVal bUnbiased As Integer, _
     ByVal bFreq As Integer) As Long
 
-' ---- survey_boxes.h
+' ---- statistics/row_grouping.h
 
-' Weights of the highest and lowest distinct scores, cumulative over one, two and three levels.
-Public Declare PtrSafe Function Cpp_V_TopBottom3Box Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef top1 As Double, _
-    ByRef bottom1 As Double, ByRef top2 As Double, ByRef bottom2 As Double, ByRef top3 As Double, _
-    ByRef bottom3 As Double) As Long
+' Aggregates the rows that share the value of a key column, in ascending order of the keys, compared
+' exactly.
+Public Declare PtrSafe Function VB_M_GroupBy Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
+    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double) As Long
 
-' The boxes of one group: only elements whose group value is within 1e-12 of groupValue add their
-' weight.
-Public Declare PtrSafe Function Cpp_V_TopBottom3BoxConditional Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef group As Double, _
-    ByVal groupValue As Double, ByRef top1 As Double, ByRef bottom1 As Double, ByRef top2 As Double, _
-    ByRef bottom2 As Double, ByRef top3 As Double, ByRef bottom3 As Double) As Long
+' Aggregates the rows that share the value of a key column, with a weight for each row.
+Public Declare PtrSafe Function VB_M_GroupByW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef kinds As Long, _
+    ByVal groupCol As Long, ByVal method As Long, ByRef nOut As Long, ByRef out As Double, _
+    ByRef w As Double) As Long
 
-' ---- symmetric.h
+' Merges rows that are equal, exactly, in all data columns.
+Public Declare PtrSafe Function VB_M_Dedupe Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal p As Long, ByRef nOut As Long, ByRef out As Double) As Long
 
-' Makes a table symmetric: both cells of a pair (i, j), (j, i) become their mean.
-Public Declare PtrSafe Function VB_M_Symmetrize Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+' ---- statistics/table_extremes.h
 
-' Makes a table symmetric: both cells of a pair (i, j), (j, i) become their mean.
-Public Declare PtrSafe Function VB_M_SymmetrizeSPV Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+' The smallest element of a record of labelled columns that is not missing.
+Public Declare PtrSafe Function Cpp_V_Min3 Lib "KORVELMathTools.dll" ( _
+    ByVal record As LongPtr, ByVal nRows As Long, ByVal nCols As Long) As Double
 
-' Tells whether a square table is symmetric.
-Public Declare PtrSafe Function VB_M_IsSymmetric Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Integer
+' ---- statistics/vector_extremes.h
 
-' Tells whether a square table is symmetric.
-Public Declare PtrSafe Function VB_M_IsSymmetricSPV Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal n As Long) As Integer
+' The smallest element that is kept.
+Public Declare PtrSafe Function VB_V_Min Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer) As Double
 
-' Tells whether the diagonal of a square table is constant.
-Public Declare PtrSafe Function VB_M_IsDiagConstant Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Integer
+' The smallest element that is not missing.
+Public Declare PtrSafe Function VB_V_Min2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
 
-' Packs a symmetric table: its lower triangle row after row.
-Public Declare PtrSafe Function Cpp_M_CopySymMatToVector Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef v As Double) As Long
+' The smallest of some integers.
+Public Declare PtrSafe Function VB_V_Min2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Double
 
-' Unpacks a vector that holds a triangle row after row into both halves of a table.
-Public Declare PtrSafe Function Cpp_M_CopyVectorToSymMat Lib "KORVELMathTools.dll" ( _
-    ByRef v As Double, ByVal n As Long, ByRef x As Double) As Long
+' The largest element that is kept. iMissing (Integer) may be null.
+Public Declare PtrSafe Function VB_V_Max Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any) As Double
 
-' Tells similarities from dissimilarities.
-Public Declare PtrSafe Function VB_M_CheckIfSimOrDissim Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+' The largest element that is not missing.
+Public Declare PtrSafe Function VB_V_Max2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
 
-' Tells similarities from dissimilarities.
-Public Declare PtrSafe Function VB_M_CheckIfSimOrDissimSPV Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+' The largest of some integers.
+Public Declare PtrSafe Function VB_V_Max2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Double
 
-' Turns similarities into dissimilarities: every cell becomes the largest cell of the table less
-' itself.
-Public Declare PtrSafe Function VB_M_TransformSimToDissim Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Long
+' The largest element of a host array that is not missing.
+Public Declare PtrSafe Function Cpp_V_Max2_ST Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Double, ByVal n As Long) As Double
 
-' Tells which half of a square table is filled, and fills the other half from it on request.
-Public Declare PtrSafe Function VB_M_IsTriangular Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal bMirror As Integer) As Long
+' The largest integer of a host array.
+Public Declare PtrSafe Function Cpp_V_Max2Lng_ST Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Long, ByVal n As Long) As Double
 
-' Tells which half of a square table is filled, and fills the other half from it on request.
-Public Declare PtrSafe Function VB_M_IsTriangularSPV Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal n As Long, ByVal bMirror As Integer) As Long
+' The largest integer that is kept, as an integer. iMissing (Integer) may be null.
+Public Declare PtrSafe Function VB_V_MaxInt Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef iMissing As Any) As Long
 
-' ---- table_blocks.h
+' The smallest and the largest element that are kept.
+Public Declare PtrSafe Function VB_V_MinMax Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
+    ByRef iMissing As Integer) As Long
+
+' The smallest and the largest integer that are kept.
+Public Declare PtrSafe Function VB_V_MinMaxLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
+    ByRef iMissing As Integer) As Long
+
+' The smallest and the largest element.
+Public Declare PtrSafe Function VB_V_MinMax2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
+    ByVal bSkipMissing As Integer) As Long
+
+' The smallest and the largest of some integers.
+Public Declare PtrSafe Function VB_V_MinMaxLng2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
+    ByVal bSkipMissing As Integer) As Long
+
+' The smallest of all elements, missing ones too, and its position.
+Public Declare PtrSafe Function VB_V_MinAndMinPos Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef pos As Long, ByVal bLast As Integer) As Double
+
+' The largest of all elements, missing ones too, and the first of its positions.
+Public Declare PtrSafe Function VB_V_MaxAndMaxPos Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef pos As Long) As Double
+
+' ---- statistics/vector_frequencies.h
+
+' Total weight of the numbers that are near a value.
+Public Declare PtrSafe Function VB_V_Freq Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal value As Double, _
+    ByVal tol As Double) As Double
+
+' Total weight of the integers that are near a value.
+Public Declare PtrSafe Function VB_V_FreqLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef w As Double, ByVal value As Double, ByVal tol As Double) As Double
+
+' Total weight of the texts that equal a value: of the same length and with the same code units.
+Public Declare PtrSafe Function VB_V_FreqStr Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByRef w As Double, ByVal value As LongPtr) As Double
+
+' ---- statistics/vector_means.h
+
+' Weighted mean: the sum of w[i] * x[i] over the sum of w[i].
+Public Declare PtrSafe Function VB_V_Mean Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double) As Double
+
+' Weighted mean of absolute values.
+Public Declare PtrSafe Function VB_V_MeanAbs Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double) As Double
+
+' Mean of the elements that are not missing.
+Public Declare PtrSafe Function VB_V_Mean2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' Weighted mean of the elements that are not missing.
+Public Declare PtrSafe Function Cpp_V_MeanW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Double
+
+' Weighted harmonic mean: the sum of w[i] over the sum of w[i] / x[i].
+Public Declare PtrSafe Function Cpp_V_HarmonicMean Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double) As Double
+
+' Geometric mean and geometric standard deviation.
+Public Declare PtrSafe Function Cpp_V_GMeanGSD Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByRef gmean As Double, ByRef gsd As Double) As Long
+
+' ---- statistics/vector_moments.h
+
+' Weighted mean, variance, skewness and kurtosis, with standard errors.
+Public Declare PtrSafe Function VB_V_MeanVarSkewPKurtP Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef mean As Double, ByRef var As Double, _
+    ByRef skewP As Double, ByRef kurtP As Double, ByRef skew As Double, ByRef kurt As Double, _
+    ByRef seSkew As Double, ByRef seKurt As Double, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' ---- statistics/vector_sums.h
+
+' Weighted sum of a vector: the sum of w[i] * x[i] in ascending order. iMissing (Integer) may be
+' null.
+Public Declare PtrSafe Function VB_V_Sum Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any, ByRef w As Double) As Double
+
+' Sum of x[i] * w[i] over all elements: a missing value or weight multiplies through.
+Public Declare PtrSafe Function Cpp_V_SumW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Double
+
+' Sum of the elements that are not missing.
+Public Declare PtrSafe Function VB_V_Sum2Dbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' Sum of integers in 32-bit arithmetic that wraps around.
+Public Declare PtrSafe Function VB_V_Sum2Lng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Double
+
+' Sum of the elements of a host array that are not missing.
+Public Declare PtrSafe Function Cpp_V_Sum2Dbl_ST Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Double, ByVal n As Long) As Double
+
+' Sum of the integers of a host array in 32-bit arithmetic that wraps around.
+Public Declare PtrSafe Function Cpp_V_Sum2Lng_ST Lib "KORVELMathTools.dll" ( _
+    ByRef sa() As Long, ByVal n As Long) As Double
+
+' Sum over a stretch of a vector, missing elements too.
+Public Declare PtrSafe Function VB_V_SumFromTo Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal from As Long, ByVal toValue As Long) As Double
+
+' Sum over a stretch of a vector of integers, in 32-bit arithmetic that wraps around.
+Public Declare PtrSafe Function VB_V_SumFromToLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByVal from As Long, ByVal toValue As Long) As Long
+
+' Sum of squares of the elements that are not missing.
+Public Declare PtrSafe Function VB_V_SumSq Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' Weighted sum of squares of the elements that are not missing: the sum of x[i] * w[i] * x[i].
+Public Declare PtrSafe Function VB_V_SumSqW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Double
+
+' Squared distance of two vectors, over all elements, missing ones too.
+Public Declare PtrSafe Function VB_V_DiffSq Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Double) As Double
+
+' Weighted squared distance of two vectors, over all elements, missing ones too.
+Public Declare PtrSafe Function VB_V_DiffSqW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Double, ByRef w As Double) As Double
+
+' Squared distance of the tails of two vectors, over all elements, missing ones too.
+Public Declare PtrSafe Function Cpp_V_DiffSqStart Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Double, ByVal start As Long) As Double
+
+' Running sum over all elements, missing ones too.
+Public Declare PtrSafe Function Cpp_V_CuSum Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
+
+' ---- statistics/vector_variance.h
+
+' Weighted variance.
+Public Declare PtrSafe Function VB_V_Var Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Double
+
+' Variance of the elements that are not missing, all of weight 1: VB_V_Var with no flag set.
+Public Declare PtrSafe Function Cpp_V_Var2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Double
+
+' Weighted standard deviation: the square root of VB_V_Var.
+Public Declare PtrSafe Function VB_V_Stdev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Double
+
+' Weighted mean and variance.
+Public Declare PtrSafe Function VB_V_MeanVar Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef mean As Double, ByRef var As Double, _
+    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Weighted mean and variance of the elements that are not missing.
+Public Declare PtrSafe Function Cpp_V_MeanVarW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef mean As Double, _
+    ByRef var As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Weighted mean and standard deviation.
+Public Declare PtrSafe Function VB_V_MeanStdev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef mean As Double, ByRef sd As Double, _
+    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Mean and standard deviation of the elements greater than the missing number, all of weight 1; a
+' NaN is left out as well.
+Public Declare PtrSafe Function Cpp_V_MeanStdev2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bUnbiased As Integer, ByRef mean As Double, _
+    ByRef sd As Double) As Long
+
+' ---- tables/blocks.h
 
 ' Copies a block of a table of numbers.
 Public Declare PtrSafe Function VB_M_CopyBlock Lib "KORVELMathTools.dll" ( _
@@ -1010,7 +1146,34 @@ Public Declare PtrSafe Function Cpp_M_CopyPasteBlockSPV Lib "KORVELMathTools.dll
     ByVal lastRow As Long, ByVal firstCol As Long, ByVal lastCol As Long, ByVal y As LongPtr, _
     ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
 
-' ---- table_columns.h
+' ---- tables/cell_maps.h
+
+' Natural logarithms.
+Public Declare PtrSafe Function VB_M_LogMatrix Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+
+' Logarithms to base 10.
+Public Declare PtrSafe Function VB_M_Log10Matrix Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+
+' Square roots.
+Public Declare PtrSafe Function Cpp_M_SquareRootAij Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double) As Long
+
+' Square roots, in place.
+Public Declare PtrSafe Function Cpp_M_SquareRootAij2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Subtracts the first cell of its row from each cell, in place; the first column becomes 0.
+Public Declare PtrSafe Function Cpp_M_SubstractFirstCol2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Tells whether all cells of a table lie in an interval.
+Public Declare PtrSafe Function VB_M_IsInIntervalSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal lo As Double, _
+    ByVal hi As Double, ByVal bOpen As Integer, ByVal bSkipMissing As Integer) As Integer
+
+' ---- tables/columns.h
 
 ' Copies a column of a table into a column of another.
 Public Declare PtrSafe Function VB_CopyMatrixColToMatrixCol Lib "KORVELMathTools.dll" ( _
@@ -1037,7 +1200,61 @@ Public Declare PtrSafe Function VB_M_MoveRow Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
     ByVal toValue As Long) As Long
 
-' ---- table_duplicate.h
+' Copies a range of rows of a column of numbers to a place in a table.
+Public Declare PtrSafe Function VB_V_DuplicateDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByRef y As Double, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of integers to a place in a table.
+Public Declare PtrSafe Function VB_V_DuplicateLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef y As Long, ByVal yRows As Long, ByVal yCols As Long, _
+    ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of numbers to a place in a table of integers.
+Public Declare PtrSafe Function VB_V_DuplicateDblToLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByRef y As Long, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of integers to a place in a table of numbers.
+Public Declare PtrSafe Function VB_V_DuplicateLngToDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, ByVal from As Long, _
+    ByVal toValue As Long, ByRef y As Double, ByVal yRows As Long, ByVal yCols As Long, _
+    ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of texts to a place in a table.
+Public Declare PtrSafe Function VB_V_DuplicateStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByVal y As LongPtr, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of flags to a place in a table.
+Public Declare PtrSafe Function Cpp_V_DuplicateBool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
+    ByVal from As Long, ByVal toValue As Long, ByRef y As Integer, ByVal yRows As Long, _
+    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of numbers to a place in a table, both host arrays that come
+' out of a record.
+Public Declare PtrSafe Function Cpp_V_DuplicateDbl_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Double, ByVal col As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByRef y() As Double, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of integers to a place in a table, both host arrays that come
+' out of a record.
+Public Declare PtrSafe Function Cpp_V_DuplicateLng_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Long, ByVal col As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByRef y() As Long, ByVal row As Long, ByVal yCol As Long) As Long
+
+' Copies a range of rows of a column of texts to a place in a table, both host arrays that come out
+' of a record.
+Public Declare PtrSafe Function Cpp_V_DuplicateStr_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal col As Long, ByVal from As Long, ByVal toValue As Long, _
+    ByVal y As LongPtr, ByVal row As Long, ByVal yCol As Long) As Long
+
+' ---- tables/duplicate.h
 
 ' Copies a table of numbers into another.
 Public Declare PtrSafe Function VB_M_DuplicateDbl Lib "KORVELMathTools.dll" ( _
@@ -1089,7 +1306,7 @@ Public Declare PtrSafe Function Cpp_M_DuplicateDblSPV3 Lib "KORVELMathTools.dll"
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr, _
     ByVal yRows As Long, ByVal yCols As Long, ByVal row As Long, ByVal col As Long) As Long
 
-' ---- table_extract.h
+' ---- tables/extract.h
 
 ' Takes a range of rows of a table of numbers.
 Public Declare PtrSafe Function VB_M_ExtractMatToMatDbl Lib "KORVELMathTools.dll" ( _
@@ -1121,7 +1338,48 @@ Public Declare PtrSafe Function VB_M_ExtractMatToMatByColDbl Lib "KORVELMathTool
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal firstCol As Long, _
     ByVal lastCol As Long, ByRef out As Double) As Long
 
-' ---- table_merge.h
+' ---- tables/fill.h
+
+' Numbers a vector: element k, from 1, becomes k.
+Public Declare PtrSafe Function VB_V_Set1toNDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' Numbers a vector: element k, from 1, becomes k.
+Public Declare PtrSafe Function VB_V_Set1toNLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long) As Long
+
+' Numbers a vector: element k, from 1, becomes k, in decimal digits.
+Public Declare PtrSafe Function VB_V_Set1toNStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long) As Long
+
+' Sets flags to false.
+Public Declare PtrSafe Function VB_InitVectorToFalse Lib "KORVELMathTools.dll" ( _
+    ByRef flags As Integer, ByVal n As Long) As Long
+
+' Sets flags to true.
+Public Declare PtrSafe Function VB_InitVectorToTrue Lib "KORVELMathTools.dll" ( _
+    ByRef flags As Integer, ByVal n As Long) As Long
+
+' Flags the cells of a table that equal a number.
+Public Declare PtrSafe Function Cpp_M_SetBooleanIfLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal value As Long, _
+    ByRef flags As Integer) As Long
+
+' ---- tables/matrix_dump.h
+
+' Writes a table of numbers to a text file.
+Public Declare PtrSafe Sub Cpp_WriteMatrixDbl Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal rows As Long, ByVal cols As Long, ByVal name As String)
+
+' Writes a table of integers to a text file.
+Public Declare PtrSafe Sub Cpp_WriteMatrixLng Lib "KORVELMathTools.dll" ( _
+    ByRef a As Long, ByVal rows As Long, ByVal cols As Long, ByVal name As String)
+
+' Writes a table of texts to a text file.
+Public Declare PtrSafe Function Cpp_WriteMatrixStr Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal name As String) As Long
+
+' ---- tables/merge.h
 
 ' Puts two tables of numbers side by side.
 Public Declare PtrSafe Function VB_HMergeTablesDbl Lib "KORVELMathTools.dll" ( _
@@ -1221,7 +1479,22 @@ Public Declare PtrSafe Function Cpp_VMergeTablesDblSPV Lib "KORVELMathTools.dll"
     ByVal a As LongPtr, ByVal rowsA As Long, ByVal colsA As Long, ByRef b As Double, _
     ByVal rowsB As Long, ByVal colsB As Long, ByRef out As Double) As Long
 
-' ---- table_remove.h
+' ---- tables/proximity.h
+
+' Tells similarities from dissimilarities.
+Public Declare PtrSafe Function VB_M_CheckIfSimOrDissim Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Tells similarities from dissimilarities.
+Public Declare PtrSafe Function VB_M_CheckIfSimOrDissimSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Turns similarities into dissimilarities: every cell becomes the largest cell of the table less
+' itself.
+Public Declare PtrSafe Function VB_M_TransformSimToDissim Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' ---- tables/remove.h
 
 ' Copies a table without one column.
 Public Declare PtrSafe Function VB_M_RemoveCol Lib "KORVELMathTools.dll" ( _
@@ -1256,7 +1529,7 @@ Public Declare PtrSafe Function VB_M_RemoveRowsInList Lib "KORVELMathTools.dll" 
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef list As Long, ByVal n As Long, _
     ByRef out As Double) As Long
 
-' ---- table_resize.h
+' ---- tables/resize.h
 
 ' Copies a table of numbers into another shape.
 Public Declare PtrSafe Function VB_M_CopyResize Lib "KORVELMathTools.dll" ( _
@@ -1278,7 +1551,53 @@ Public Declare PtrSafe Function VB_M_CopyToBigger Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
     ByVal yRows As Long, ByVal yCols As Long) As Long
 
-' ---- text_rows.h
+' ---- tables/row_maps.h
+
+' The column of the largest cell of each row.
+Public Declare PtrSafe Function Cpp_M_MaxPosByRow Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef positions As Long) As Long
+
+' A new variable as a weighted sum of those of a table.
+Public Declare PtrSafe Function VB_ComputeNewVar Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef coefficients As Double, _
+    ByRef out As Double) As Long
+
+' Picks the rows that are not negligible.
+Public Declare PtrSafe Function Cpp_FilterOnSumOfSquares Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal threshold As Double, _
+    ByRef kept As Integer) As Long
+
+' ---- tables/symmetric.h
+
+' Makes a table symmetric: both cells of a pair (i, j), (j, i) become their mean.
+Public Declare PtrSafe Function VB_M_Symmetrize Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Makes a table symmetric: both cells of a pair (i, j), (j, i) become their mean.
+Public Declare PtrSafe Function VB_M_SymmetrizeSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Tells whether a square table is symmetric.
+Public Declare PtrSafe Function VB_M_IsSymmetric Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Integer
+
+' Tells whether a square table is symmetric.
+Public Declare PtrSafe Function VB_M_IsSymmetricSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long) As Integer
+
+' Tells whether the diagonal of a square table is constant.
+Public Declare PtrSafe Function VB_M_IsDiagConstant Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Integer
+
+' Packs a symmetric table: its lower triangle row after row.
+Public Declare PtrSafe Function Cpp_M_CopySymMatToVector Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef v As Double) As Long
+
+' Unpacks a vector that holds a triangle row after row into both halves of a table.
+Public Declare PtrSafe Function Cpp_M_CopyVectorToSymMat Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef x As Double) As Long
+
+' ---- tables/text_rows.h
 
 ' Joins the cells of each row of texts, from the first column on, with nothing between them.
 Public Declare PtrSafe Function Cpp_M_MergeStringsByRow Lib "KORVELMathTools.dll" ( _
@@ -1288,7 +1607,7 @@ Public Declare PtrSafe Function Cpp_M_MergeStringsByRow Lib "KORVELMathTools.dll
 Public Declare PtrSafe Function Cpp_CheckSameVectorStr Lib "KORVELMathTools.dll" ( _
     ByVal a As LongPtr, ByVal nA As Long, ByVal b As LongPtr, ByVal nB As Long) As Integer
 
-' ---- transpose.h
+' ---- tables/transpose.h
 
 ' Transposes a table of numbers.
 Public Declare PtrSafe Function VB_M_Transpose Lib "KORVELMathTools.dll" ( _
@@ -1318,269 +1637,17 @@ Public Declare PtrSafe Function VB_M_Transpose2Str Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function VB_M_TransposeSPV Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal y As LongPtr) As Long
 
-' ---- vector_duplicate.h
+' ---- tables/triangular.h
 
-' Copies a range of rows of a column of numbers to a place in a table.
-Public Declare PtrSafe Function VB_V_DuplicateDbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
-    ByVal from As Long, ByVal toValue As Long, ByRef y As Double, ByVal yRows As Long, _
-    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
+' Tells which half of a square table is filled, and fills the other half from it on request.
+Public Declare PtrSafe Function VB_M_IsTriangular Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bMirror As Integer) As Long
 
-' Copies a range of rows of a column of integers to a place in a table.
-Public Declare PtrSafe Function VB_V_DuplicateLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef y As Long, ByVal yRows As Long, ByVal yCols As Long, _
-    ByVal row As Long, ByVal yCol As Long) As Long
+' Tells which half of a square table is filled, and fills the other half from it on request.
+Public Declare PtrSafe Function VB_M_IsTriangularSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal bMirror As Integer) As Long
 
-' Copies a range of rows of a column of numbers to a place in a table of integers.
-Public Declare PtrSafe Function VB_V_DuplicateDblToLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
-    ByVal from As Long, ByVal toValue As Long, ByRef y As Long, ByVal yRows As Long, _
-    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
-
-' Copies a range of rows of a column of integers to a place in a table of numbers.
-Public Declare PtrSafe Function VB_V_DuplicateLngToDbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef y As Double, ByVal yRows As Long, ByVal yCols As Long, _
-    ByVal row As Long, ByVal yCol As Long) As Long
-
-' Copies a range of rows of a column of texts to a place in a table.
-Public Declare PtrSafe Function VB_V_DuplicateStr Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
-    ByVal from As Long, ByVal toValue As Long, ByVal y As LongPtr, ByVal yRows As Long, _
-    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
-
-' Copies a range of rows of a column of flags to a place in a table.
-Public Declare PtrSafe Function Cpp_V_DuplicateBool Lib "KORVELMathTools.dll" ( _
-    ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByVal col As Long, _
-    ByVal from As Long, ByVal toValue As Long, ByRef y As Integer, ByVal yRows As Long, _
-    ByVal yCols As Long, ByVal row As Long, ByVal yCol As Long) As Long
-
-' Copies a range of rows of a column of numbers to a place in a table, both host arrays that come
-' out of a record.
-Public Declare PtrSafe Function Cpp_V_DuplicateDbl_ST Lib "KORVELMathTools.dll" ( _
-    ByRef x() As Double, ByVal col As Long, ByVal from As Long, ByVal toValue As Long, _
-    ByRef y() As Double, ByVal row As Long, ByVal yCol As Long) As Long
-
-' Copies a range of rows of a column of integers to a place in a table, both host arrays that come
-' out of a record.
-Public Declare PtrSafe Function Cpp_V_DuplicateLng_ST Lib "KORVELMathTools.dll" ( _
-    ByRef x() As Long, ByVal col As Long, ByVal from As Long, ByVal toValue As Long, _
-    ByRef y() As Long, ByVal row As Long, ByVal yCol As Long) As Long
-
-' Copies a range of rows of a column of texts to a place in a table, both host arrays that come out
-' of a record.
-Public Declare PtrSafe Function Cpp_V_DuplicateStr_ST Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal col As Long, ByVal from As Long, ByVal toValue As Long, _
-    ByVal y As LongPtr, ByVal row As Long, ByVal yCol As Long) As Long
-
-' ---- vector_extremes.h
-
-' The smallest element that is kept.
-Public Declare PtrSafe Function VB_V_Min Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer) As Double
-
-' The smallest element that is not missing.
-Public Declare PtrSafe Function VB_V_Min2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Double
-
-' The smallest of some integers.
-Public Declare PtrSafe Function VB_V_Min2Lng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long) As Double
-
-' The largest element that is kept. iMissing (Integer) may be null.
-Public Declare PtrSafe Function VB_V_Max Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any) As Double
-
-' The largest element that is not missing.
-Public Declare PtrSafe Function VB_V_Max2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Double
-
-' The largest of some integers.
-Public Declare PtrSafe Function VB_V_Max2Lng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long) As Double
-
-' The largest element of a host array that is not missing.
-Public Declare PtrSafe Function Cpp_V_Max2_ST Lib "KORVELMathTools.dll" ( _
-    ByRef sa() As Double, ByVal n As Long) As Double
-
-' The largest integer of a host array.
-Public Declare PtrSafe Function Cpp_V_Max2Lng_ST Lib "KORVELMathTools.dll" ( _
-    ByRef sa() As Long, ByVal n As Long) As Double
-
-' The largest integer that is kept, as an integer. iMissing (Integer) may be null.
-Public Declare PtrSafe Function VB_V_MaxInt Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long, ByRef iMissing As Any) As Long
-
-' The smallest and the largest element that are kept.
-Public Declare PtrSafe Function VB_V_MinMax Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
-    ByRef iMissing As Integer) As Long
-
-' The smallest and the largest integer that are kept.
-Public Declare PtrSafe Function VB_V_MinMaxLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
-    ByRef iMissing As Integer) As Long
-
-' The smallest and the largest element.
-Public Declare PtrSafe Function VB_V_MinMax2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
-    ByVal bSkipMissing As Integer) As Long
-
-' The smallest and the largest of some integers.
-Public Declare PtrSafe Function VB_V_MinMaxLng2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long, ByRef min As Double, ByRef max As Double, _
-    ByVal bSkipMissing As Integer) As Long
-
-' The smallest of all elements, missing ones too, and its position.
-Public Declare PtrSafe Function VB_V_MinAndMinPos Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef pos As Long, ByVal bLast As Integer) As Double
-
-' The largest of all elements, missing ones too, and the first of its positions.
-Public Declare PtrSafe Function VB_V_MaxAndMaxPos Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef pos As Long) As Double
-
-' The smallest element of a record of labelled columns that is not missing.
-Public Declare PtrSafe Function Cpp_V_Min3 Lib "KORVELMathTools.dll" ( _
-    ByVal record As LongPtr, ByVal nRows As Long, ByVal nCols As Long) As Double
-
-' ---- vector_frequencies.h
-
-' Total weight of the numbers that are near a value.
-Public Declare PtrSafe Function VB_V_Freq Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal value As Double, _
-    ByVal tol As Double) As Double
-
-' Total weight of the integers that are near a value.
-Public Declare PtrSafe Function VB_V_FreqLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long, ByRef w As Double, ByVal value As Double, ByVal tol As Double) As Double
-
-' Total weight of the texts that equal a value: of the same length and with the same code units.
-Public Declare PtrSafe Function VB_V_FreqStr Lib "KORVELMathTools.dll" ( _
-    ByVal labels As LongPtr, ByVal n As Long, ByRef w As Double, ByVal value As LongPtr) As Double
-
-' ---- vector_means.h
-
-' Weighted mean: the sum of w[i] * x[i] over the sum of w[i].
-Public Declare PtrSafe Function VB_V_Mean Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double) As Double
-
-' Weighted mean of absolute values.
-Public Declare PtrSafe Function VB_V_MeanAbs Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double) As Double
-
-' Mean of the elements that are not missing.
-Public Declare PtrSafe Function VB_V_Mean2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Double
-
-' Weighted mean of the elements that are not missing.
-Public Declare PtrSafe Function Cpp_V_MeanW2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Double
-
-' Weighted harmonic mean: the sum of w[i] over the sum of w[i] / x[i].
-Public Declare PtrSafe Function Cpp_V_HarmonicMean Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double) As Double
-
-' Geometric mean and geometric standard deviation.
-Public Declare PtrSafe Function Cpp_V_GMeanGSD Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
-    ByRef gmean As Double, ByRef gsd As Double) As Long
-
-' ---- vector_moments.h
-
-' Weighted mean, variance, skewness and kurtosis, with standard errors.
-Public Declare PtrSafe Function VB_V_MeanVarSkewPKurtP Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef mean As Double, ByRef var As Double, _
-    ByRef skewP As Double, ByRef kurtP As Double, ByRef skew As Double, ByRef kurt As Double, _
-    ByRef seSkew As Double, ByRef seKurt As Double, ByRef iMissing As Integer, ByRef w As Double, _
-    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
-
-' ---- vector_products.h
-
-' The inner product: the sum of x1(i) * x2(i).
-Public Declare PtrSafe Function VB_V_ProductTrV1V2 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Double
-
-' y(i) = x1(i) * x2(i), missing when one of the two is.
-Public Declare PtrSafe Function VB_V_ProductV1V2 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef y As Double) As Long
-
-' x1(i) = x1(i) * x2(i).
-Public Declare PtrSafe Function VB_V_ProductV1V22 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double) As Long
-
-' The outer product: c(i, j) = x1(i) * x2(j).
-Public Declare PtrSafe Function VB_V_ProductV1TrV2 Lib "KORVELMathTools.dll" ( _
-    ByRef x1 As Double, ByVal n As Long, ByRef x2 As Double, ByRef c As Double) As Long
-
-' The product of all elements in ascending order, from 1.0.
-Public Declare PtrSafe Function VB_V_Product1toNDbl Lib "KORVELMathTools.dll" ( _
-    ByRef v As Double, ByVal n As Long) As Double
-
-' The product of all elements in ascending order, from 1.0, in Double.
-Public Declare PtrSafe Function VB_V_Product1toNLng Lib "KORVELMathTools.dll" ( _
-    ByRef v As Long, ByVal n As Long) As Double
-
-' ---- vector_sums.h
-
-' Weighted sum of a vector: the sum of w[i] * x[i] in ascending order. iMissing (Integer) may be
-' null.
-Public Declare PtrSafe Function VB_V_Sum Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any, ByRef w As Double) As Double
-
-' Sum of x[i] * w[i] over all elements: a missing value or weight multiplies through.
-Public Declare PtrSafe Function Cpp_V_SumW Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Double
-
-' Sum of the elements that are not missing.
-Public Declare PtrSafe Function VB_V_Sum2Dbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Double
-
-' Sum of integers in 32-bit arithmetic that wraps around.
-Public Declare PtrSafe Function VB_V_Sum2Lng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long) As Double
-
-' Sum of the elements of a host array that are not missing.
-Public Declare PtrSafe Function Cpp_V_Sum2Dbl_ST Lib "KORVELMathTools.dll" ( _
-    ByRef sa() As Double, ByVal n As Long) As Double
-
-' Sum of the integers of a host array in 32-bit arithmetic that wraps around.
-Public Declare PtrSafe Function Cpp_V_Sum2Lng_ST Lib "KORVELMathTools.dll" ( _
-    ByRef sa() As Long, ByVal n As Long) As Double
-
-' Sum over a stretch of a vector, missing elements too.
-Public Declare PtrSafe Function VB_V_SumFromTo Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal from As Long, ByVal toValue As Long) As Double
-
-' Sum over a stretch of a vector of integers, in 32-bit arithmetic that wraps around.
-Public Declare PtrSafe Function VB_V_SumFromToLng Lib "KORVELMathTools.dll" ( _
-    ByRef x As Long, ByVal n As Long, ByVal from As Long, ByVal toValue As Long) As Long
-
-' Sum of squares of the elements that are not missing.
-Public Declare PtrSafe Function VB_V_SumSq Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Double
-
-' Weighted sum of squares of the elements that are not missing: the sum of x[i] * w[i] * x[i].
-Public Declare PtrSafe Function VB_V_SumSqW Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Double
-
-' Squared distance of two vectors, over all elements, missing ones too.
-Public Declare PtrSafe Function VB_V_DiffSq Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef y As Double) As Double
-
-' Weighted squared distance of two vectors, over all elements, missing ones too.
-Public Declare PtrSafe Function VB_V_DiffSqW Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef y As Double, ByRef w As Double) As Double
-
-' Squared distance of the tails of two vectors, over all elements, missing ones too.
-Public Declare PtrSafe Function Cpp_V_DiffSqStart Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef y As Double, ByVal start As Long) As Double
-
-' Running sum over all elements, missing ones too.
-Public Declare PtrSafe Function Cpp_V_CuSum Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
-
-' ---- vector_table.h
+' ---- tables/vector_table.h
 
 ' The columns of a table one below the other, as a vector.
 Public Declare PtrSafe Function Cpp_MatToVect Lib "KORVELMathTools.dll" ( _
@@ -1606,40 +1673,3 @@ Public Declare PtrSafe Function Cpp_M_CopyVectortoTableByRowDbl Lib "KORVELMathT
 ' A vector cut into the rows of a table.
 Public Declare PtrSafe Function Cpp_M_CopyVectortoTableByRowStr Lib "KORVELMathTools.dll" ( _
     ByVal v As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal x As LongPtr) As Long
-
-' ---- vector_variance.h
-
-' Weighted variance.
-Public Declare PtrSafe Function VB_V_Var Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
-    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Double
-
-' Variance of the elements that are not missing, all of weight 1: VB_V_Var with no flag set.
-Public Declare PtrSafe Function Cpp_V_Var2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Double
-
-' Weighted standard deviation: the square root of VB_V_Var.
-Public Declare PtrSafe Function VB_V_Stdev Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
-    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Double
-
-' Weighted mean and variance.
-Public Declare PtrSafe Function VB_V_MeanVar Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef mean As Double, ByRef var As Double, _
-    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
-
-' Weighted mean and variance of the elements that are not missing.
-Public Declare PtrSafe Function Cpp_V_MeanVarW2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef mean As Double, _
-    ByRef var As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
-
-' Weighted mean and standard deviation.
-Public Declare PtrSafe Function VB_V_MeanStdev Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef mean As Double, ByRef sd As Double, _
-    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
-
-' Mean and standard deviation of the elements greater than the missing number, all of weight 1; a
-' NaN is left out as well.
-Public Declare PtrSafe Function Cpp_V_MeanStdev2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal bUnbiased As Integer, ByRef mean As Double, _
-    ByRef sd As Double) As Long

@@ -16,7 +16,6 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
-#include <vector>
 
 namespace korvel::frame
 {
@@ -228,12 +227,6 @@ private:
 inline void writeTexts(const chunk_list<text>& result, Hostarray** records)
 {
     SaveHostarray(result.get(), result.size(), 0, records);
-}
-
-/** Flags of `n` rows of which none is set. */
-[[nodiscard]] inline std::vector<short int> noFlags(int n)
-{
-    return std::vector<short int>(n > 0 ? static_cast<std::size_t>(n) : 0);
 }
 
 } // namespace korvel::frame

@@ -8,7 +8,6 @@
 
 #include "containers/missing.h"
 
-#include <cmath>
 #include <cstdint>
 
 namespace korvel
@@ -137,13 +136,7 @@ template <class State, class Values, class Flags, class Weights>
     return state;
 }
 
-/** The square root; what a rounding error has made negative becomes missing. */
-[[nodiscard]] inline double rootOrMissing(double x)
-{
-    return x < 0.0 ? MISSING_DBL : std::sqrt(x);
-}
-
-/** The same, but 0.0 for a variance of either zero. */
+/** `rootOrMissing`, but 0.0 for a variance of either zero. */
 [[nodiscard]] inline double deviationFrom(double variance)
 {
     return variance == 0.0 ? 0.0 : rootOrMissing(variance);

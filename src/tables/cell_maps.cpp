@@ -1,7 +1,7 @@
 #include "tables/cell_maps.h"
 
 #include "containers/map_cells.h"
-#include "statistics/running_variance.h"
+#include "containers/missing.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // Flat functions that move texts and take memory for it, with each allocation of the language failing in
 // turn.
 #include "faults/each_allocation.h"
-#include "frames/KORVELMathTools.h"
+#include "korvelmathtools/KORVELMathTools.h"
 #include "support/host_arrays.h"
 
 #include <cstddef>

@@ -209,10 +209,3 @@ TEST(Frame, WhatIsToBeFilledIsInPlaceOrEmptyTexts)
         frame::bringBack(nothing, noBlock);
     }
 }
-
-TEST(Frame, NoFlagsAreZeros)
-{
-    EXPECT_EQ(frame::noFlags(3), (std::vector<short int>{0, 0, 0}));
-    EXPECT_TRUE(frame::noFlags(0).empty());
-    EXPECT_TRUE(frame::noFlags(-2).empty());
-}

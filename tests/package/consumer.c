@@ -1,5 +1,5 @@
 /* A caller in strict C: the umbrella header and the shared library are all it has. */
-#include "frames/KORVELMathTools.h"
+#include <korvelmathtools/KORVELMathTools.h>
 
 #include <stdio.h>
 

@@ -1,7 +1,8 @@
 # Every header compiles alone: as C++, and those of the flat functions as strict C too. A header with a source of its
 # own is shown to by that source, which includes it first (tools/check_includes sees to that); each other one gets a
 # source here. They are built by a test, and again only where something has changed.
-set(header_root ${PROJECT_SOURCE_DIR}/src)
+set(header_root ${KORVEL_PUBLIC_HEADERS}/korvelmathtools)
+set(source_root ${PROJECT_SOURCE_DIR}/src)
 
 # korvel_include_alone(TARGET SUFFIX HEADERS...): a library with a source for each header, which includes it and no
 # more.
@@ -21,7 +22,7 @@ function(korvel_include_alone target suffix)
     set_tests_properties(package.${target} PROPERTIES RESOURCE_LOCK build_folder)
 endfunction()
 
-set(umbrella frames/KORVELMathTools.h)
+set(umbrella KORVELMathTools.h)
 set(c_headers ${umbrella})
 # For Windows the system's own header takes seconds to read each time, and the one source that has them all will do.
 if(NOT WIN32)
@@ -30,13 +31,15 @@ if(NOT WIN32)
     list(TRANSFORM flat_headers REPLACE "^#include \"(.*)\"" "\\1")
     list(APPEND c_headers ${flat_headers} frames/types.h containers/caller_records.h platform/automation.h)
 
-    file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${header_root} ${header_root}/*.h)
     set(lone_headers "")
-    foreach(header ${headers})
-        string(REGEX REPLACE "\\.h$" ".cpp" twin ${header_root}/${header})
-        if(NOT EXISTS ${twin})
-            list(APPEND lone_headers ${header})
-        endif()
+    foreach(root ${header_root} ${source_root})
+        file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${root} ${root}/*.h)
+        foreach(header ${headers})
+            string(REGEX REPLACE "\\.h$" ".cpp" twin ${source_root}/${header})
+            if(NOT EXISTS ${twin})
+                list(APPEND lone_headers ${header})
+            endif()
+        endforeach()
     endforeach()
     korvel_include_alone(headers_are_cxx cpp ${lone_headers})
 endif()

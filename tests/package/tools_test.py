@@ -86,8 +86,8 @@ class Tree(unittest.TestCase):
     def setUp(self):
         self.root = Path(tempfile.mkdtemp())
         self.addCleanup(shutil.rmtree, self.root)
-        self.write("src/frames/KORVELMathTools.h", UMBRELLA)
-        self.write("src/frames/types.h", COMMON)
+        self.write("include/korvelmathtools/KORVELMathTools.h", UMBRELLA)
+        self.write("include/korvelmathtools/frames/types.h", COMMON)
 
     def write(self, name, text):
         path = self.root / name
@@ -98,7 +98,7 @@ class Tree(unittest.TestCase):
         return (self.root / name).read_bytes().decode("ascii")
 
     def functions(self, text):
-        self.write("src/frames/sample.h", OPENING + text + "#endif\n")
+        self.write("include/korvelmathtools/frames/sample.h", OPENING + text + "#endif\n")
 
     def run_tool(self, name, *arguments):
         """(exit code, lines on the error stream)"""
@@ -294,7 +294,7 @@ KORVEL_FLAT void openValue(void);
 
 
 class BrokenHeaders(Tree):
-    def expect(self, line, message, name="src/frames/sample.h"):
+    def expect(self, line, message, name="include/korvelmathtools/frames/sample.h"):
         """`line` counts from the first line behind the opening of the header."""
         code, errors = self.run_tool("generate")
         self.assertEqual(code, 1)
@@ -421,29 +421,29 @@ class BrokenHeaders(Tree):
         self.broken("Adds upwards", "\u03a3", 2, "a character outside ASCII")
 
     def test_no_file_comment(self):
-        self.write("src/frames/sample.h", SUM)
+        self.write("include/korvelmathtools/frames/sample.h", SUM)
         self.expect(1 - FIRST_LINE + 1, "no @file comment that says what the header is about")
 
     def test_header_that_the_umbrella_lacks(self):
         self.functions(SUM)
-        self.write("src/frames/other.h", OPENING + SUM.replace("VB_Sum", "VB_Other") + "#endif\n")
+        self.write("include/korvelmathtools/frames/other.h", OPENING + SUM.replace("VB_Sum", "VB_Other") + "#endif\n")
         message = "flat functions in a header that KORVELMathTools.h does not include"
-        self.expect(FIRST_LINE + 9, message, "src/frames/other.h")
+        self.expect(FIRST_LINE + 9, message, "include/korvelmathtools/frames/other.h")
 
     def test_umbrella_includes_what_is_not_there(self):
         self.functions(SUM)
-        self.write("src/frames/KORVELMathTools.h", UMBRELLA.replace("#endif", '#include "frames/none.h"\n#endif'))
-        self.expect(10, "frames/none.h is no header of src/frames", "src/frames/KORVELMathTools.h")
+        self.write("include/korvelmathtools/KORVELMathTools.h", UMBRELLA.replace("#endif", '#include "frames/none.h"\n#endif'))
+        self.expect(10, "frames/none.h is no header of include/korvelmathtools/frames", "include/korvelmathtools/KORVELMathTools.h")
 
     def test_umbrella_includes_twice(self):
         self.functions(SUM)
-        self.write("src/frames/KORVELMathTools.h", UMBRELLA.replace("#endif", '#include "frames/sample.h"\n#endif'))
-        self.expect(10, "frames/sample.h is included twice", "src/frames/KORVELMathTools.h")
+        self.write("include/korvelmathtools/KORVELMathTools.h", UMBRELLA.replace("#endif", '#include "frames/sample.h"\n#endif'))
+        self.expect(10, "frames/sample.h is included twice", "include/korvelmathtools/KORVELMathTools.h")
 
     def test_duplicate_name(self):
         self.functions(SUM + SUM)
         lines = SUM.count("\n")
-        self.expect(lines + 10, f"VB_Sum is declared already at src/frames/sample.h:{FIRST_LINE + 9}")
+        self.expect(lines + 10, f"VB_Sum is declared already at include/korvelmathtools/frames/sample.h:{FIRST_LINE + 9}")
 
 
 class Exports(Tree):
@@ -551,7 +551,8 @@ class Includes(Tree):
 
     def setUp(self):
         super().setUp()
-        self.write("src/frames/KORVELMathTools.h", "")
+        self.write("include/korvelmathtools/KORVELMathTools.h", "")
+        self.write("include/korvelmathtools/frames/types.h", "")
         for name in ("platform/a", "containers/a", "tables/a", "statistics/a", "linalg/a", "fitting/a", "frames/a"):
             self.write(f"src/{name}.h", "")
             self.include(f"{name}.cpp", f"{name}.h")
@@ -570,14 +571,32 @@ class Includes(Tree):
         self.include("fitting/a.h", "frames/a.h")
         self.expect("src/fitting/a.h:1: fitting/a must not include frames/a.h, which stands higher")
 
-    def test_topic_that_stands_lower_than_its_folder(self):
-        self.write("src/statistics/vector_sums.h", "")
-        self.include("tables/a.h", "statistics/vector_sums.h")
+    def test_frame_includes_what_it_wraps(self):
+        self.write("src/frames/frame.h", "")
+        self.include("frames/tables/a.h", "frames/a.h")
+        self.include("frames/tables/a.cpp", "frames/tables/a.h", "frames/frame.h", "tables/a.h", "containers/a.h",
+                     "platform/a.h")
         self.expect()
-        self.include("statistics/vector_sums.h", "tables/a.h")
-        self.include("tables/a.h")
-        self.expect("src/statistics/vector_sums.h:1: statistics/vector_sums must not include tables/a.h, "
-                    "which stands higher")
+
+    def test_frame_includes_another_part_of_the_core(self):
+        self.include("frames/tables/a.h", "frames/a.h")
+        self.include("frames/tables/a.cpp", "frames/tables/a.h", "statistics/a.h")
+        self.expect("src/frames/tables/a.cpp:2: frames/tables/a must not include statistics/a.h: it wraps tables/a")
+
+    def test_frame_includes_another_frame(self):
+        self.include("frames/statistics/a.h", "frames/a.h")
+        self.include("frames/tables/a.h", "frames/statistics/a.h")
+        self.expect("src/frames/tables/a.h:1: frames/tables/a must not include frames/statistics/a.h: "
+                    "it wraps tables/a")
+
+    def test_frame_that_wraps_nothing(self):
+        self.include("frames/tables/b.h", "frames/a.h")
+        self.expect("src/frames/tables/b.h: there is no tables/b that it wraps")
+
+    def test_include_that_finds_another_file_first(self):
+        self.include("frames/tables/a.h", "frames/a.h")
+        self.include("frames/a.cpp", "frames/a.h", "tables/a.h")
+        self.expect('src/frames/a.cpp:2: "tables/a.h" finds frames/tables/a.h first')
 
     def test_circle_between_folders_through_sources(self):
         self.include("statistics/a.cpp", "statistics/a.h", "linalg/a.h")
@@ -605,7 +624,18 @@ class Includes(Tree):
 
     def test_include_of_nothing(self):
         self.include("tables/a.h", "tables/none.h")
-        self.expect('src/tables/a.h:1: "tables/none.h" is no file below src')
+        self.expect('src/tables/a.h:1: "tables/none.h" is no file below include/korvelmathtools or src')
+
+    def test_public_header_with_a_private_one(self):
+        self.write("include/korvelmathtools/tables/b.h", '#include "containers/b.h"\n')
+        self.write("include/korvelmathtools/containers/b.h", '#include "platform/a.h"\n')
+        self.expect("include/korvelmathtools/containers/b.h:1: a public header must not include platform/a.h, "
+                    "which is not public")
+
+    def test_private_header_of_what_is_exported(self):
+        self.write("src/platform/export.h", "#define KORVEL_API\n/* KORVEL_API marks. */\n")
+        self.write("src/tables/a.h", "#if defined(KORVEL_API)\n#endif\nKORVEL_API int V_Sum(int n);\n")
+        self.expect("src/tables/a.h:3: what is exported is declared below include/korvelmathtools")
 
 
 if __name__ == "__main__":

@@ -10,6 +10,7 @@ POINTERS = ARRAYS + RECORDS + ("OLECHAR*", "OLECHAR**", "SAFEARRAY**", "Hostarra
 RESULTS = SCALARS + ("void", "OLECHAR**")
 HOST_ARRAY_ELEMENTS = ("Double", "Long", "Boolean", "String")
 
+HEADERS = "include/korvelmathtools"
 UMBRELLA = "KORVELMathTools.h"
 COMMON = "types.h"
 DIRECTION = re.compile(r"\[(in|out|inout)\](\s+|$)")
@@ -274,7 +275,7 @@ def read_header(name, path, text, problems):
 
 def included_by_umbrella(folder, root, problems):
     """Names of the flat headers, in the order in which the umbrella header includes them."""
-    path = folder / UMBRELLA
+    path = root / HEADERS / UMBRELLA
     names = []
     for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
         found = re.fullmatch(r'\s*#\s*include\s+"(.+)"\s*', line)
@@ -283,7 +284,7 @@ def included_by_umbrella(folder, root, problems):
         name = found.group(1).removeprefix("frames/")
         where = path.relative_to(root).as_posix()
         if name == found.group(1) or not (folder / name).is_file():
-            problems.append(Problem(where, number, f"{found.group(1)} is no header of src/frames"))
+            problems.append(Problem(where, number, f"{found.group(1)} is no header of {HEADERS}/frames"))
         elif name in names:
             problems.append(Problem(where, number, f"{found.group(1)} is included twice"))
         else:
@@ -302,8 +303,8 @@ def find_duplicates(headers, problems):
 
 
 def read_all(root):
-    """All flat headers below `root`/src/frames sorted by name, the header common to them, the problems found."""
-    folder = root / "src" / "frames"
+    """All flat headers below `root` sorted by name, the header common to them, the problems found."""
+    folder = root / HEADERS / "frames"
     problems = []
     umbrella = included_by_umbrella(folder, root, problems)
     headers = []

@@ -1,5 +1,5 @@
 #include "containers/missing.h"
-#include "frames/KORVELMathTools.h"
+#include "korvelmathtools/KORVELMathTools.h"
 #include "support/bits.h"
 #include "support/caller_memory.h"
 #include "support/guarded.h"

@@ -1,6 +1,6 @@
 // A sibling module: it links with the core routines and passes its own tables.
-#include "containers/matrix.h"
-#include "statistics/vector_sums.h"
+#include <korvelmathtools/containers/matrix.h>
+#include <korvelmathtools/statistics/vector_sums.h>
 
 #include <cstdio>
 

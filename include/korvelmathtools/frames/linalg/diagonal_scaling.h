@@ -1,0 +1,88 @@
+/**
+ * @file
+ * Flat functions: products of a table and a diagonal one.
+ *
+ * Tables are column after column. A count of 0 does nothing.
+ */
+#ifndef KORVEL_FRAMES_LINALG_DIAGONAL_SCALING_H
+#define KORVEL_FRAMES_LINALG_DIAGONAL_SCALING_H
+
+#include "frames/types.h"
+
+/**
+ * c(i, k) = a(i, k) * d(k, k). Missing cells are numbers here.
+ *
+ * @param a [in] n by p cells
+ * @param n rows
+ * @param p columns
+ * @param d [in] p by p cells, of which the diagonal is read
+ * @param c [out] n by p cells; may be the array of an argument
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductADiag(double* a, int n, int p, double* d, double* c);
+
+/**
+ * c(k, i) = a(i, k) * d(i, i). Missing cells are numbers here.
+ *
+ * @param a [in] n by p cells
+ * @param n rows
+ * @param p columns
+ * @param d [in] n by n cells, of which the diagonal is read
+ * @param c [out] p by n cells; may be the array of an argument
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductTrADiag(double* a, int n, int p, double* d, double* c);
+
+/**
+ * c(i, k) = a(i, k) * d(k). A missing d(k) makes column k of the result missing, and so does a missing cell
+ * its own.
+ *
+ * @param a [in] n by p cells
+ * @param n rows
+ * @param p columns
+ * @param d [in] p numbers
+ * @param c [out] n by p cells; may be the array of an argument
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductADiagV(double* a, int n, int p, double* d, double* c);
+
+/**
+ * c(i, k) = d(i) * a(i, k). A missing d(i) makes row i of the result missing, and so does a missing cell
+ * its own.
+ *
+ * @param d [in] n numbers
+ * @param n rows
+ * @param a [in] n by p cells
+ * @param p columns
+ * @param c [out] n by p cells; may be the array of an argument
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductDiagVA(double* d, int n, double* a, int p, double* c);
+
+/**
+ * c(i, k) = (d1(i) * a(i, k)) * d2(k). A missing factor makes its row or column of the result missing, and so
+ * does a missing cell its own.
+ *
+ * @param d1 [in] n numbers
+ * @param n  rows
+ * @param a  [in] n by p cells
+ * @param p  columns
+ * @param d2 [in] p numbers
+ * @param c  [out] n by p cells; may be the array of an argument
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductDiagV1ADiagV2(double* d1, int n, double* a, int p, double* d2, double* c);
+
+/**
+ * c(k, r) = a(r, k) * d(r). Missing cells are numbers here.
+ *
+ * @param a [in] n by p cells
+ * @param n rows
+ * @param p columns
+ * @param d [in] n numbers
+ * @param c [out] p by n cells; may be the array of an argument
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductTrADiagV(double* a, int n, int p, double* d, double* c);
+
+#endif

@@ -1,0 +1,93 @@
+/**
+ * @file
+ * Flat functions: products of tables. Every element is one sum from 0.0 in ascending order, each term a
+ * multiplication and then an addition. No cell is looked at for being missing where nothing else is said.
+ * What is read is copied first, so a result may be written over an array that is read.
+ */
+#ifndef KORVEL_FRAMES_LINALG_PRODUCTS_H
+#define KORVEL_FRAMES_LINALG_PRODUCTS_H
+
+#include "frames/types.h"
+
+/**
+ * Product of two tables, c = a * b. The work is shared among threads.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param b [in] numbers, p by q, column after column
+ * @param q columns of b
+ * @param c [out] n by q numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductAB(double* a, int n, int p, double* b, int q, double* c);
+
+/**
+ * Product of two tables of integers, c = a * b, in 32-bit arithmetic that wraps around. No integer is missing
+ * here.
+ *
+ * @param a [in] integers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param b [in] integers, p by q, column after column
+ * @param q columns of b
+ * @param c [out] n by q integers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductABLng(int* a, int n, int p, int* b, int q, int* c);
+
+/**
+ * Product of a transposed table and a table, c = a' * b.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param b [in] numbers, n by q, column after column
+ * @param q columns of b
+ * @param c [out] p by q numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductTrAB(double* a, int n, int p, double* b, int q, double* c);
+
+/**
+ * Product of a table and a transposed table, c = a * b'.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param b [in] numbers, m by p, column after column
+ * @param m rows of b
+ * @param c [out] n by m numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductATrB(double* a, int n, int p, double* b, int m, double* c);
+
+/**
+ * Product with a diagonal that is given as a vector, c = a * diag(d) * b, each term from left to right.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param d [in] p numbers
+ * @param b [in] numbers, p by q, column after column
+ * @param q columns of b
+ * @param c [out] n by q numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductADiagVB(double* a, int n, int p, double* d, double* b, int q, double* c);
+
+/**
+ * Product with a diagonal that is given as a vector, c = a * diag(d) * b', each term from left to right.
+ *
+ * @param a [in] numbers, n by p, column after column
+ * @param n rows of a
+ * @param p columns of a
+ * @param d [in] p numbers
+ * @param b [in] numbers, m by p, column after column
+ * @param m rows of b
+ * @param c [out] n by m numbers, column after column; may be an array that is read
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_ProductADiagVTrB(double* a, int n, int p, double* d, double* b, int m, double* c);
+
+#endif

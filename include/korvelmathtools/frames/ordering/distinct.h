@@ -1,0 +1,50 @@
+/**
+ * @file
+ * Flat functions: distinct values.
+ */
+#ifndef KORVEL_FRAMES_ORDERING_DISTINCT_H
+#define KORVEL_FRAMES_ORDERING_DISTINCT_H
+
+#include "frames/types.h"
+
+/**
+ * Number of distinct values; neighbours in ascending order differ by more than 2.220446049250313e-16. Missing
+ * is a value.
+ *
+ * @param x [in] n numbers
+ * @param n number of elements
+ * @return the number; 1 for n below 1
+ */
+KORVEL_FLAT int VB_V_NbDistinct(double* x, int n);
+
+/**
+ * Number of distinct integers.
+ *
+ * @param x [in] n integers
+ * @param n number of elements
+ * @return the number; 1 for n below 1
+ */
+KORVEL_FLAT int VB_V_NbDistinctLng(int* x, int n);
+
+/**
+ * Number of distinct texts, compared exactly. The empty text is one.
+ *
+ * @param x [in] n texts
+ * @param n number of elements
+ * @return the number; 1 for n below 1
+ */
+KORVEL_FLAT int Cpp_V_NbDistinctStr(OLECHAR** x, int n);
+
+/**
+ * The distinct values in ascending order: each that exceeds the one before it by more than the smaller of
+ * 2.220446049250313e-16 and the range of the data.
+ *
+ * @param x    [in] n numbers
+ * @param n    number of elements
+ * @param out  [out] room for n numbers; the values
+ * @param nOut [out] their number, 0 for n below 1
+ * @return 0
+ */
+KORVEL_FLAT int VB_V_ExtractDistinct(double* x, int n, double* out, int* nOut);
+
+#endif

@@ -1,0 +1,46 @@
+/**
+ * @file
+ * Flat functions: how much weight the elements of a vector carry that equal a value. Nothing is left out: a
+ * missing element is compared like any other, and a missing weight is a number.
+ */
+#ifndef KORVEL_FRAMES_STATISTICS_VECTOR_FREQUENCIES_H
+#define KORVEL_FRAMES_STATISTICS_VECTOR_FREQUENCIES_H
+
+#include "frames/types.h"
+
+/**
+ * Total weight of the numbers that are near a value.
+ *
+ * @param x     [in] n numbers
+ * @param n     number of elements
+ * @param w     [in] n weights
+ * @param value the value
+ * @param tol   an element counts when its distance from the value is less than this, so that 0 counts none
+ * @return the sum of their weights; 0.0 when there are none
+ */
+KORVEL_FLAT double VB_V_Freq(double* x, int n, double* w, double value, double tol);
+
+/**
+ * Total weight of the integers that are near a value.
+ *
+ * @param x     [in] n integers
+ * @param n     number of elements
+ * @param w     [in] n weights
+ * @param value the value
+ * @param tol   an element counts when its distance from the value is less than this, so that 0 counts none
+ * @return the sum of their weights; 0.0 when there are none
+ */
+KORVEL_FLAT double VB_V_FreqLng(int* x, int n, double* w, double value, double tol);
+
+/**
+ * Total weight of the texts that equal a value: of the same length and with the same code units.
+ *
+ * @param labels [in] n texts, each up to its first NUL
+ * @param n      number of elements
+ * @param w      [in] n weights
+ * @param value  [in] a text (BSTR), up to its first NUL. Null: the empty text
+ * @return the sum of their weights; 0.0 when there are none
+ */
+KORVEL_FLAT double VB_V_FreqStr(OLECHAR** labels, int n, double* w, OLECHAR* value);
+
+#endif

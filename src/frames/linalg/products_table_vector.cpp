@@ -1,0 +1,57 @@
+#include "frames/linalg/products_table_vector.h"
+
+#include "frames/frame.h"
+#include "linalg/products_table_vector.h"
+
+using namespace korvel;
+
+int VB_M_ProductBV(double* b, int n, int p, double* v, double* y)
+{
+    auto table = frame::copyIn(b, n, p);
+    auto vector = frame::copyIn(v, p);
+    auto product = frame::borrow(y, n);
+    return M_ProductBV(&table, n, p, &vector, &product);
+}
+
+int VB_M_ProductVB(double* v, int n, double* b, int q, double* y)
+{
+    auto vector = frame::copyIn(v, n);
+    auto table = frame::copyIn(b, n, q);
+    auto product = frame::borrow(y, q);
+    auto* result = &product;
+    M_ProductVB(&vector, n, &table, q, result);
+    return 0;
+}
+
+int VB_M_ProductTrBV(double* b, int n, int p, double* v, double* y)
+{
+    auto table = frame::copyIn(b, n, p);
+    auto vector = frame::copyIn(v, n);
+    auto product = frame::borrow(y, p);
+    M_ProductTrBV(&table, n, p, &vector, &product);
+    return 0;
+}
+
+int VB_M_ProductVTrB(double* v, int n, double* b, int m, double* y)
+{
+    auto vector = frame::copyIn(v, n);
+    auto table = frame::copyIn(b, m, n);
+    auto product = frame::borrow(y, m);
+    M_ProductVTrB(&vector, n, &table, m, &product);
+    return 0;
+}
+
+double VB_M_ProductTrVBV(double* v, int n, double* b)
+{
+    auto vector = frame::borrow(v, n);
+    auto table = frame::borrow(b, n, n);
+    return M_ProductTrVBV(&vector, n, &table);
+}
+
+double VB_M_ProductTrV1BV2(double* x1, int n, double* b, double* x2)
+{
+    auto first = frame::borrow(x1, n);
+    auto table = frame::borrow(b, n, n);
+    auto second = frame::borrow(x2, n);
+    return M_ProductTrV1BV2(&first, n, &table, &second);
+}

@@ -1,0 +1,33 @@
+#include "frames/ordering/deviations.h"
+
+#include "frames/frame.h"
+#include "ordering/deviations.h"
+
+using namespace korvel;
+
+double Cpp_V_MeanAbsDev(double* x, int n, double centre, short int* iMissing, double* w)
+{
+    auto values = frame::borrow(x, n);
+    auto weights = frame::borrow(w, n);
+    return V_MeanAbsDev(&values, n, centre, iMissing, &weights);
+}
+
+double Cpp_V_MedianAbsDev(double* x, int n, double centre, short int* iMissing, double* w)
+{
+    auto values = frame::borrow(x, n);
+    auto weights = frame::borrow(w, n);
+    return V_MedianAbsDev(&values, n, centre, iMissing, &weights);
+}
+
+double Cpp_V_MedianAbsDev2(double* x, int n, double* centre)
+{
+    auto values = frame::borrow(x, n);
+    return V_MedianAbsDev2(&values, n, *centre);
+}
+
+int Cpp_V_Winsorize2(double* x, int n, double qLow, double qHigh)
+{
+    auto values = frame::borrow(x, n);
+    V_Winsorize2(&values, n, qLow, qHigh);
+    return 0;
+}

@@ -1,0 +1,30 @@
+#include "frames/ordering/modes.h"
+
+#include "frames/frame.h"
+#include "ordering/modes.h"
+
+using namespace korvel;
+
+double VB_V_ModeCatDbl(double* x, int n)
+{
+    auto values = frame::borrow(x, n);
+    return V_ModeCat(&values, n);
+}
+
+int VB_V_Mode(OLECHAR** labels, int n, short int* iMissing, double* w, OLECHAR** mode)
+{
+    auto texts = frame::readTexts(labels, n);
+    auto weights = frame::borrow(w, n);
+    const matrix<text> result(1, 1, modeOfTexts(texts, n, iMissing, weights));
+    frame::writeTexts(result, mode);
+    return 0;
+}
+
+int Cpp_V_ModeW2(OLECHAR** labels, int n, double* w, OLECHAR** mode)
+{
+    auto texts = frame::readTexts(labels, n);
+    auto weights = frame::borrow(w, n);
+    const matrix<text> result(1, 1, modeOfTexts(texts, n, nullptr, weights));
+    frame::writeTexts(result, mode);
+    return 0;
+}

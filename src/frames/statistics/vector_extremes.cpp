@@ -1,0 +1,98 @@
+#include "frames/statistics/vector_extremes.h"
+
+#include "containers/conversion.h"
+#include "frames/frame.h"
+#include "statistics/vector_extremes.h"
+
+using namespace korvel;
+
+double VB_V_Min(double* x, int n, short int* iMissing)
+{
+    auto values = frame::borrow(x, n);
+    return V_Min(&values, n, iMissing);
+}
+
+double VB_V_Min2(double* x, int n)
+{
+    return V_Min2(frame::borrow(x, n), n);
+}
+
+double VB_V_Min2Lng(int* x, int n)
+{
+    auto values = frame::borrow(x, n);
+    return V_Min2(&values, n);
+}
+
+double VB_V_Max(double* x, int n, short int* iMissing)
+{
+    auto values = frame::borrow(x, n);
+    return V_Max(&values, n, iMissing);
+}
+
+double VB_V_Max2(double* x, int n)
+{
+    return V_Max2(frame::borrow(x, n), n);
+}
+
+double VB_V_Max2Lng(int* x, int n)
+{
+    auto values = frame::borrow(x, n);
+    return V_Max(&values, n, nullptr);
+}
+
+double Cpp_V_Max2_ST(SAFEARRAY** sa, int n)
+{
+    return V_Max2(frame::attach<double>(sa), n);
+}
+
+double Cpp_V_Max2Lng_ST(SAFEARRAY** sa, int n)
+{
+    auto values = frame::attach<int>(sa);
+    return V_Max(&values, n, nullptr);
+}
+
+int VB_V_MaxInt(int* x, int n, short int* iMissing)
+{
+    auto values = frame::borrow(x, n);
+    return truncateToInt(V_Max(&values, n, iMissing));
+}
+
+int VB_V_MinMax(double* x, int n, double* min, double* max, short int* iMissing)
+{
+    auto values = frame::borrow(x, n);
+    V_MinMax(&values, n, min, max, iMissing);
+    return 0;
+}
+
+int VB_V_MinMaxLng(int* x, int n, double* min, double* max, short int* iMissing)
+{
+    auto values = frame::borrow(x, n);
+    V_MinMax(&values, n, min, max, iMissing);
+    return 0;
+}
+
+int VB_V_MinMax2(double* x, int n, double* min, double* max, short int bSkipMissing)
+{
+    auto values = frame::borrow(x, n);
+    V_MinMax2(&values, n, min, max, bSkipMissing);
+    return 0;
+}
+
+int VB_V_MinMaxLng2(int* x, int n, double* min, double* max, short int bSkipMissing)
+{
+    auto values = frame::borrow(x, n);
+    V_MinMax2(&values, n, min, max, bSkipMissing);
+    return 0;
+}
+
+double VB_V_MinAndMinPos(double* x, int n, int* pos, short int bLast)
+{
+    auto values = frame::borrow(x, n);
+    return V_MinAndMinPos(&values, n, pos, bLast != 0);
+}
+
+double VB_V_MaxAndMaxPos(double* x, int n, int* pos)
+{
+    auto values = frame::borrow(x, n);
+    return V_MaxAndMaxPos(&values, n, pos);
+}

@@ -1,0 +1,46 @@
+#include "frames/statistics/vector_means.h"
+
+#include "frames/frame.h"
+#include "statistics/vector_means.h"
+
+using namespace korvel;
+
+double VB_V_Mean(double* x, int n, short int* iMissing, double* w)
+{
+    auto values = frame::borrow(x, n);
+    auto weights = frame::borrow(w, n);
+    return V_Mean(&values, n, iMissing, &weights);
+}
+
+double VB_V_MeanAbs(double* x, int n, short int* iMissing, double* w)
+{
+    auto values = frame::borrow(x, n);
+    auto weights = frame::borrow(w, n);
+    return V_MeanAbs(&values, n, iMissing, &weights);
+}
+
+double VB_V_Mean2(double* x, int n)
+{
+    return V_Mean2(frame::borrow(x, n), n);
+}
+
+double Cpp_V_MeanW2(double* x, int n, double* w)
+{
+    auto values = frame::borrow(x, n);
+    auto weights = frame::borrow(w, n);
+    return V_MeanW2(&values, n, &weights);
+}
+
+double Cpp_V_HarmonicMean(double* x, int n, short int* iMissing, double* w)
+{
+    auto values = frame::borrow(x, n);
+    auto weights = frame::borrow(w, n);
+    return V_HarmonicMean(&values, n, iMissing, &weights);
+}
+
+int Cpp_V_GMeanGSD(double* x, int n, short int* iMissing, double* w, double* gmean, double* gsd)
+{
+    auto values = frame::borrow(x, n);
+    auto weights = frame::borrow(w, n);
+    return V_GMeanGSD(&values, n, iMissing, &weights, *gmean, *gsd);
+}

@@ -1,0 +1,22 @@
+#include "frames/tables/matrix_dump.h"
+
+#include "frames/frame.h"
+#include "tables/matrix_dump.h"
+
+using namespace korvel;
+
+void Cpp_WriteMatrixDbl(double* a, int rows, int cols, const char* name)
+{
+    dumpTable(frame::borrow(a, rows, cols), rows, cols, name);
+}
+
+void Cpp_WriteMatrixLng(int* a, int rows, int cols, const char* name)
+{
+    dumpTable(frame::borrow(a, rows, cols), rows, cols, name);
+}
+
+int Cpp_WriteMatrixStr(OLECHAR** a, int rows, int cols, const char* name)
+{
+    dumpTable(frame::readTexts(a, rows, cols), rows, cols, name);
+    return 0;
+}

@@ -1,0 +1,70 @@
+#include "frames/tables/transpose.h"
+
+#include "frames/frame.h"
+#include "tables/transpose.h"
+
+using namespace korvel;
+
+namespace
+{
+
+// The result is whole before it is copied out, so that one array may be passed for both.
+
+template <class T>
+int transpose(T* x, int rows, int cols, T* y)
+{
+    auto values = frame::borrow(x, rows, cols);
+    matrix<T> result;
+    M_Transpose(values, rows, cols, result);
+    frame::copyOut(result, y);
+    return 0;
+}
+
+int transpose(OLECHAR** x, int rows, int cols, OLECHAR** y)
+{
+    auto texts = frame::readTexts(x, rows, cols);
+    matrix<text> result;
+    M_Transpose(texts, rows, cols, result);
+    frame::writeTexts(result, y);
+    return 0;
+}
+
+} // namespace
+
+int VB_M_Transpose(double* x, int rows, int cols, double* y)
+{
+    return transpose(x, rows, cols, y);
+}
+
+int VB_M_TransposeLng(int* x, int rows, int cols, int* y)
+{
+    return transpose(x, rows, cols, y);
+}
+
+int VB_M_TransposeStr(OLECHAR** x, int rows, int cols, OLECHAR** y)
+{
+    return transpose(x, rows, cols, y);
+}
+
+int VB_M_Transpose2(double* x, int rows, int cols)
+{
+    return transpose(x, rows, cols, x);
+}
+
+int VB_M_Transpose2Lng(int* x, int rows, int cols)
+{
+    return transpose(x, rows, cols, x);
+}
+
+int VB_M_Transpose2Str(OLECHAR** x, int rows, int cols)
+{
+    return transpose(x, rows, cols, x);
+}
+
+int VB_M_TransposeSPV(Hostarray** x, int rows, int cols, Hostarray** y)
+{
+    const auto columns = frame::chunks(x, cols, rows);
+    const auto result = frame::chunks(y, rows, cols);
+    M_TransposeSPV(columns.get(), rows, cols, result.get());
+    return 0;
+}

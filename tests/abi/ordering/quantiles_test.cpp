@@ -1,0 +1,313 @@
+#include "containers/missing.h"
+#include "korvelmathtools/KORVELMathTools.h"
+#include "support/bits.h"
+#include "support/caller_memory.h"
+#include "support/guarded.h"
+
+#include <array>
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <vector>
+
+using korvel::test::doubles;
+using korvel::test::guarded;
+using korvel::test::sameBits;
+using korvel::test::valuesOf;
+
+namespace
+{
+
+const guarded<double> sample{3.7, -1.25, 8, 0.5, 3.7, 12.125, -4, 0.5, 0.5, 7.75, 2.2};
+
+} // namespace
+
+TEST(FlatQuantiles, AgreeWithTypeSevenOfR)
+{
+    // R 4.2.2: quantile(x, q, type = 7), printed with 17 digits.
+    const struct {
+        double q;
+        double quantile;
+    } reference[] = {{0, -4},    {0.05, -2.625}, {0.1, -1.25},  {0.25, 0.5}, {1.0 / 3.0, 0.5},
+                     {0.5, 2.2}, {0.62, 3.7},    {0.75, 5.725}, {0.9, 8},    {1, 12.125}};
+    guarded<double> x = sample;
+    for (const auto& [q, quantile] : reference) {
+        EXPECT_NEAR(VB_V_Quantile(x.data(), 11, q), quantile, 4e-16 * std::fabs(quantile)) << q;
+    }
+    EXPECT_NEAR(VB_V_Quantile(x.data(), 11, 0.99), 11.7125, 4e-15);
+    EXPECT_EQ(valuesOf(x), sample.values());
+}
+
+TEST(FlatQuantiles, ShortcutsGiveElementsExactly)
+{
+    guarded<double> x{1, 2, 3, 4};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 0.5), 2.5));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 0.25), 1.75));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 0.0), 1.0));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 1.0), 4.0));
+    guarded<double> ties{1, 2, 2, 4};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(ties.data(), 4, 0.5), 2.0));
+    // Two neighbours of 0.1 would interpolate to another double at this position.
+    guarded<double> tenths{0.1, 0.1, 0.3};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(tenths.data(), 3, 0.15), 0.1));
+    // 0.7 * 90 is just below 63; the element at the integer part counts.
+    std::vector<double> many(91);
+    for (int i = 0; i < 91; ++i) {
+        many[static_cast<std::size_t>(i)] = i;
+    }
+    ASSERT_LT(90 * 0.7, 63.0);
+    EXPECT_TRUE(sameBits(VB_V_Quantile(many.data(), 91, 0.7), 62.0));
+}
+
+TEST(FlatQuantiles, APositionIsWholeWithinItsTolerance)
+{
+    guarded<double> x{0, 1e12};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 9e-13), 0.0));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 1.5e-12), 1.5));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 1 - 9e-13), 0.0)) << "the integer part";
+    EXPECT_NEAR(VB_V_Quantile(x.data(), 2, 1 - 1.5e-12), 1e12 - 1.5, 2e-4);
+}
+
+TEST(FlatQuantiles, BetweenTwoElementsEachTakesItsShare)
+{
+    // One step from the lower element would give 0.92500000000000004.
+    guarded<double> x{0.3, 2.8};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 0.25), 0.75 * 0.3 + 0.25 * 2.8));
+    EXPECT_FALSE(sameBits(0.75 * 0.3 + 0.25 * 2.8, 0.3 + 0.25 * (2.8 - 0.3)));
+}
+
+TEST(FlatQuantiles, MissingTakesPartAsTheSmallestNumber)
+{
+    guarded<double> x{2, MISSING_DBL, 1};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 0.0), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 0.5), 1.0));
+}
+
+TEST(FlatQuantiles, OfNothingAreMissing)
+{
+    guarded<double> x{MISSING_DBL};
+    guarded<double> w{1};
+    guarded<short int> flags{0};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 0, 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 0, w.data(), 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 1, w.data(), 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 1, w.data(), 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_QuantileM(x.data(), 1, flags.data(), 0.5), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 1, flags.data(), w.data(), 0.5), MISSING_DBL));
+}
+
+TEST(FlatQuantiles, APositionOutsideTheDataReadsTheSpareSlot)
+{
+    guarded<double> x{5, 6, 7};
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 2.0), -1.0));
+    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, -0.25), 0.5 * -1.0 + 0.5 * 5.0));
+}
+
+TEST(FlatQuantiles, WeightedTakesTheFirstValueBeyondItsShare)
+{
+    guarded<double> x{3, 1, 2};
+    guarded<double> w{2, 1, 1};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5), 2.5));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.4), 2.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.0), 1.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 1.0), 3.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.9), 3.0));
+}
+
+TEST(FlatQuantiles, WeightedComparesItsShareExactly)
+{
+    guarded<double> x{1, 2, 3};
+    guarded<double> w{0.1, 0.2, 0.3};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5), 2.5));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5 - 1e-15), 2.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5 + 1e-15), 3.0));
+}
+
+TEST(FlatQuantiles, WeightedWithOddWeights)
+{
+    // A missing weight is left out of the total of 4, and takes the sum below the target of 2 to the end.
+    guarded<double> x{1, 2, 3, 4};
+    guarded<double> w{1, MISSING_DBL, 1, 2};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.5), 4.0));
+
+    // A target of -1 is passed, and one of 0 hit, before the first element: there a read gives -1.
+    guarded<double> two{1, 2};
+    guarded<double> negative{1, -3};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(two.data(), 2, negative.data(), 0.5), -1.0));
+    guarded<double> none{1, -1};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(two.data(), 2, none.data(), 0.5), 0.0));
+
+    // Weight on a missing element alone is none.
+    guarded<double> missing{MISSING_DBL, 5, 7};
+    guarded<double> onlyThere{1, 0, 0};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(missing.data(), 3, onlyThere.data(), 1.0), MISSING_DBL));
+}
+
+TEST(FlatQuantiles, ConstantWeightsGiveThePlainQuantile)
+{
+    guarded<double> x{1, 2, 3, 4};
+    guarded<double> w{0.3, 0.3, MISSING_DBL, 0.3};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.25), 1.75));
+    guarded<double> zeros{0, 0, 0, 0};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, zeros.data(), 0.25), MISSING_DBL));
+}
+
+TEST(FlatQuantiles, OnlyTheSecondWeightedFormDropsWhatDoesNotCount)
+{
+    guarded<double> x{MISSING_DBL, 1, 2, 3};
+    guarded<double> w{1, 1, 1, 0};
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.0), MISSING_DBL));
+    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 1.0), 3.0));
+    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 0.0), 1.0));
+    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 1.0), 2.0));
+    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 0.5), 1.5));
+}
+
+TEST(FlatQuantiles, MaskedLeaveOutFlaggedAndMissing)
+{
+    guarded<double> x{9, MISSING_DBL, 1, 3};
+    guarded<short int> flags{7, 0, 0, 0};
+    guarded<double> w{5, 5, 1, 1};
+    EXPECT_TRUE(sameBits(VB_V_QuantileM(x.data(), 4, flags.data(), 0.5), 2.0));
+    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 4, flags.data(), w.data(), 0.5), 2.0));
+    guarded<double> uneven{5, 5, 1, 3};
+    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 4, flags.data(), uneven.data(), 0.5), 3.0));
+}
+
+TEST(FlatQuantiles, ThirteenSortTheirDataAndShiftTheirPosition)
+{
+    guarded<double> x{5, 3, 1, 2, 4};
+    guarded<double> out{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    EXPECT_EQ(Cpp_V_Quantiles13(x.data(), 5, out.data()), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{1, 2, 3, 4, 5}));
+    // Positions 0.7, 0.9, 1.3, 1.5, 1.7, 2.1 and 2.5 up to the median; 3.4, 3.8, 4, 4.2, 4.6 and 4.8 above
+    // it.
+    const doubles expected{1, 1, 1.3, 1.5, 1.7, 2.1, 2.5, 3.4, 3.8, 4, 4.2, 4.6, 4.8};
+    const doubles quantiles = valuesOf(out);
+    for (std::size_t k = 0; k < expected.size(); ++k) {
+        EXPECT_NEAR(quantiles[k], expected[k], 1e-15 * expected[k]) << k;
+    }
+    Cpp_V_Quantiles13(x.data(), 0, out.data());
+    EXPECT_EQ(valuesOf(out), doubles(13, MISSING_DBL));
+}
+
+TEST(FlatQuantiles, ThirteenTakeTheElementAtAWholePosition)
+{
+    // Hundredths, so that the positions are exact in integers.
+    constexpr std::array percents{5, 10, 20, 25, 30, 40, 50, 60, 70, 75, 80, 90, 95};
+    // Computed, the position of the 70 % quantile of 91 elements is just below 64, that of 181 just below
+    // 127.
+    ASSERT_LT(90 * 0.7 + 1, 64.0);
+    ASSERT_LT(180 * 0.7 + 1, 127.0);
+    int whole = 0;
+    for (int n = 1; n <= 1000; ++n) {
+        std::vector<double> x(static_cast<std::size_t>(n));
+        std::iota(x.begin(), x.end(), 1.0);
+        std::vector<double> out(percents.size());
+        Cpp_V_Quantiles13(x.data(), n, out.data());
+        for (std::size_t k = 0; k < percents.size(); ++k) {
+            const int hundredths = (n - 1) * percents[k] + (percents[k] <= 50 ? 50 : 100);
+            if (hundredths % 100 == 0) {
+                ++whole;
+                ASSERT_TRUE(sameBits(out[k], hundredths / 100)) << n << ' ' << percents[k];
+            }
+        }
+    }
+    EXPECT_GT(whole, 1000);
+}
+
+TEST(FlatQuantiles, ThirteenTakeEqualNeighboursAsTheyAre)
+{
+    guarded<double> out{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    guarded<double> equal{infinite, infinite, infinite};
+    Cpp_V_Quantiles13(equal.data(), 3, out.data());
+    EXPECT_EQ(valuesOf(out), doubles(13, infinite));
+
+    // One step from the lower element; shares of both would give 1.5499999999999998.
+    guarded<double> x{0.3, 2.8, 3.1};
+    Cpp_V_Quantiles13(x.data(), 3, out.data());
+    EXPECT_TRUE(sameBits(valuesOf(out)[6], 1.55));
+}
+
+TEST(FlatDeviations, MeanAbsolute)
+{
+    guarded<double> x{1, 3, MISSING_DBL, 8};
+    guarded<short int> flags{0, 0, 0, -1};
+    guarded<double> w{1, 3, 5, 7};
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), w.data()), 1.0));
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 1.0, flags.data(), w.data()), 1.5));
+    guarded<double> zeros{0, 0, 0, 0};
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), zeros.data()), MISSING_DBL));
+    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 0, 2.0, flags.data(), w.data()), MISSING_DBL));
+    // R 4.2.2: mean(abs(x - mean(x)))
+    guarded<double> y = sample;
+    guarded<short int> none{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    guarded<double> ones{1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};
+    const double mean = (3.7 - 1.25 + 8 + 0.5 + 3.7 + 12.125 - 4 + 0.5 + 0.5 + 7.75 + 2.2) / 11;
+    EXPECT_NEAR(Cpp_V_MeanAbsDev(y.data(), 11, mean, none.data(), ones.data()), 3.6264462809917357, 2e-15);
+    // R 4.2.2: mad(x, constant = 1)
+    EXPECT_NEAR(Cpp_V_MedianAbsDev(y.data(), 11, 2.2, none.data(), ones.data()), 1.7, 4e-16);
+}
+
+TEST(FlatDeviations, MedianAbsoluteIsWeightedUnlessTheWeightsAreConstant)
+{
+    guarded<double> x{1, 2, 4, 8};
+    guarded<short int> flags{0, 0, 0, 0};
+    guarded<double> constant{2, 2, 2, 2};
+    guarded<double> uneven{1, 1, 1, 7};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), constant.data()), 3.0));
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), uneven.data()), 8.0));
+    guarded<short int> one{0, 0, 0, 1};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, one.data(), constant.data()), 2.0));
+    guarded<double> holes{1, 2, 4, MISSING_DBL};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(holes.data(), 4, 0.0, flags.data(), constant.data()), 2.0));
+}
+
+TEST(FlatDeviations, ConstantWeightsOfZeroGiveThePlainMedian)
+{
+    guarded<double> x{1, 2, 4, 8};
+    guarded<short int> flags{0, 0, 0, -1};
+    guarded<double> w{0, 0, MISSING_DBL, 0};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), w.data()), 2.0));
+    guarded<double> onlyThere{0, 0, 0, 1};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), onlyThere.data()), MISSING_DBL))
+        << "the weight of an element that is left out makes them uneven";
+}
+
+TEST(FlatDeviations, AMissingCentreBecomesTheMedian)
+{
+    guarded<double> x{1, 2, 9};
+    double centre = MISSING_DBL;
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 1.0));
+    EXPECT_TRUE(sameBits(centre, 2.0));
+    centre = 9.0;
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 7.0));
+    EXPECT_TRUE(sameBits(centre, 9.0));
+    guarded<double> holes{MISSING_DBL, 2, 9};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(holes.data(), 3, &centre), 0.0));
+    guarded<double> mostlyHoles{MISSING_DBL, MISSING_DBL, 9};
+    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(mostlyHoles.data(), 3, &centre), MISSING_DBL));
+}
+
+TEST(FlatDeviations, WinsorizingPullsInTheTails)
+{
+    guarded<double> x{1, 2, 3, 4, MISSING_DBL, 10};
+    EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.0, 1.0), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{1, 2, 3, 4, MISSING_DBL, 10}));
+    EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.4, 0.8), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{2, 2, 3, 4, MISSING_DBL, 4}));
+
+    // Both bounds come from the data as it was, and what was raised is not lowered again.
+    guarded<double> crossed{1, 2, 3, 4, 5};
+    EXPECT_EQ(Cpp_V_Winsorize2(crossed.data(), 5, 1.0, 0.0), 0);
+    EXPECT_EQ(valuesOf(crossed), (doubles{5, 5, 5, 5, 1}));
+}
+
+TEST(FlatDeviations, WinsorizingLeavesWhatIsNotAboveTheMissingValue)
+{
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    guarded<double> x{1, -infinite, 2, MISSING_DBL, 3};
+    Cpp_V_Winsorize2(x.data(), 5, 0.75, 1.0);
+    EXPECT_EQ(valuesOf(x), (doubles{2, -infinite, 2, MISSING_DBL, 3}));
+}

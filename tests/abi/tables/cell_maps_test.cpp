@@ -1,0 +1,194 @@
+#include "korvelmathtools/KORVELMathTools.h"
+#include "support/bits.h"
+#include "support/caller_tables.h"
+#include "support/guarded.h"
+#include "support/special_values.h"
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <limits>
+#include <vector>
+
+using namespace korvel::test;
+
+namespace
+{
+
+constexpr double missing = -1.79769313486231e308;
+
+/** At most one unit in the last place apart, as the systems' logarithms may be; otherwise as `sameBits`. */
+::testing::AssertionResult nearlySame(double actual, double expected)
+{
+    const auto apart = std::bit_cast<std::int64_t>(actual) - std::bit_cast<std::int64_t>(expected);
+    if (std::isfinite(actual) && std::isfinite(expected) && std::abs(apart) <= 1) {
+        return ::testing::AssertionSuccess();
+    }
+    return sameBits(actual, expected);
+}
+
+using flat_map = int (*)(double*, int, int, double*);
+
+struct map_case {
+    const char* name;
+    flat_map map;
+    doubles expected;
+};
+
+const doubles mapped{2.0,     1.0,     100.0,      0.25,          0.0,      -0.0,
+                     -1e-300, missing, notANumber, belowSentinel, infinite, 1e-5};
+
+// R 4.2.2: log(), log10() and sqrt() of these numbers, formatted with %.17g
+const std::vector<map_case> maps{
+    {"log",
+     VB_M_LogMatrix,
+     {0.69314718055994529, 0.0, 4.6051701859880918, -1.3862943611198906, missing, missing, missing, missing,
+      notANumber, missing, infinite, -11.512925464970229}},
+    {"log10",
+     VB_M_Log10Matrix,
+     {0.3010299956639812, 0.0, 2.0, -0.6020599913279624, missing, missing, missing, missing, notANumber,
+      missing, infinite, -5.0}},
+    {"square root",
+     Cpp_M_SquareRootAij,
+     {1.4142135623730951, 1.0, 10.0, 0.5, 0.0, -0.0, missing, missing, notANumber, missing, infinite,
+      0.0031622776601683794}},
+};
+
+} // namespace
+
+TEST(FlatCellMaps, MapEveryCell)
+{
+    for (const map_case& given : maps) {
+        guarded<double> x(mapped);
+        guarded<double> y(doubles(12, 5.0));
+        EXPECT_EQ(given.map(x.data(), 4, 3, y.data()), 0);
+        const doubles found = valuesOf(y);
+        for (std::size_t k = 0; k < 12; ++k) {
+            EXPECT_TRUE(nearlySame(found[k], given.expected[k])) << given.name << " of " << mapped[k];
+        }
+        EXPECT_TRUE(sameBits(valuesOf(x)[0], 2.0)) << "the source stays";
+
+        EXPECT_EQ(given.map(x.data(), 12, 0, x.data()), 0);
+        const doubles inPlace = valuesOf(x);
+        for (std::size_t k = 0; k < 12; ++k) {
+            EXPECT_TRUE(sameBits(inPlace[k], found[k])) << given.name << ", one array, no columns for one";
+        }
+
+        guarded<double> shifted(mapped);
+        EXPECT_EQ(given.map(shifted.data(), 11, 1, shifted.data() + 1), 0);
+        const doubles behind = valuesOf(shifted);
+        for (std::size_t k = 0; k < 11; ++k) {
+            EXPECT_TRUE(sameBits(behind[k + 1], found[k]))
+                << given.name << ", read before it is written over";
+        }
+
+        guarded<double> none(doubles{7, 7});
+        EXPECT_EQ(given.map(x.data(), 0, 2, none.data()), 0);
+        EXPECT_EQ(valuesOf(none), (doubles{7, 7}));
+    }
+}
+
+TEST(FlatCellMaps, SquareRootsInPlace)
+{
+    for (const int cols : {1, 0}) {
+        guarded<double> x(mapped);
+        EXPECT_EQ(Cpp_M_SquareRootAij2(x.data(), 12, cols), 0);
+        const doubles found = valuesOf(x);
+        for (std::size_t k = 0; k < 12; ++k) {
+            EXPECT_TRUE(sameBits(found[k], maps[2].expected[k])) << "of " << mapped[k];
+        }
+    }
+}
+
+TEST(FlatCellMaps, SubtractTheFirstColumn)
+{
+    guarded<double> x(doubles{1, missing, 3, 5, 5, missing, -1, 0.5, 3});
+    EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.data(), 3, 3), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{0, missing, 0, 4, missing, missing, -2, missing, 0}));
+    guarded<double> large(doubles{-1e300, missing});
+    EXPECT_EQ(Cpp_M_SubstractFirstCol2(large.data(), 1, 2), 0);
+    EXPECT_EQ(valuesOf(large), (doubles{0, missing})) << "nothing is subtracted from what is missing";
+    EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.data(), 0, 3), 0);
+    EXPECT_EQ(Cpp_M_SubstractFirstCol2(x.data(), 3, 0), 0);
+    EXPECT_EQ(valuesOf(x), (doubles{0, missing, 0, 4, missing, missing, -2, missing, 0}));
+}
+
+TEST(FlatCellMaps, TellWhetherAllCellsLieInAnInterval)
+{
+    struct given {
+        doubles first;
+        doubles second;
+        short int bOpen;
+        short int bSkipMissing;
+        short int expected;
+    };
+    for (const given& table : std::vector<given>{
+             {{1, 2}, {3, 4}, 0, 0, -1},
+             {{1, 2}, {3, 4}, -1, 0, 0},
+             {{1.5, 2}, {3, 4}, -1, 0, 0},
+             {{1, 2}, {3, 3.5}, -1, 0, 0},
+             {{1.5, 2}, {3, 3.5}, -1, 0, -1},
+             {{1, 2}, {3, 4}, 1, 0, -1},
+             {{1, 2}, {3, std::nextafter(4.0, 5.0)}, 0, 0, 0},
+             {{std::nextafter(1.0, 0.0), 2}, {3, 4}, 0, 0, 0},
+             {{1, missing}, {3, 4}, 0, 0, 0},
+             {{1, missing}, {3, 4}, 0, 1, 0},
+             {{1, missing}, {3, 4}, 0, -1, -1},
+             {{1, belowSentinel}, {3, 4}, 0, -1, 0},
+             {{1, 2}, {notANumber, 4}, 0, -1, 0},
+         }) {
+        caller_columns x({table.first, table.second});
+        EXPECT_EQ(VB_M_IsInIntervalSPV(x.argument(), 2, 2, 1, 4, table.bOpen, table.bSkipMissing),
+                  table.expected)
+            << ::testing::PrintToString(table.first) << ::testing::PrintToString(table.second);
+    }
+    caller_columns x(caller_columns::columns(1, {9, 9}));
+    EXPECT_EQ(VB_M_IsInIntervalSPV(x.argument(), 0, 1, 1, 4, 0, 0), -1);
+    EXPECT_EQ(VB_M_IsInIntervalSPV(x.argument(), 2, 0, 1, 4, 0, 0), -1);
+    EXPECT_EQ(x.values(), caller_columns::columns(1, {9, 9}));
+}
+
+TEST(FlatRowMaps, FindTheLargestCellOfARow)
+{
+    guarded<double> x(
+        doubles{1, 5, missing, notANumber, 2, 3, 5, missing, 7, notANumber, 3, 4, missing, 9, 1});
+    guarded<int> positions(ints(5));
+    EXPECT_EQ(Cpp_M_MaxPosByRow(x.data(), 5, 3, positions.data()), 0);
+    EXPECT_EQ(valuesOf(positions), (ints{2, 1, 1, 1, 1}));
+    EXPECT_EQ(Cpp_M_MaxPosByRow(x.data(), 3, 5, positions.data()), 0);
+    EXPECT_EQ(valuesOf(positions), (ints{3, 5, 3, 1, 1}));
+    EXPECT_EQ(Cpp_M_MaxPosByRow(x.data(), 5, 0, positions.data()), 0);
+    EXPECT_EQ(valuesOf(positions), (ints{1, 1, 1, 1, 1}));
+    guarded<int> none(ints{8});
+    EXPECT_EQ(Cpp_M_MaxPosByRow(x.data(), 0, 3, none.data()), 0);
+    EXPECT_EQ(valuesOf(none), ints{8});
+}
+
+TEST(FlatRowMaps, AddWeightedColumnsUp)
+{
+    guarded<double> x(doubles{1, 2, missing, 10, 20, 30, 0x1p60, 0, 5});
+    guarded<double> factors(doubles{3, 0.5, 1});
+    guarded<double> out(doubles(3));
+    EXPECT_EQ(VB_ComputeNewVar(x.data(), 3, 3, factors.data(), out.data()), 0);
+    EXPECT_EQ(valuesOf(out), (doubles{0x1p60, 16, missing}));
+
+    guarded<double> lacking(doubles{3, missing});
+    EXPECT_EQ(VB_ComputeNewVar(x.data(), 2, 2, lacking.data(), out.data()), 0);
+    EXPECT_EQ(valuesOf(out), (doubles{missing, missing, missing}));
+    EXPECT_EQ(VB_ComputeNewVar(x.data(), 2, 0, factors.data(), out.data()), 0);
+    EXPECT_EQ(valuesOf(out), (doubles{0, 0, missing}));
+}
+
+TEST(FlatRowMaps, PickTheRowsThatAreNotNegligible)
+{
+    guarded<double> x(doubles{3, 0, 1, missing, 2, missing, 4, 0, 2, 5, 1, missing});
+    guarded<short int> kept(shorts(6, 7));
+    EXPECT_EQ(Cpp_FilterOnSumOfSquares(x.data(), 6, 2, 5.0, kept.data()), 2);
+    EXPECT_EQ(valuesOf(kept), (shorts{-1, 0, 0, -1, 0, 0}));
+    EXPECT_EQ(Cpp_FilterOnSumOfSquares(x.data(), 6, 2, 0.0, kept.data()), 4);
+    EXPECT_EQ(valuesOf(kept), (shorts{-1, 0, -1, -1, -1, 0}));
+    EXPECT_EQ(Cpp_FilterOnSumOfSquares(x.data(), 0, 2, 0.0, kept.data()), 0);
+    EXPECT_EQ(valuesOf(kept), (shorts{-1, 0, -1, -1, -1, 0}));
+}
