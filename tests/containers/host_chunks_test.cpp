@@ -132,6 +132,20 @@ TEST(LoadHostarray, LeavesOnlyNullsForATableThatIsNotThere)
     DeleteHostarrayStr(textChunks, 1);
 }
 
+TEST(LoadHostarray, IsUndoneWithoutARest)
+{
+    caller_table table;
+    table.set({{table.memory.array(numbers{1.0, 2.0}), table.memory.texts({u"a", u"b"})},
+               {table.memory.array(numbers{3.0, 4.0}), table.memory.texts({u"c", u"d"})}});
+    const std::int64_t before = allocationsAlive();
+    DeleteHostarray(LoadHostarray(table.reference(), 2, 2, 1), 2);
+    EXPECT_EQ(allocationsAlive(), before);
+    DeleteHostarrayStr(LoadHostarrayStr(table.reference(), 2, 2, 1), 2);
+    EXPECT_EQ(allocationsAlive(), before);
+    DeleteHostarray(LoadHostarray(table.reference(), 0, 2, 1), 0);
+    EXPECT_EQ(allocationsAlive(), before);
+}
+
 TEST(LoadHostarray, GivesAnArrayOfNoPointersForNoRecords)
 {
     caller_table table;
