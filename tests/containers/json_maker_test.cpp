@@ -253,7 +253,9 @@ std::size_t addressSpaceInUse()
 /** Writes until 64 MB are used up; leaves the process with 0 when that is told as it should be. */
 [[noreturn]] void writeUntilMemoryIsShort()
 {
-    const rlimit limit{addressSpaceInUse() + (64u << 20), RLIM_INFINITY};
+    rlimit limit{};
+    getrlimit(RLIMIT_AS, &limit);
+    limit.rlim_cur = addressSpaceInUse() + (64u << 20);
     setrlimit(RLIMIT_AS, &limit);
     JsonMaker maker;
     maker.startArray("");

@@ -16,7 +16,6 @@ namespace
 {
 
 constexpr std::size_t megabyte = std::size_t{1} << 20;
-constexpr std::size_t gigabyte = std::size_t{1} << 30;
 
 } // namespace
 
@@ -40,7 +39,7 @@ TEST(Memory, NothingAndTooMuchAreRefused)
 
 TEST(Memory, ThereIsAddressSpaceLeft)
 {
-    EXPECT_GT(availableAddressSpace(), gigabyte);
+    EXPECT_GT(availableAddressSpace(), megabyte);
 }
 
 // Wine answers with one figure for all time, so what the figure follows is tested off Windows.
@@ -49,16 +48,16 @@ TEST(Memory, ThereIsAddressSpaceLeft)
 TEST(Memory, ATakenBlockLeavesTheFreeAddressSpaceAndComesBack)
 {
     const std::uint64_t before = availableAddressSpace();
-    void* block = commitPages(gigabyte / 4);
+    void* block = commitPages(256 * megabyte);
     ASSERT_NE(block, nullptr);
     const std::uint64_t during = availableAddressSpace();
-    releasePages(block, gigabyte / 4);
+    releasePages(block, 256 * megabyte);
     const std::uint64_t after = availableAddressSpace();
 
     // Other threads and the C library take and give back a little meanwhile.
-    EXPECT_GE(before - during, gigabyte / 4 - 16 * megabyte);
-    EXPECT_LE(before - during, gigabyte / 4 + 16 * megabyte);
-    EXPECT_GE(after - during, gigabyte / 4 - 16 * megabyte);
+    EXPECT_GE(before - during, 256 * megabyte - 16 * megabyte);
+    EXPECT_LE(before - during, 256 * megabyte + 16 * megabyte);
+    EXPECT_GE(after - during, 256 * megabyte - 16 * megabyte);
 }
 
 namespace
@@ -86,10 +85,10 @@ std::uint64_t addressSpaceInUse()
 /** Ends the process with 0 when a limit of the address space is what is told. */
 [[noreturn]] void lookUnderALimit()
 {
-    limitAddressSpace(addressSpaceInUse() + gigabyte);
+    limitAddressSpace(addressSpaceInUse() + 128 * megabyte);
     const std::uint64_t left = availableAddressSpace();
-    const bool isTold = left <= gigabyte && left >= gigabyte - 16 * megabyte;
-    std::exit(isTold && commitPages(2 * gigabyte) == nullptr ? 0 : 1);
+    const bool isTold = left <= 128 * megabyte && left >= 112 * megabyte;
+    std::exit(isTold && commitPages(256 * megabyte) == nullptr ? 0 : 1);
 }
 
 /** The same for a limit below what the process has taken already. */
