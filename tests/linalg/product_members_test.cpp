@@ -1,5 +1,7 @@
 #include "linalg/product_members.h"
 
+#include "linalg/kernels/instruction_sets.h"
+
 using namespace korvel::test;
 
 namespace
@@ -41,11 +43,7 @@ TEST_P(ProductMember, HasThemAcrossPanels)
 
 TEST_P(ProductMember, HasThemInEveryInstructionSetAndTeam)
 {
-    using korvel::kernels::instruction_set;
-    for (const auto set : {instruction_set::baseline, instruction_set::avx2, instruction_set::avx512}) {
-        if (!korvel::kernels::hasSet(set)) {
-            continue;
-        }
+    for (const auto set : setsOfThisProcessor()) {
         const korvel::kernels::forced_set forced(set);
         for (const int threads : {1, 2, 3, 7}) {
             const team_of team(threads);

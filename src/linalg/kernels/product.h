@@ -74,9 +74,26 @@ struct product {
     std::ptrdiff_t factorStep = 1;
     columns_of<double> result{}; ///< element (i, j) is row i of column j
     part kept = part::whole;
-    /** The first row is this row of the table whose diagonal bounds the upper or lower part. */
+    /**
+     * Rows of the whole table above those of this product, where only a stretch of its rows is formed: the
+     * diagonal that bounds the upper or lower part passes through element (j - rowsBefore, j).
+     */
     std::ptrdiff_t rowsBefore = 0;
-    bool onto = false; ///< sums go on from what is stored in the result, and not from 0.0
+    bool onto = false;      ///< sums start from what is stored in the result, and not from 0.0
+    bool subtracts = false; ///< each product is subtracted from its sum, and not added to it
+};
+
+/** Counts at which a kernel goes another way, so that tests can lie around each. */
+struct product_edges {
+    std::ptrdiff_t tileRows;
+    std::ptrdiff_t tileColumns;
+    std::ptrdiff_t panelRows;
+    std::ptrdiff_t panelColumns;
+    std::ptrdiff_t panelDepth;
+    std::ptrdiff_t fewRows;    ///< so many left rows do not pay for packing the right operand
+    std::ptrdiff_t fewColumns; ///< nor so many right columns for packing the left one
+    std::ptrdiff_t narrow;     ///< order of the largest table times itself that is packed once for both sides
+    std::ptrdiff_t narrowDepth;
 };
 
 /** What is compiled once for each instruction set. */
@@ -85,6 +102,7 @@ struct product_kernel {
     std::size_t (*scratchSize)(const product&);
     /** Forms the product. Result, operands and scratch do not overlap. */
     void (*multiply)(const product&, double* scratch);
+    product_edges edges;
 };
 
 /** The kernel of the best instruction set that the processor has. */

@@ -1,8 +1,10 @@
 // The product kernel by itself, of each instruction set, beside one plain loop: random counts around each
 // tile, panel and threshold, both ways to sum each operand, columns in one block and in a list, factors,
-// halves, sums that go on.
+// halves, sums that start from the result, products that are subtracted.
 
 #include "linalg/kernels/product.h"
+
+#include "linalg/kernels/instruction_sets.h"
 #include "support/bits.h"
 #include "support/random_cells.h"
 
@@ -74,18 +76,44 @@ bool oneIn(std::mt19937_64& random, std::uint64_t count)
     return random() % count == 0;
 }
 
-/** Counts that lie around the edges of registers, tiles, panels and thresholds more often than elsewhere. */
-index someCount(std::mt19937_64& random)
+/** Where a kernel changes its ways. */
+std::vector<index> edgesOf(const kernels::product_kernel& kernel)
 {
-    constexpr index edges[] = {0, 1, 2, 4, 5, 8, 10, 16, 20, 32, 64, 128, 130, 256};
-    if (oneIn(random, 3)) {
-        return std::max<index>(0, edges[random() % std::size(edges)] + static_cast<index>(random() % 3) - 1);
-    }
-    return static_cast<index>(random() % 70);
+    const kernels::product_edges& edges = kernel.edges;
+    return {edges.tileRows,    edges.tileColumns, edges.panelRows, edges.panelColumns, edges.panelDepth,
+            edges.fewRows,     edges.fewColumns,  edges.narrow,    edges.narrowDepth,  0,
+            edges.tileRows / 2};
 }
 
-/** Cells among which nothing is odd in half of the rounds: an infinity or a NaN would hide what comes after
- * it. */
+/** A count just below, at or just above an edge, or of the next multiple of it. */
+index countAtEdge(std::mt19937_64& random, const kernels::product_kernel& kernel)
+{
+    const std::vector<index> edges = edgesOf(kernel);
+    const index edge = edges[random() % edges.size()] * (oneIn(random, 4) ? 2 : 1);
+    return std::max<index>(0, edge + static_cast<index>(random() % 3) - 1);
+}
+
+/** Counts up to a few tiles, and often those at an edge. */
+index someCount(std::mt19937_64& random, const kernels::product_kernel& kernel)
+{
+    return oneIn(random, 3) ? countAtEdge(random, kernel) : static_cast<index>(random() % 70);
+}
+
+/** A product of such counts that the plain loop forms soon. */
+kernels::product someProduct(std::mt19937_64& random, const kernels::product_kernel& kernel)
+{
+    constexpr index mostTerms = 1'500'000;
+    kernels::product form;
+    do {
+        form.rows = someCount(random, kernel);
+        form.cols = someCount(random, kernel);
+        form.depth = someCount(random, kernel);
+    } while (form.rows * form.cols * form.depth > mostTerms);
+    return form;
+}
+
+/** Cells of all kinds, but only ordinary ones in half of the rounds: an infinity or a NaN hides every term
+ * that is added after it. */
 random_cells someCells(std::mt19937_64& random)
 {
     constexpr odd_cells kinds[] = {odd_cells::none, odd_cells::none, odd_cells::missing_and_zeros,
@@ -113,12 +141,8 @@ bool keeps(const kernels::product& form, index i, index j)
 class ProductKernel : public ::testing::TestWithParam<instruction_set>
 {
 protected:
-    void SetUp() override
-    {
-        if (!kernels::hasSet(GetParam())) {
-            GTEST_SKIP() << "this processor lacks the instructions";
-        }
-    }
+    const kernels::forced_set forced_{GetParam()};
+    const kernels::product_kernel& kernel_ = kernels::productKernel();
 
     /** Forms the product and compares every cell of the result, and all around it, with the plain loop. */
     void expectThePlainLoop(kernels::product form, const table& left, const table& right, const table& result)
@@ -132,18 +156,18 @@ protected:
                     if (form.factors != nullptr) {
                         a *= form.factors[k * form.factorStep];
                     }
-                    sum += a * elementOf(right, j, k, form.right.sumsDownColumns);
+                    const double term = a * elementOf(right, j, k, form.right.sumsDownColumns);
+                    sum = form.subtracts ? sum - term : sum + term;
                 }
                 if (keeps(form, i, j)) {
                     expected[result.place(i, j)] = sum;
                 }
             }
         }
-        const kernels::forced_set forced(GetParam());
-        const std::size_t size = kernels::productKernel().scratchSize(form);
+        const std::size_t size = kernel_.scratchSize(form);
         // One double past an even place, so that no alignment is taken for granted.
         std::vector<double> scratch(size + 2, 1234.5);
-        kernels::productKernel().multiply(form, scratch.data() + 1);
+        kernel_.multiply(form, scratch.data() + 1);
         EXPECT_EQ(scratch.front(), 1234.5);
         EXPECT_EQ(scratch.back(), 1234.5);
         for (std::size_t k = 0; k < expected.size(); ++k) {
@@ -153,12 +177,22 @@ protected:
     }
 };
 
-TEST_P(ProductKernel, HasTheBitsOfThePlainLoop)
+/** What of a product is kept, where it starts and how its terms are made: by chance. */
+void chooseOptions(kernels::product& form, std::mt19937_64& random)
 {
-    std::mt19937_64 random(20);
-    for (int round = 0; round < 400; ++round) {
+    form.kept = static_cast<part>(random() % 3);
+    form.rowsBefore = oneIn(random, 4) ? static_cast<index>(random() % 40) : 0;
+    form.onto = oneIn(random, 3);
+    form.subtracts = oneIn(random, 4);
+}
+
+class ProductKernelOfTwo : public ProductKernel
+{
+protected:
+    /** One product of these counts on random tables, everything else by chance. */
+    void tryOne(kernels::product form, std::mt19937_64& random)
+    {
         random_cells cells = someCells(random);
-        kernels::product form{someCount(random), someCount(random), someCount(random)};
         const bool leftDown = oneIn(random, 2);
         const bool rightDown = oneIn(random, 2);
         const table left = operandTable(form.rows, form.depth, leftDown, random, cells);
@@ -171,43 +205,82 @@ TEST_P(ProductKernel, HasTheBitsOfThePlainLoop)
         form.result = result.columns<double>(oneIn(random, 3));
         form.factors = oneIn(random, 4) ? factors.data() : nullptr;
         form.factorStep = 1 + static_cast<index>(random() % 2);
-        form.kept = static_cast<part>(random() % 3);
-        form.rowsBefore = static_cast<index>(random() % 40);
-        form.onto = oneIn(random, 3);
-        ASSERT_NO_FATAL_FAILURE(expectThePlainLoop(form, left, right, result));
+        chooseOptions(form, random);
+        expectThePlainLoop(form, left, right, result);
+    }
+};
+
+TEST_P(ProductKernelOfTwo, HasTheBitsOfThePlainLoop)
+{
+    std::mt19937_64 random(20);
+    for (int round = 0; round < 400; ++round) {
+        ASSERT_NO_FATAL_FAILURE(tryOne(someProduct(random, kernel_), random));
     }
 }
 
-TEST_P(ProductKernel, OfATableByItselfHasTheBitsOfThePlainLoop)
+TEST_P(ProductKernelOfTwo, HasThemAroundEveryEdge)
+{
+    std::mt19937_64 random(21);
+    const auto few = [&] { return 1 + static_cast<index>(random() % 30); };
+    for (const index edge : edgesOf(kernel_)) {
+        for (const index count : {edge - 1, edge, edge + 1, 2 * edge + 1}) {
+            if (count < 0) {
+                continue;
+            }
+            for (int round = 0; round < 3; ++round) {
+                ASSERT_NO_FATAL_FAILURE(tryOne({count, few(), few()}, random));
+                ASSERT_NO_FATAL_FAILURE(tryOne({few(), count, few()}, random));
+                ASSERT_NO_FATAL_FAILURE(tryOne({few(), few(), count}, random));
+            }
+        }
+    }
+}
+
+TEST_P(ProductKernelOfTwo, HasThemOverSeveralPanelsOfEachCount)
+{
+    std::mt19937_64 random(23);
+    const kernels::product_edges& edges = kernel_.edges;
+    for (const index over : {1, 5}) {
+        ASSERT_NO_FATAL_FAILURE(
+            tryOne({edges.panelRows + over, edges.fewColumns + over, edges.panelDepth + over}, random));
+        ASSERT_NO_FATAL_FAILURE(tryOne({edges.fewRows + over, edges.panelColumns + over, 20}, random));
+        ASSERT_NO_FATAL_FAILURE(tryOne({edges.panelRows + over, edges.panelColumns + over, 9}, random));
+        ASSERT_NO_FATAL_FAILURE(tryOne({9, edges.panelColumns + over, edges.panelDepth + over}, random));
+    }
+}
+
+class ProductKernelOfOne : public ProductKernel
+{
+};
+
+TEST_P(ProductKernelOfOne, HasTheBitsOfThePlainLoop)
 {
     std::mt19937_64 random(22);
-    for (int round = 0; round < 200; ++round) {
+    for (int round = 0; round < 300; ++round) {
         random_cells cells = someCells(random);
-        const index order = someCount(random);
-        kernels::product form{order, order, someCount(random)};
+        kernels::product form = someProduct(random, kernel_);
+        form.cols = form.rows = std::min<index>(form.rows, kernel_.edges.narrow + 2);
         const bool down = oneIn(random, 2);
-        const table both = operandTable(order, form.depth, down, random, cells);
-        table result(order, order, static_cast<index>(random() % 3), cells);
+        const table both = operandTable(form.rows, form.depth, down, random, cells);
+        table result(form.rows, form.rows, static_cast<index>(random() % 3), cells);
         form.left = {both.columns<const double>(oneIn(random, 3)), down};
         form.right = form.left;
         form.result = result.columns<double>(oneIn(random, 3));
-        form.kept = static_cast<part>(random() % 3);
-        form.rowsBefore = oneIn(random, 4) ? static_cast<index>(random() % 40) : 0;
-        form.onto = oneIn(random, 3);
+        chooseOptions(form, random);
         ASSERT_NO_FATAL_FAILURE(expectThePlainLoop(form, both, both, result));
     }
 }
 
 TEST_P(ProductKernel, ScratchOfAProductServesAnyStretchOfIt)
 {
-    const kernels::forced_set forced(GetParam());
     std::mt19937_64 random(24);
     random_cells cells(25, odd_cells::none);
     const table any(1, 1, 0, cells);
-    const auto scratchSize = kernels::productKernel().scratchSize;
+    const auto scratchSize = kernel_.scratchSize;
     for (int round = 0; round < 2000; ++round) {
-        const index order = someCount(random);
-        kernels::product whole{order, oneIn(random, 2) ? order : someCount(random), someCount(random)};
+        const index order = someCount(random, kernel_);
+        kernels::product whole{order, oneIn(random, 2) ? order : someCount(random, kernel_),
+                               someCount(random, kernel_)};
         whole.left = {any.columns<const double>(oneIn(random, 4)), oneIn(random, 2)};
         whole.right = oneIn(random, 2) ? whole.left
                                        : kernels::operand{any.columns<const double>(false), oneIn(random, 2)};
@@ -229,10 +302,11 @@ std::string nameOfSet(const ::testing::TestParamInfo<instruction_set>& tested)
     return names[static_cast<int>(tested.param)];
 }
 
-INSTANTIATE_TEST_SUITE_P(Sets, ProductKernel,
-                         ::testing::Values(instruction_set::baseline, instruction_set::avx2,
-                                           instruction_set::avx512),
-                         nameOfSet);
+// Only the sets of this processor, and tests/platform/cpu_test.cpp holds that none of them is overlooked.
+const auto sets = ::testing::ValuesIn(setsOfThisProcessor());
+INSTANTIATE_TEST_SUITE_P(Sets, ProductKernel, sets, nameOfSet);
+INSTANTIATE_TEST_SUITE_P(Sets, ProductKernelOfTwo, sets, nameOfSet);
+INSTANTIATE_TEST_SUITE_P(Sets, ProductKernelOfOne, sets, nameOfSet);
 
 } // namespace
 
