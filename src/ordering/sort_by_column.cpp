@@ -21,8 +21,11 @@ void sortByColumn(matrix<T>& table, int rows, int cols, int keyCol, int from, in
         return table.data + range.first + static_cast<std::ptrdiff_t>(table.nbrows) * j;
     };
     const T* key = columnAt(keyCol - 1);
-    const korvel::sorted_keys<T> sorted(range.count, descending,
-                                        [=](std::int32_t k) -> const T& { return key[k]; });
+    const auto keyAt = [=](std::int32_t k) -> const T& { return key[k]; };
+    if (korvel::orderOf(range.count, descending, keyAt) == korvel::key_order::sorted) {
+        return;
+    }
+    const korvel::sorted_order<T> sorted(range.count, descending, keyAt);
     korvel::moveRows<T>(sorted, columns, columnAt, korvel::sharesColumns(rows, cols));
 }
 

@@ -11,9 +11,15 @@ namespace
 {
 
 template <class Key>
+auto keysOf(const matrix<Key>& key, const korvel::row_range& range)
+{
+    return [&key, first = range.first](std::int32_t k) { return key[first + k]; };
+}
+
+template <class Key>
 korvel::sorted_numbers<Key> sortKeys(const matrix<Key>& key, const korvel::row_range& range, bool descending)
 {
-    return {range.count, descending, [&](std::int32_t k) { return key[range.first + k]; }};
+    return {range.count, descending, keysOf(key, range)};
 }
 
 template <class Key>
@@ -68,6 +74,9 @@ void sortTable(Table& table, int rows, int cols, int from, int to, matrix<Key>& 
                int auxCols, bool descending, bool sortKey)
 {
     const korvel::row_range range(from, to, rows);
+    if (korvel::orderOf(range.count, descending, keysOf(key, range)) == korvel::key_order::sorted) {
+        return;
+    }
     const bool keyIsFirstColumn = sortKey && storageOf(key) == storageOf(table);
     const auto sorted = sortKeys(key, range, descending);
     moveRowsOf<T>(table, rows, keyIsFirstColumn ? 1 : 0, cols, range, sorted);

@@ -11,8 +11,10 @@
 namespace
 {
 
-/** Sorts the elements of the range on this thread; `landed(k, position)` is told where the element of rank k
- * came from. */
+/**
+ * Sorts the elements of the range on this thread. `landed(k, position)` is told where the text of rank k came
+ * from, unless every text stays.
+ */
 template <class T, class Landed>
 void sortRange(matrix<T>& x, const korvel::row_range& range, bool descending, Landed landed)
 {
@@ -21,6 +23,11 @@ void sortRange(matrix<T>& x, const korvel::row_range& range, bool descending, La
     }
     T* elements = x.data + range.first;
     const auto count = static_cast<std::size_t>(range.count);
+    const auto found =
+        korvel::orderOf(range.count, descending, [=](std::int32_t k) -> const T& { return elements[k]; });
+    if (found == korvel::key_order::sorted) {
+        return;
+    }
     if constexpr (korvel::is_text<T>) {
         std::vector<T> moved(std::make_move_iterator(elements), std::make_move_iterator(elements + count));
         const korvel::sorted_texts sorted(
@@ -31,11 +38,12 @@ void sortRange(matrix<T>& x, const korvel::row_range& range, bool descending, La
             landed(k, sorted.position(k));
             elements[k] = std::move(moved[static_cast<std::size_t>(sorted.position(k))]);
         }
+    } else if (found == korvel::key_order::reverse) {
+        std::reverse(elements, elements + count);
     } else {
         const korvel::sorted_numbers<T> sorted(
-            range.count, descending, [&](std::int32_t k) { return elements[k]; }, korvel::sort_threads::one);
+            range.count, descending, [=](std::int32_t k) { return elements[k]; }, korvel::sort_threads::one);
         for (std::size_t k = 0; k < count; ++k) {
-            landed(k, sorted.position(k));
             elements[k] = sorted.key(k);
         }
     }

@@ -73,9 +73,6 @@ void imageSort(std::span<image_pair> pairs, sort_threads threads)
         insertionSort(pairs, before);
         return;
     }
-    if (std::is_sorted(pairs.begin(), pairs.end(), before)) {
-        return; // What comes in order, as much does, needs no scratch; among others this ends soon.
-    }
     const std::unique_ptr<image_pair[]> scratch(new (std::nothrow) image_pair[pairs.size()]);
     if (scratch == nullptr) {
         // Without scratch there is still the library's sort, which makes do with what memory there is.

@@ -43,6 +43,37 @@ void comparisonSort(std::span<key_pair<text>> pairs, bool descending, sort_threa
  */
 void comparisonSort(std::span<key_pair<double>> pairs, bool descending);
 
+/** How keys stand before they are sorted. */
+enum class key_order {
+    none,
+    sorted,  ///< In the order that is wanted.
+    reverse, ///< In the opposite order, and no two are equal: a stable sort turns them round.
+};
+
+/**
+ * Finds out how keys stand. Keys in no order are seen through after a few of them; a NaN is in no order.
+ * Short lists are not looked at: insertion costs as little.
+ */
+template <class KeyAt>
+[[nodiscard]] key_order orderOf(int count, bool descending, const KeyAt& keyAt)
+{
+    if (count <= static_cast<int>(smallSort)) {
+        return key_order::none;
+    }
+    const auto everyPair = [&](auto stands) {
+        std::int32_t k = 1;
+        while (k < count && stands(keyAt(k - 1), keyAt(k))) {
+            ++k;
+        }
+        return k == count;
+    };
+    if (everyPair([=](const auto& a, const auto& b) { return descending ? a >= b : a <= b; })) {
+        return key_order::sorted;
+    }
+    const bool turned = everyPair([=](const auto& a, const auto& b) { return descending ? a < b : a > b; });
+    return turned ? key_order::reverse : key_order::none;
+}
+
 /** Sorts `pairs` by image, by insertion when they are few, with scratch of its own otherwise. */
 void imageSort(std::span<image_pair> pairs, sort_threads threads);
 
@@ -66,17 +97,22 @@ private:
 };
 
 /**
- * Number keys (`double`, `int`) in sorted order. `keyAt(k)` gives the key at position k, 0-based, and is
- * called once for each, from several threads at a time when there are many.
+ * Where number keys (`double`, `int`) come from in sorted order. `keyAt(k)` gives the key at position k,
+ * 0-based. It is called from several threads at a time when there are many keys, and no more once this object
+ * is made.
  */
 template <class Key>
-requires(std::same_as<Key, double> || std::same_as<Key, int>) class sorted_numbers
+requires(std::same_as<Key, double> || std::same_as<Key, int>) class sorted_positions
 {
 public:
     template <class KeyAt>
-    sorted_numbers(int count, bool descending, KeyAt keyAt, sort_threads threads = sort_threads::shared)
-        : pairs_(static_cast<std::size_t>(std::max(count, 0))), flip_(descending ? ~std::uint64_t{0} : 0)
+    sorted_positions(int count, bool descending, KeyAt keyAt, sort_threads threads = sort_threads::shared)
+        : count_(std::max(count, 0)), found_(orderOf(count, descending, keyAt)),
+          pairs_(found_ == key_order::none ? size() : 0), flip_(descending ? ~std::uint64_t{0} : 0)
     {
+        if (found_ != key_order::none) {
+            return;
+        }
         const bool unordered = readKeys(keyAt, threads);
         if constexpr (std::same_as<Key, double>) {
             if (unordered) {
@@ -87,13 +123,27 @@ public:
         imageSort(pairs_.cells(), threads);
     }
 
-    [[nodiscard]] std::size_t size() const { return pairs_.cells().size(); }
+    [[nodiscard]] std::size_t size() const { return static_cast<std::size_t>(count_); }
 
     /** Where the key that now stands at rank `k`, 0-based, came from. */
-    [[nodiscard]] int position(std::size_t k) const { return pairs_.cells()[k].position; }
+    [[nodiscard]] int position(std::size_t k) const
+    {
+        switch (found_) {
+        case key_order::sorted:
+            return static_cast<int>(k);
+        case key_order::reverse:
+            return count_ - 1 - static_cast<int>(k);
+        default:
+            return pairs_.cells()[k].position;
+        }
+    }
 
-    /** The key at rank `k`, with the bits that it had. */
-    [[nodiscard]] Key key(std::size_t k) const
+protected:
+    /** Whether the keys were found in order, so that there is no list of them. */
+    [[nodiscard]] bool isComputed() const { return found_ != key_order::none; }
+
+    /** The key at rank `k` of the list, with the bits that it had. */
+    [[nodiscard]] Key listedKey(std::size_t k) const
     {
         const image_pair& pair = pairs_.cells()[k];
         if constexpr (std::same_as<Key, double>) {
@@ -158,9 +208,35 @@ private:
         raw_ = true;
     }
 
-    small_array<image_pair> pairs_;
+    int count_;
+    key_order found_;
+    small_array<image_pair> pairs_; ///< None when the keys were found in order.
     std::uint64_t flip_;
     bool raw_ = false;
+};
+
+/** Number keys in sorted order, which may be overwritten where they came from. */
+template <class Key>
+class sorted_numbers : public sorted_positions<Key>
+{
+public:
+    template <class KeyAt>
+    sorted_numbers(int count, bool descending, KeyAt keyAt, sort_threads threads = sort_threads::shared)
+        : sorted_positions<Key>(count, descending, keyAt, threads)
+    {
+        if (this->isComputed()) {
+            keys_ = std::make_unique_for_overwrite<Key[]>(this->size());
+            for (std::size_t k = 0; k < this->size(); ++k) {
+                keys_[k] = keyAt(this->position(k));
+            }
+        }
+    }
+
+    /** The key at rank `k`, with the bits that it had. */
+    [[nodiscard]] Key key(std::size_t k) const { return keys_ ? keys_[k] : this->listedKey(k); }
+
+private:
+    std::unique_ptr<Key[]> keys_; ///< Where there is no list.
 };
 
 /** Text keys in sorted order, by 16-bit code units. `keyAt(k)` refers to the key, which must outlive this
@@ -173,11 +249,15 @@ public:
         : pairs_(static_cast<std::size_t>(std::max(count, 0)))
     {
         const std::span<key_pair<text>> pairs = pairs_.cells();
+        const key_order found = orderOf(count, descending, keyAt);
         for (std::size_t k = 0; k < pairs.size(); ++k) {
-            const text& key = keyAt(static_cast<std::int32_t>(k));
-            pairs[k] = {&key, static_cast<std::int32_t>(k)};
+            const auto position =
+                static_cast<std::int32_t>(found == key_order::reverse ? pairs.size() - 1 - k : k);
+            pairs[k] = {&keyAt(position), position};
         }
-        comparisonSort(pairs, descending, threads);
+        if (found == key_order::none) {
+            comparisonSort(pairs, descending, threads);
+        }
     }
 
     [[nodiscard]] std::size_t size() const { return pairs_.cells().size(); }
@@ -188,11 +268,29 @@ private:
     small_array<key_pair<text>> pairs_;
 };
 
+namespace detail
+{
+
+template <class Key>
+struct sorted {
+    using keys = sorted_numbers<Key>;
+    using order = sorted_positions<Key>;
+};
+template <>
+struct sorted<text> {
+    using keys = sorted_texts;
+    using order = sorted_texts;
+};
+
+} // namespace detail
+
 /** Keys of type `Key` in sorted order; positions count from 0. */
 template <class Key>
-using sorted_keys =
-    std::conditional_t<std::same_as<Key, text>, sorted_texts,
-                       sorted_numbers<std::conditional_t<std::same_as<Key, text>, double, Key>>>;
+using sorted_keys = typename detail::sorted<Key>::keys;
+
+/** The same where the keys themselves are not wanted. */
+template <class Key>
+using sorted_order = typename detail::sorted<Key>::order;
 
 } // namespace korvel
 

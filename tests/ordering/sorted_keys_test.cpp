@@ -35,9 +35,14 @@ void expectSortsLikeTheStandardLibrary(const std::vector<Key>& keys, bool descen
     const korvel::sorted_keys<Key> sorted(
         static_cast<int>(keys.size()), descending,
         [&](std::int32_t k) -> const Key& { return keys[static_cast<std::size_t>(k)]; });
+    const korvel::sorted_order<Key> order(
+        static_cast<int>(keys.size()), descending,
+        [&](std::int32_t k) -> const Key& { return keys[static_cast<std::size_t>(k)]; });
     ASSERT_EQ(sorted.size(), keys.size());
+    ASSERT_EQ(order.size(), keys.size());
     for (std::size_t k = 0; k < keys.size(); ++k) {
         ASSERT_EQ(sorted.position(k), expected[k]) << "rank " << k << " of " << keys.size();
+        ASSERT_EQ(order.position(k), expected[k]) << "rank " << k << " of " << keys.size();
         if constexpr (std::same_as<Key, double>) {
             ASSERT_TRUE(sameBits(sorted.key(k), keys[static_cast<std::size_t>(expected[k])]));
         } else {
@@ -141,6 +146,39 @@ TEST_P(SortedKeys, TextsComeOutAsFromAStableSort)
     }
 }
 
+TEST_P(SortedKeys, KeysInOrderOrInReverseComeOutAsFromAStableSort)
+{
+    for (const std::size_t count : {0U, 1U, 2U, 31U, 32U, 33U, 34U, 1000U, 100'000U}) {
+        for (const std::size_t ties : {1U, 2U, 50U}) {
+            std::vector<double> rising(count);
+            for (std::size_t k = 0; k < count; ++k) {
+                const double value = static_cast<double>(k / ties) - static_cast<double>(count / ties / 2);
+                rising[k] = value == 0.0 && k % 2 == 1 ? -0.0 : value;
+            }
+            std::vector<std::vector<double>> lists(4, rising);
+            std::reverse(lists[1].begin(), lists[1].end());
+            if (count > 2) {
+                // Only the last pair is out of order.
+                std::swap(lists[2].end()[-1], lists[2].end()[-2]);
+                lists[3] = lists[1];
+                std::swap(lists[3].end()[-1], lists[3].end()[-2]);
+            }
+            for (const std::vector<double>& keys : lists) {
+                std::vector<int> integers(keys.begin(), keys.end());
+                std::vector<text> texts;
+                for (std::size_t k = 0; k < std::min<std::size_t>(count, 5000); ++k) {
+                    texts.push_back(text(1, static_cast<char16_t>(integers[k] + 30'000)));
+                }
+                for (const bool descending : {false, true}) {
+                    expectSortsLikeTheStandardLibrary(keys, descending);
+                    expectSortsLikeTheStandardLibrary(integers, descending);
+                    expectSortsLikeTheStandardLibrary(texts, descending);
+                }
+            }
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Threads, SortedKeys, ::testing::Values(1, 2, 3, 7));
 
 TEST(SortedKeysWithNaN, StayWhereNoComparisonMovesThem)
@@ -178,5 +216,18 @@ TEST(SortedKeysWithNaN, KeepEveryKeyAndTheSameOrderOnAnyNumberOfThreads)
         ASSERT_FALSE(seen[position]);
         seen[position] = true;
         ASSERT_TRUE(sameBits(one.key(k), keys[position]));
+    }
+}
+
+TEST(SortedKeysWithNaN, AreInNoOrder)
+{
+    // They take the steps of the comparison sort, whose outcome depends on them.
+    std::vector<double> keys(100);
+    std::iota(keys.begin(), keys.end(), 0.0);
+    for (const std::size_t place : {0U, 1U, 50U, 99U}) {
+        std::vector<double> withNaN = keys;
+        withNaN[place] = std::numeric_limits<double>::quiet_NaN();
+        expectSortsLikeTheStandardLibrary(withNaN, false);
+        expectSortsLikeTheStandardLibrary(withNaN, true);
     }
 }
