@@ -828,6 +828,76 @@ Public Declare PtrSafe Function Cpp_M_ShuffleStr Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr, _
     ByRef seed As Long, ByVal flag As Integer, ByRef nextSeed As Long) As Long
 
+' ---- statistics/centering.h
+
+' Standardises in place.
+Public Declare PtrSafe Function VB_M_Standardize2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal bUnbiased As Integer) As Long
+
+' The same on a table of separate columns.
+Public Declare PtrSafe Function VB_M_Standardize2SPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal bUnbiased As Integer) As Long
+
+' Standardises in place and returns the statistics.
+Public Declare PtrSafe Function VB_M_Standardize3 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef sds As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Standardises, with weights, into a result.
+Public Declare PtrSafe Function VB_M_StandardizeW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer, ByRef out As Double) As Long
+
+' Standardises, with weights, in place.
+Public Declare PtrSafe Function VB_M_StandardizeW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Standardises, with weights, in place and returns the statistics.
+Public Declare PtrSafe Function VB_M_StandardizeW3 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByRef means As Double, ByRef sds As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Centres into a result.
+Public Declare PtrSafe Function VB_M_Center Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
+
+' Centres, with weights, into a result.
+Public Declare PtrSafe Function VB_M_CenterW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByRef out As Double) As Long
+
+' Centres in place.
+Public Declare PtrSafe Function VB_M_Center2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' The same on a table of separate columns.
+Public Declare PtrSafe Function VB_M_Center2SPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Centres, with weights, in place.
+Public Declare PtrSafe Function VB_M_CenterW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double) As Long
+
+' Reduces into a result.
+Public Declare PtrSafe Function VB_M_Reduce Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Reduces, with weights, into a result.
+Public Declare PtrSafe Function VB_M_ReduceW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByRef out As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' Reduces in place.
+Public Declare PtrSafe Function VB_M_Reduce2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal bUnbiased As Integer) As Long
+
+' Reduces, with weights, in place.
+Public Declare PtrSafe Function VB_M_ReduceW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
 ' ---- statistics/column_deviations.h
 
 ' Means and standard deviations of the columns.
@@ -854,6 +924,64 @@ Public Declare PtrSafe Function VB_M_MeanStDevVarOneInMat Lib "KORVELMathTools.d
     ByRef sd As Double, ByRef var As Double, ByRef w As Double, ByVal bUnbiased As Integer, _
     ByVal bFreq As Integer) As Long
 
+' ---- statistics/normalize.h
+
+' Divides a vector by the root of its sum of squares, so that that becomes 1.
+Public Declare PtrSafe Function VB_V_Norm Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' The same with the sum of x * w * x.
+Public Declare PtrSafe Function VB_V_NormW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Long
+
+' Multiplies a vector by the root of value over its sum of squares, so that that becomes value.
+Public Declare PtrSafe Function VB_V_NormToVal Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal value As Double) As Long
+
+' The same with the sum of x * w * x.
+Public Declare PtrSafe Function VB_V_NormToValW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal value As Double, ByRef w As Double) As Long
+
+' Changes the cells of each column to (x / s) * sqrt(n / (n - 1)), where s is the root of the
+' column's sum of x * x * w and n is rows, whatever is left out.
+Public Declare PtrSafe Function VB_M_Normalize Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByRef iMissing As Integer) As Long
+
+' VB_M_Normalize, without weights and flags, on a table and two companions, tables of other rows and
+' the same columns, which are changed by the sums of squares and the number of rows of x.
+Public Declare PtrSafe Function VB_M_NormalizeMatrix Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByRef z As Double, ByVal zRows As Long) As Long
+
+' ---- statistics/rescale.h
+
+' Brings a vector to the range from lo to hi: (x - a) * (hi - lo) / r + lo, where a is the smallest
+' number kept and r the largest less the smallest.
+Public Declare PtrSafe Function VB_V_Rescale Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
+    ByRef iMissing As Integer, ByRef out As Double) As Long
+
+' The same in place; an element left out stays.
+Public Declare PtrSafe Function VB_V_Rescale2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
+    ByRef iMissing As Integer) As Long
+
+' VB_V_Rescale on each column, each to a range of its own.
+Public Declare PtrSafe Function VB_M_RescaleByVect Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
+    ByRef hi As Double, ByRef iMissing As Integer, ByRef out As Double) As Long
+
+' The same in place; a cell left out stays.
+Public Declare PtrSafe Function VB_M_RescaleByVect2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
+    ByRef hi As Double, ByRef iMissing As Integer) As Long
+
+' How far each number lies from the centre, in deviations.
+Public Declare PtrSafe Function Cpp_V_ZScores Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bRobust As Integer, ByRef centre As Double, _
+    ByRef scaleValue As Double, ByRef out As Double) As Long
+
 ' ---- statistics/row_grouping.h
 
 ' Aggregates the rows that share the value of a key column, in ascending order of the keys, compared
@@ -871,6 +999,58 @@ Public Declare PtrSafe Function VB_M_GroupByW Lib "KORVELMathTools.dll" ( _
 ' Merges rows that are equal, exactly, in all data columns.
 Public Declare PtrSafe Function VB_M_Dedupe Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal p As Long, ByRef nOut As Long, ByRef out As Double) As Long
+
+' ---- statistics/standardize.h
+
+' Standardises each column in turn.
+Public Declare PtrSafe Function VB_M_Standardize Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
+    ByRef means As Double, ByRef sds As Double, ByRef vars As Double, ByRef iMissing As Integer, _
+    ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+
+' VB_M_Standardize with a result, on one vector and with bFreq false.
+Public Declare PtrSafe Function VB_V_Standardize Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByRef out As Double) As Long
+
+' VB_M_Standardize in place, on one vector and with bFreq false.
+Public Declare PtrSafe Function VB_V_Standardize2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer) As Long
+
+' Standardises the columns by given statistics.
+Public Declare PtrSafe Function VB_M_StandardizeKnownMeansStDev Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef sds As Double, ByRef out As Double, ByRef vars As Double, ByRef iMissing As Integer) As Long
+
+' VB_M_StandardizeKnownMeansStDev with deviations and a result, no row left out.
+Public Declare PtrSafe Function VB_M_StandardizeByVect Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef sds As Double, ByRef out As Double) As Long
+
+' VB_M_StandardizeKnownMeansStDev with deviations, in place, no row left out.
+Public Declare PtrSafe Function VB_M_StandardizeByVect2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef sds As Double) As Long
+
+' Standardises the columns in place by given statistics.
+Public Declare PtrSafe Function Cpp_M_StandardizeApply2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef sds As Double) As Long
+
+' ---- statistics/standardize_row_sets.h
+
+' Standardises a table in place, (x - mean) / sd by column, the sum of squares divided by the number
+' of cells less 1, and by the same means and deviations two companions, tables of other rows and the
+' same columns.
+Public Declare PtrSafe Function VB_M_StandardizeMatrix Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByRef z As Double, ByVal zRows As Long) As Long
+
+' Standardises or centres each group of rows for itself, in place.
+Public Declare PtrSafe Function Cpp_M_StandardizeByGroup Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef groups As Long, _
+    ByVal nGroups As Long, ByVal bStandardize As Integer, ByVal bUnbiased As Integer) As Long
 
 ' ---- statistics/table_extremes.h
 

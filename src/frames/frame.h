@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <optional>
 
 namespace korvel::frame
 {
@@ -46,6 +47,27 @@ template <class T>
 [[nodiscard]] std::unique_ptr<matrix<T>> copyToHeap(T* array, int rows, int cols = 1)
 {
     return std::make_unique<matrix<T>>(rows, cols, array, false);
+}
+
+/** The caller's array as it stands, when there is one. */
+template <class T>
+[[nodiscard]] std::optional<matrix<T>> borrowIfGiven(T* array, int rows, int cols = 1)
+{
+    return array != nullptr ? std::optional<matrix<T>>(borrow(array, rows, cols)) : std::nullopt;
+}
+
+/** What a core routine gets for an argument that may be null. */
+template <class T>
+[[nodiscard]] matrix<T>* pointerTo(std::optional<matrix<T>>& table)
+{
+    return table ? &*table : nullptr;
+}
+
+/** What a core routine writes: its result, or the table that it changes when there is none. */
+template <class T>
+[[nodiscard]] const matrix<T>& resultOr(const matrix<T>& table, const std::optional<matrix<T>>& result)
+{
+    return result ? *result : table;
 }
 
 /** An owned table of zeros (of empty texts) for a result. */
@@ -139,6 +161,17 @@ template <numeric_element T, class R>
     const bool apart = start(array) + bytes(rows, cols, sizeof(T)) <= start(written.data) ||
                        start(written.data) + bytes(written.nbrows, written.nbcols, sizeof(R)) <= start(array);
     return apart ? borrow(array, rows, cols) : copyIn(array, rows, cols);
+}
+template <numeric_element T, class R>
+[[nodiscard]] matrix<T> besides(const std::optional<matrix<R>>& written, T* array, int rows, int cols = 1)
+{
+    return written ? besides(*written, array, rows, cols) : borrow(array, rows, cols);
+}
+template <numeric_element T, class R>
+[[nodiscard]] std::optional<matrix<T>> besidesIfGiven(const matrix<R>& written, T* array, int rows,
+                                                      int cols = 1)
+{
+    return array != nullptr ? std::optional<matrix<T>>(besides(written, array, rows, cols)) : std::nullopt;
 }
 template <class R>
 [[nodiscard]] matrix<text> besides(const matrix<R>&, OLECHAR** block, int rows, int cols = 1)
