@@ -11,8 +11,13 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
 find_program(KORVEL_CCACHE ccache)
 if(KORVEL_CCACHE)
-    set(CMAKE_C_COMPILER_LAUNCHER ${KORVEL_CCACHE})
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${KORVEL_CCACHE})
+    # Paths count from the checkout, so that every checkout shares what one has compiled. The dates of precompiled
+    # headers say nothing: their contents are compared.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+        CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
+        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        ${KORVEL_CCACHE})
+    set(CMAKE_C_COMPILER_LAUNCHER ${CMAKE_CXX_COMPILER_LAUNCHER})
 endif()
 
 add_compile_options(-ffp-contract=off)
