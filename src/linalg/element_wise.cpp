@@ -60,6 +60,9 @@ void M_ScalarsA2(matrix<double>* A, int n, int p, double s)
 
 void M_ScalarsA2(matrixSparse* A, int n, int p, double s)
 {
+    if (n < 0 || p < 0) {
+        return;
+    }
     matrixSparse result(n, p, 0.0, false);
     M_ScalarsA(A, n, p, s, &result);
     result.copyMatTo(A);

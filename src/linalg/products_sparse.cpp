@@ -57,11 +57,6 @@ private:
     int head_ = end;
 };
 
-std::size_t atLeastNone(int count)
-{
-    return static_cast<std::size_t>(std::max(count, 0));
-}
-
 /** Appends a row of the product to the entries of the result. */
 void appendRow(const matrixSparse& A, int i, const matrixSparse& B, row_sums& sums, matrixSparse& result)
 {
@@ -101,11 +96,14 @@ matrixSparse transposedOf(const matrixSparse& x, int rows, int cols)
 
 int M_ProductAB(matrixSparse* A, int n, int p, matrixSparse* B, int q, matrixSparse* C, bool keep)
 {
-    row_sums sums(atLeastNone(std::max({n, p, q})));
+    if (n < 0 || q < 0) {
+        return 0;
+    }
+    row_sums sums(static_cast<std::size_t>(std::max({n, p, q})));
     matrixSparse result;
     result.nbrows = n;
     result.nbcols = q;
-    result.rowStart.assign(atLeastNone(n) + 1, 0);
+    result.rowStart.assign(static_cast<std::size_t>(n) + 1, 0);
     if (keep && C != A && C != B) {
         result.colIndex = memoryOf(C->colIndex);
         result.values = memoryOf(C->values);
@@ -200,7 +198,7 @@ int M_ProductBV(matrixSparse* B, int n, int, matrix<double>* v, matrix<double>* 
 
 void M_ProductTrBV(matrixSparse* B, int n, int p, matrix<double>* v, matrix<double>* y)
 {
-    matrix<double> dense = B->to_matrix(std::max(n, 0), p);
+    matrix<double> dense = B->to_matrix(std::max(n, 0), std::max(p, 0));
     M_ProductTrBV(&dense, n, p, v, y);
 }
 

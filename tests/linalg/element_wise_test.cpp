@@ -170,6 +170,19 @@ TEST(ElementWise, ALargerResultKeepsItsShapeAndOnlyItsFirstElementsBecomeZero)
     EXPECT_TRUE(sameBits(c.getElement(2, 1), 9.0));
 }
 
+TEST(ElementWise, ASparseTableStaysWhenACountIsBelowNone)
+{
+    matrix<double> dense = tableOf({{1, 0}, {0, 3}});
+    const matrixSparse before(&dense);
+    matrixSparse a = before;
+    M_ScalarsA2(&a, -1, 2, 5.0);
+    M_ScalarsA2(&a, 2, -1, 5.0);
+    M_ScalarsA2(&a, -2, -2, 5.0);
+    EXPECT_TRUE(sameStorage(a, before));
+    M_ScalarsA2(&a, 0, 0, 5.0);
+    EXPECT_TRUE(sameStorage(a, matrixSparse(0, 0, 0.0, false)));
+}
+
 TEST(ElementWise, SparseTablesTimesANumber)
 {
     auto dense = tableOf({{1.0, 0.0, MISSING_DBL}, {0.0, 2.0, 1e-10}});

@@ -41,7 +41,10 @@ KORVEL_API void M_ScalarsA(matrixSparse* A, int n, int p, double s, matrixSparse
  */
 KORVEL_API void M_ScalarsA2(matrix<double>* A, int n, int p, double s);
 
-/** The same on a sparse table, which becomes `n` by `p`. @throws std::bad_alloc when memory is short */
+/**
+ * The same on a sparse table, which becomes `n` by `p`, or stays as it is when a count is below 0.
+ * @throws std::bad_alloc when memory is short
+ */
 KORVEL_API void M_ScalarsA2(matrixSparse* A, int n, int p, double s);
 
 /**

@@ -7,7 +7,8 @@
  * The columns of a row of the result stand in reverse order of first touch, and a sum that cancels is stored
  * as an entry that is 0. Each sum runs from 0.0 over the entries of the left row as they are stored, a
  * multiplication and then an addition. A row that a table does not have is empty. Transposed tables are made
- * by `M_Transpose`, which takes only what lies inside the counts. All run on the calling thread.
+ * by `M_Transpose`, which takes only what lies inside the counts. All run on the calling thread. A result of
+ * fewer than 0 rows or columns is left as it is, and without terms it has no entries.
  *
  * A result is replaced, and may be one of the tables that are read. It throws `std::bad_alloc` when memory is
  * short and `std::length_error` when it would have more than 2147483647 entries; it is then as it was, except
