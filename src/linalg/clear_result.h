@@ -1,6 +1,6 @@
 /**
  * @file
- * What a result is before its sums start from zeros.
+ * Clears a result before sums are stored in it.
  */
 #ifndef KORVEL_LINALG_CLEAR_RESULT_H
 #define KORVEL_LINALG_CLEAR_RESULT_H

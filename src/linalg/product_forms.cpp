@@ -55,17 +55,17 @@ void mirror(const kernels::columns_of<double>& table, std::ptrdiff_t first, std:
     }
 }
 
-void formSymmetricProduct(const matrix<double>& table, summed way, int order, int depth, term_factors factors,
-                          matrix<double>& result)
+void formSymmetricProduct(const product_side<const matrix<double>>& side, int depth, matrix<double>& result,
+                          term_factors factors)
 {
+    const int order = side.outer();
     if (order < 1) {
         return;
     }
     depth = std::max(depth, 0);
-    const product_side side(table, way, order, depth);
-    if (side.inside() && factors.inside(depth) && order <= result.nbrows && order <= result.nbcols) {
+    if (side.inside(depth) && factors.inside(depth) && order <= result.nbrows && order <= result.nbcols) {
         kernels::product form{order, order, depth};
-        form.left = {side.places().get(), side.down()};
+        form.left = {side.places(depth).get(), side.down()};
         form.right = form.left;
         form.factors = factors.first();
         form.factorStep = factors.step();

@@ -29,8 +29,8 @@ enum class shared_out { rows, columns };
 void multiplyInTeam(const kernels::product& form, shared_out by);
 
 /**
- * Copies what was summed of a symmetric result over the other half, for rows from `first` on: of the upper
- * half element (i, j), j above i, to (j, i), of the lower half element (i, j), j below i.
+ * Copies the summed half of a symmetric result onto the other, for `count` rows from `first` on: element
+ * (i, j) to (j, i), with j above i when the upper half was summed, and below i when the lower one was.
  */
 void mirror(const kernels::columns_of<double>& table, std::ptrdiff_t first, std::ptrdiff_t count,
             kernels::part summedHalf);
@@ -76,17 +76,15 @@ private:
     matrix<double>* column_;
 };
 
-/** Which way the elements of an operand are summed: along a row, or down a column. */
-enum class summed { along, down };
+/** Who works: the calling thread, or a team that shares out the rows of the result. */
+enum class workers { caller, team };
 
-/** One side of a product: element (o, k) of `outer` by `depth`. */
+/** One side of a product: element (o, k), o below `outer` and k below the depth of the product. */
 template <class Table>
 class product_side
 {
 public:
-    product_side(Table& table, summed way, int outer, int depth)
-        : table_(&table), down_(way == summed::down), rows_(down_ ? depth : outer),
-          cols_(down_ ? outer : depth)
+    product_side(Table& table, bool down, int outer) : table_(&table), down_(down), outer_(std::max(outer, 0))
     {
     }
 
@@ -95,16 +93,36 @@ public:
         return down_ ? reading(*table_).get(k, o) : reading(*table_).get(o, k);
     }
 
-    [[nodiscard]] bool inside() const { return reading(*table_).table(rows_, cols_).inside(); }
-    [[nodiscard]] auto places() const { return column_places<const double>(*table_, rows_, cols_); }
+    [[nodiscard]] int outer() const { return outer_; }
     [[nodiscard]] bool down() const { return down_; }
+    [[nodiscard]] bool inside(int depth) const
+    {
+        return reading(*table_).table(down_ ? depth : outer_, down_ ? outer_ : depth).inside();
+    }
+    [[nodiscard]] auto places(int depth) const
+    {
+        return column_places<const double>(*table_, down_ ? depth : outer_, down_ ? outer_ : depth);
+    }
 
 private:
     Table* table_;
     bool down_;
-    int rows_;
-    int cols_;
+    int outer_;
 };
+
+/** A table of which `rows` rows are summed along. */
+template <class Table>
+[[nodiscard]] product_side<Table> along(Table& table, int rows)
+{
+    return {table, false, rows};
+}
+
+/** A table of which `cols` columns are summed down. */
+template <class Table>
+[[nodiscard]] product_side<Table> down(Table& table, int cols)
+{
+    return {table, true, cols};
+}
 
 /** The factors of a product's terms: none, a vector, or the diagonal of a square table. */
 class term_factors
@@ -156,21 +174,23 @@ void settleResult(const View& to, int rows, int cols)
 }
 
 /**
- * Stores in element (i, j) of the result the sum over k of left(i,k) * right(j,k), on this thread or in a
- * team that shares out the rows. With a team the spare slots of the result have no meaning afterwards.
+ * Stores in element (i, j) of the result the sum over k, below `depth`, of left(i,k) * right(j,k). With a
+ * team the spare slots of the result have no meaning afterwards.
  */
 template <class Left, class Right, class Result>
-void formProduct(int rows, int cols, int depth, const product_side<Left>& left,
-                 const product_side<Right>& right, term_factors factors, Result& result, bool inTeam = false)
+void formProduct(const product_side<Left>& left, const product_side<Right>& right, int depth, Result& result,
+                 workers who = workers::caller, term_factors factors = term_factors::none())
 {
+    const int rows = left.outer();
+    const int cols = right.outer();
     if (rows < 1 || cols < 1) {
         return;
     }
     depth = std::max(depth, 0);
     const auto to = writing(result);
-    if (left.inside() && right.inside() && factors.inside(depth) && to.table(rows, cols).inside()) {
-        const auto leftPlaces = left.places();
-        const auto rightPlaces = right.places();
+    if (left.inside(depth) && right.inside(depth) && factors.inside(depth) && to.table(rows, cols).inside()) {
+        const auto leftPlaces = left.places(depth);
+        const auto rightPlaces = right.places(depth);
         const column_places<double> resultPlaces(result, rows, cols);
         kernels::product form{rows, cols, depth};
         form.left = {leftPlaces.get(), left.down()};
@@ -178,7 +198,7 @@ void formProduct(int rows, int cols, int depth, const product_side<Left>& left,
         form.factors = factors.first();
         form.factorStep = factors.step();
         form.result = resultPlaces.get();
-        inTeam ? multiplyInTeam(form, shared_out::rows) : multiply(form);
+        who == workers::team ? multiplyInTeam(form, shared_out::rows) : multiply(form);
         settleResult(to, rows, cols);
         return;
     }
@@ -190,11 +210,11 @@ void formProduct(int rows, int cols, int depth, const product_side<Left>& left,
 }
 
 /**
- * The symmetric product of `table` with itself, `order` by `order`: only the elements with j not below i are
- * summed, and each is stored at (i, j) and at (j, i). The result is taken as it is.
+ * The symmetric product of a table with itself: only the elements with j not below i are summed, and each is
+ * stored at (i, j) and at (j, i). The result is taken as it is.
  */
-void formSymmetricProduct(const matrix<double>& table, summed way, int order, int depth, term_factors factors,
-                          matrix<double>& result);
+void formSymmetricProduct(const product_side<const matrix<double>>& side, int depth, matrix<double>& result,
+                          term_factors factors = term_factors::none());
 
 } // namespace korvel
 

@@ -9,11 +9,12 @@
 namespace
 {
 
+using korvel::along;
 using korvel::clearResult;
+using korvel::down;
 using korvel::formProduct;
-using korvel::product_side;
-using korvel::summed;
 using korvel::term_factors;
+using korvel::workers;
 
 /** The checked form of the column update: columns of A times an element of B are added to a column of C. */
 void addProductChecked(const matrix<double>& A, int n, int p, const matrix<double>& B, int q,
@@ -72,19 +73,17 @@ bool allInside(const matrix<T>& A, int n, int p, const matrix<T>& B, int q, cons
     return n <= A.nbrows && p <= A.nbcols && p <= B.nbrows && q <= B.nbcols && n <= C.nbrows && q <= C.nbcols;
 }
 
-/** C = A·B' into a dense table or chunks. */
-template <class Result>
-void multiplyByTransposed(matrix<double>& A, int n, int p, matrix<double>& B, int m, Result& C)
-{
-    formProduct(n, m, p, product_side(A, summed::along, n, p), product_side(B, summed::along, m, p),
-                term_factors::none(), C);
-}
-
 } // namespace
 
 int M_ProductAB(const matrix<double>& A, int n, int p, const matrix<double>& B, int q, matrix<double>& C)
 {
-    clearResult(C, n, q);
+    // A result of just these rows is written whole by the kernel and needs no zeros first, unless an operand
+    // is its array, which the rule sets to zeros too.
+    const bool writtenWhole =
+        p > 0 && C.nbrows == n && C.data != A.data && C.data != B.data && allInside(A, n, p, B, q, C);
+    if (!writtenWhole) {
+        clearResult(C, n, q);
+    }
     if (n < 1 || p < 1 || q < 1) {
         return 0;
     }
@@ -96,7 +95,7 @@ int M_ProductAB(const matrix<double>& A, int n, int p, const matrix<double>& B, 
     form.left = {{A.data, A.nbrows}, false};
     form.right = {{B.data, B.nbrows}, true};
     form.result = {C.data, C.nbrows};
-    form.onto = true;
+    form.onto = !writtenWhole;
     korvel::multiplyInTeam(form, korvel::shared_out::columns);
     return 0;
 }
@@ -115,46 +114,41 @@ int M_ProductAB(matrix<int>* A, int n, int p, matrix<int>* B, int q, matrix<int>
 int M_ProductABSPV(matrix<double>** A, int n, int p, matrix<double>* B, int q, matrix<double>*& C)
 {
     clearResult(*C, n, q);
-    formProduct(n, q, p, product_side(A, summed::along, n, p), product_side(*B, summed::down, q, p),
-                term_factors::none(), *C, true);
+    formProduct(along(A, n), down(*B, q), p, *C, workers::team);
     return 0;
 }
 
 int M_ProductABSPV2(matrix<double>** A, int n, int p, matrix<double>** B, int q, matrix<double>** C)
 {
-    formProduct(n, q, p, product_side(A, summed::along, n, p), product_side(B, summed::down, q, p),
-                term_factors::none(), C, true);
+    formProduct(along(A, n), down(B, q), p, C, workers::team);
     return 0;
 }
 
 void M_ProductTrAB(matrix<double>* A, int n, int p, matrix<double>* B, int q, matrix<double>*& C)
 {
     clearResult(*C, p, q);
-    formProduct(p, q, n, product_side(*A, summed::down, p, n), product_side(*B, summed::down, q, n),
-                term_factors::none(), *C);
+    formProduct(down(*A, p), down(*B, q), n, *C);
 }
 
 void M_ProductATrB(matrix<double>* A, int n, int p, matrix<double>* B, int m, matrix<double>* C)
 {
     clearResult(*C, n, m);
-    multiplyByTransposed(*A, n, p, *B, m, *C);
+    formProduct(along(*A, n), along(*B, m), p, *C);
 }
 
 void M_ProductATrBSPV(matrix<double>* A, int n, int p, matrix<double>* B, int m, matrix3D<matrix<double>>* C)
 {
-    multiplyByTransposed(*A, n, p, *B, m, *C);
+    formProduct(along(*A, n), along(*B, m), p, *C);
 }
 
 void M_ProductADiagVB(matrix<double>* A, int n, int p, matrix<double>* d, matrix<double>* B, int q,
                       matrix<double>* C)
 {
-    formProduct(n, q, p, product_side(*A, summed::along, n, p), product_side(*B, summed::down, q, p),
-                term_factors::vector(*d), *C);
+    formProduct(along(*A, n), down(*B, q), p, *C, workers::caller, term_factors::vector(*d));
 }
 
 void M_ProductADiagVTrB(matrix<double>* A, int n, int p, matrix<double>* d, matrix<double>* B, int m,
                         matrix<double>* C)
 {
-    formProduct(n, m, p, product_side(*A, summed::along, n, p), product_side(*B, summed::along, m, p),
-                term_factors::vector(*d), *C);
+    formProduct(along(*A, n), along(*B, m), p, *C, workers::caller, term_factors::vector(*d));
 }

@@ -7,7 +7,6 @@ namespace
 {
 
 using korvel::product_side;
-using korvel::summed;
 
 /** The first columns of a record as a list, an empty one for each that it does not have. */
 class column_list
@@ -25,11 +24,9 @@ public:
 
     [[nodiscard]] matrix<double>**& table() { return first_; }
 
-    /** The list as one side of a product. */
-    [[nodiscard]] auto side(summed way, int outer, int depth)
-    {
-        return product_side<matrix<double>**>(first_, way, outer, depth);
-    }
+    // The list as one side of a product.
+    [[nodiscard]] auto along(int rows) { return korvel::along(first_, rows); }
+    [[nodiscard]] auto down(int cols) { return korvel::down(first_, cols); }
 
 private:
     matrix<double> nowhere_;
@@ -43,13 +40,13 @@ void reportSize(cST_MVect<double>& result, int rows, int cols)
     result.nbcols = cols;
 }
 
-/** C, `rows` by `cols`, from two lists that are summed each its way. */
-void multiplyColumns(int rows, int cols, int depth, column_list& left, summed leftWay, column_list& right,
-                     summed rightWay, cST_MVect<double>& C)
+using side = product_side<matrix<double>**>;
+
+/** C from two lists. */
+void multiplyColumns(const side& left, int rows, const side& right, int cols, int depth, cST_MVect<double>& C)
 {
     column_list result(C, cols);
-    korvel::formProduct(rows, cols, depth, left.side(leftWay, rows, depth), right.side(rightWay, cols, depth),
-                        korvel::term_factors::none(), result.table());
+    korvel::formProduct(left, right, depth, result.table());
     reportSize(C, rows, cols);
 }
 
@@ -59,7 +56,7 @@ int M_ProductAB_ST(cST_MVect<double>& A, int n, int p, cST_MVect<double>& B, int
 {
     column_list left(A, p);
     column_list right(B, q);
-    multiplyColumns(n, q, p, left, summed::along, right, summed::down, C);
+    multiplyColumns(left.along(n), n, right.down(q), q, p, C);
     return 0;
 }
 
@@ -67,14 +64,14 @@ void M_ProductTrAB_ST(cST_MVect<double>& A, int n, int p, cST_MVect<double>& B, 
 {
     column_list left(A, p);
     column_list right(B, q);
-    multiplyColumns(p, q, n, left, summed::down, right, summed::down, C);
+    multiplyColumns(left.down(p), p, right.down(q), q, n, C);
 }
 
 void M_ProductATrB_ST(cST_MVect<double>& A, int n, int p, cST_MVect<double>& B, int m, cST_MVect<double>& C)
 {
     column_list left(A, p);
     column_list right(B, p);
-    multiplyColumns(n, m, p, left, summed::along, right, summed::along, C);
+    multiplyColumns(left.along(n), n, right.along(m), m, p, C);
 }
 
 void M_ProductABTrA_ST(cST_MVect<double>& A, int n, int p, cST_MVect<double>& B, short int symmetric,
@@ -84,7 +81,7 @@ void M_ProductABTrA_ST(cST_MVect<double>& A, int n, int p, cST_MVect<double>& B,
     column_list inner(B, p);
     column_list result(C, n);
     const auto how = symmetric == -1 ? korvel::extent::mirrored : korvel::extent::whole;
-    korvel::formRowByRow(n, p, p, n, outer.side(summed::along, n, p), inner.side(summed::down, p, p),
-                         outer.side(summed::along, n, p), result.table(), how, korvel::workers::caller);
+    korvel::formRowByRow(outer.along(n), inner.down(p), outer.along(n), p, result.table(), how,
+                         korvel::workers::caller);
     reportSize(C, n, n);
 }

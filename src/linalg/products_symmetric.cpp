@@ -7,13 +7,13 @@
 #include <algorithm>
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 
 namespace
 {
 
 using korvel::clearResult;
 using korvel::formSymmetricProduct;
-using korvel::summed;
 using korvel::term_factors;
 using korvel::withCells;
 
@@ -33,7 +33,10 @@ T converted(double sum)
     }
 }
 
-/** The symmetric product of a table of integers with itself, summed along its rows or down its columns. */
+/** Which way a table of integers is summed. */
+enum class summed { along, down };
+
+/** The symmetric product of a table of integers with itself. */
 template <class T>
 void multiplyIntegers(const matrix<int>& A, int rows, int cols, summed way, matrix<T>& C)
 {
@@ -63,14 +66,14 @@ void multiplyIntegers(const matrix<int>& A, int rows, int cols, summed way, matr
 void M_ProductTrAA(matrix<double>* A, int n, int p, matrix<double>* C)
 {
     clearResult(*C, p, p);
-    formSymmetricProduct(*A, summed::down, p, n, term_factors::none(), *C);
+    formSymmetricProduct(korvel::down(std::as_const(*A), p), n, *C);
 }
 
 void M_ProductTrAA(matrix<double>* A, int n, int p, matrix<int>* C)
 {
     clearResult(*C, p, p);
     matrix<double> sums(std::max(p, 0), p, 0.0);
-    formSymmetricProduct(*A, summed::down, p, n, term_factors::none(), sums);
+    formSymmetricProduct(korvel::down(std::as_const(*A), p), n, sums);
     for (int i = 0; i < p; ++i) {
         for (int j = i; j < p; ++j) {
             const int sum = korvel::truncateToInt(sums.getElement(i, j));
@@ -93,7 +96,7 @@ void M_ProductTrAA(matrix<int>* A, int n, int p, matrix<int>* C)
 void M_ProductATrA(matrix<double>* A, int n, int p, matrix<double>* C)
 {
     clearResult(*C, n, n);
-    formSymmetricProduct(*A, summed::along, n, p, term_factors::none(), *C);
+    formSymmetricProduct(korvel::along(std::as_const(*A), n), p, *C);
 }
 
 void M_ProductATrA(matrix<int>* A, int n, int p, matrix<double>*& C)
@@ -104,21 +107,21 @@ void M_ProductATrA(matrix<int>* A, int n, int p, matrix<double>*& C)
 void M_ProductADTrA(matrix<double>* A, int n, int p, matrix<double>* D, matrix<double>* C)
 {
     clearResult(*C, n, n);
-    formSymmetricProduct(*A, summed::along, n, p, term_factors::diagonal(*D), *C);
+    formSymmetricProduct(korvel::along(std::as_const(*A), n), p, *C, term_factors::diagonal(*D));
 }
 
 void M_ProductTrADA(matrix<double>* A, int n, int p, matrix<double>* D, matrix<double>* C)
 {
     clearResult(*C, p, p);
-    formSymmetricProduct(*A, summed::down, p, n, term_factors::diagonal(*D), *C);
+    formSymmetricProduct(korvel::down(std::as_const(*A), p), n, *C, term_factors::diagonal(*D));
 }
 
 void M_ProductTrADiagVA(matrix<double>* A, int n, int p, matrix<double>* d, matrix<double>* C)
 {
-    formSymmetricProduct(*A, summed::down, p, n, term_factors::vector(*d), *C);
+    formSymmetricProduct(korvel::down(std::as_const(*A), p), n, *C, term_factors::vector(*d));
 }
 
 void M_ProductADiagVTrA(matrix<double>* A, int n, int p, matrix<double>* d, matrix<double>* C)
 {
-    formSymmetricProduct(*A, summed::along, n, p, term_factors::vector(*d), *C);
+    formSymmetricProduct(korvel::along(std::as_const(*A), n), p, *C, term_factors::vector(*d));
 }

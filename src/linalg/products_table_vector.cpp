@@ -7,28 +7,27 @@
 namespace
 {
 
+using korvel::along;
+using korvel::down;
 using korvel::readVector;
-using korvel::summed;
-using korvel::term_factors;
 using korvel::withCells;
 
 /** y(o) = the sum over k of the table's element (o, k) times v(k). */
-void multiplyByVector(const matrix<double>& table, summed way, int outer, int depth, matrix<double>& v,
+void multiplyByVector(const korvel::product_side<matrix<double>>& table, int depth, matrix<double>& v,
                       matrix<double>& y)
 {
     korvel::vector_column vector(v);
     korvel::vector_column result(y);
     auto* const factors = vector.table();
     auto* const sums = result.table();
-    korvel::formProduct(outer, 1, depth, korvel::product_side(table, way, outer, depth),
-                        korvel::product_side(factors, summed::down, 1, depth), term_factors::none(), sums);
+    korvel::formProduct(table, down(factors, 1), depth, sums);
 }
 
 } // namespace
 
 int M_ProductBV(matrix<double>* B, int n, int p, matrix<double>* v, matrix<double>* y)
 {
-    multiplyByVector(*B, summed::along, n, p, *v, *y);
+    multiplyByVector(along(*B, n), p, *v, *y);
     return 0;
 }
 
@@ -55,12 +54,12 @@ void M_ProductVB(matrix<double>* v, int n, matrix<double>* B, int q, matrix<doub
 
 void M_ProductTrBV(matrix<double>* B, int n, int p, matrix<double>* v, matrix<double>* y)
 {
-    multiplyByVector(*B, summed::down, p, n, *v, *y);
+    multiplyByVector(down(*B, p), n, *v, *y);
 }
 
 void M_ProductVTrB(matrix<double>* v, int n, matrix<double>* B, int m, matrix<double>* y)
 {
-    multiplyByVector(*B, summed::along, m, n, *v, *y);
+    multiplyByVector(along(*B, m), n, *v, *y);
 }
 
 double M_ProductTrV1BV2(matrix<double>* x1, int n, matrix<double>* B, matrix<double>* x2)

@@ -8,27 +8,29 @@ namespace korvel
 namespace
 {
 
-/** Rows of the first product that are in scratch at once: enough to pay for laying out the operands anew. */
-constexpr std::ptrdiff_t rowsAtOnce = 64;
+// The block of the first product that is in scratch at once, whatever the tables: large enough to pay for
+// laying the operands out anew, and small enough for the second cache.
+constexpr std::ptrdiff_t blockRows = 72;
+constexpr std::ptrdiff_t blockColumns = 448;
 
-/** What some rows of the result take: the rows of the first product in scratch, and then those of the second.
- */
-struct piece {
+/** A block of the first product, and what it adds to the result. */
+struct step {
     kernels::product first;
     kernels::product second;
 };
 
-piece pieceOf(const row_by_row& form, stretch rows, double* scratch)
+step stepOf(const row_by_row& form, stretch rows, stretch middle, double* scratch)
 {
-    const std::ptrdiff_t stride = std::min(form.rows, rowsAtOnce);
-    kernels::product first{rows.count, form.middle, form.depth};
+    const kernels::columns_of<double> block{scratch, rows.count};
+    kernels::product first{rows.count, middle.count, form.depth};
     first.left = form.first.after(rows.first);
-    first.right = form.second;
-    first.result = {scratch, stride};
-    kernels::product second{rows.count, form.cols, form.middle};
-    second.left = {{scratch, stride}, false};
-    second.right = form.third;
+    first.right = form.second.after(middle.first);
+    first.result = block;
+    kernels::product second{rows.count, form.cols, middle.count};
+    second.left = {{block.first, block.stride}, false};
+    second.right = form.third.afterTerms(middle.first);
     second.result = form.result.afterRows(rows.first);
+    second.onto = middle.first > 0;
     if (form.summedPart == extent::mirrored) {
         second.kept = kernels::part::lower;
         second.rowsBefore = rows.first;
@@ -36,28 +38,41 @@ piece pieceOf(const row_by_row& form, stretch rows, double* scratch)
     return {first, second};
 }
 
+/** Some rows of the result. */
+void formRows(const row_by_row& form, stretch rows, double* scratch, double* kernelScratch)
+{
+    const kernels::product_kernel& kernel = kernels::productKernel();
+    // Pieces of about equal length, and one without terms when there is nothing to sum.
+    const auto pieces =
+        static_cast<int>(std::max<std::ptrdiff_t>((form.middle + blockColumns - 1) / blockColumns, 1));
+    for (int piece = 0; piece < pieces; ++piece) {
+        const step now = stepOf(form, rows, shareOf(form.middle, piece, pieces), scratch);
+        kernel.multiply(now.first, kernelScratch);
+        kernel.multiply(now.second, kernelScratch);
+    }
+    if (form.summedPart == extent::mirrored) {
+        mirror(form.result, rows.first, rows.count, kernels::part::lower);
+    }
+}
+
 } // namespace
 
 void multiplyRowByRow(const row_by_row& form, workers who)
 {
     const kernels::product_kernel& kernel = kernels::productKernel();
-    const std::ptrdiff_t stride = std::min(form.rows, rowsAtOnce);
-    const auto rowSpace = static_cast<std::size_t>(stride * form.middle);
-    const piece largest = pieceOf(form, {0, stride}, nullptr);
+    const stretch mostRows{0, std::min(form.rows, blockRows)};
+    const stretch mostColumns{0, std::min(form.middle, blockColumns)};
+    const auto blockSize = static_cast<std::size_t>(mostRows.count * mostColumns.count);
+    const step largest = stepOf(form, mostRows, mostColumns, nullptr);
     const std::size_t size =
-        rowSpace + std::max(kernel.scratchSize(largest.first), kernel.scratchSize(largest.second));
+        blockSize + std::max(kernel.scratchSize(largest.first), kernel.scratchSize(largest.second));
     const scratch_space space(size, who == workers::team ? mostThreads() : 1);
     const auto work = [&](int thread, stretch share) {
         double atHand[scratch_space::smallSize];
         double* const scratch = space.of(thread, atHand);
-        for (std::ptrdiff_t done = 0; done < share.count; done += rowsAtOnce) {
-            const stretch rows{share.first + done, std::min(rowsAtOnce, share.count - done)};
-            const piece now = pieceOf(form, rows, scratch);
-            kernel.multiply(now.first, scratch + rowSpace);
-            kernel.multiply(now.second, scratch + rowSpace);
-            if (form.summedPart == extent::mirrored) {
-                mirror(form.result, rows.first, rows.count, kernels::part::lower);
-            }
+        for (std::ptrdiff_t done = 0; done < share.count; done += blockRows) {
+            const stretch rows{share.first + done, std::min(blockRows, share.count - done)};
+            formRows(form, rows, scratch, scratch + blockSize);
         }
     };
     if (who == workers::team) {

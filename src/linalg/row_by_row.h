@@ -1,7 +1,7 @@
 /**
  * @file
- * Products of three tables that form the rows of the first product in scratch, some at a time, and use them
- * up at once.
+ * Products of three tables, of which the first two are multiplied in scratch, a small block at a time: the
+ * product with the third is formed from it before the next block takes its place.
  */
 #ifndef KORVEL_LINALG_ROW_BY_ROW_H
 #define KORVEL_LINALG_ROW_BY_ROW_H
@@ -12,9 +12,6 @@
 
 namespace korvel
 {
-
-/** Who forms the rows of the result. */
-enum class workers { caller, team };
 
 /** How much of a result is summed: all of it, or the half below the diagonal, which is then mirrored. */
 enum class extent { whole, mirrored };
@@ -38,23 +35,27 @@ struct row_by_row {
 /** Forms the product in the kernel. */
 void multiplyRowByRow(const row_by_row& form, workers who);
 
-/** The same on any tables: in the kernel when all cells lie inside them, otherwise through the checked access
- * on the calling thread. */
+/**
+ * The same on any tables, the first and the second summed over `depth` terms: in the kernel when all cells
+ * lie inside the tables, otherwise through the checked access on the calling thread.
+ */
 template <class First, class Second, class Third, class Result>
-void formRowByRow(int rows, int depth, int middle, int cols, const product_side<First>& first,
-                  const product_side<Second>& second, const product_side<Third>& third, Result& result,
-                  extent summedPart, workers who)
+void formRowByRow(const product_side<First>& first, const product_side<Second>& second,
+                  const product_side<Third>& third, int depth, Result& result, extent summedPart, workers who)
 {
+    const int rows = first.outer();
+    const int middle = second.outer();
+    const int cols = third.outer();
     if (rows < 1 || cols < 1) {
         return;
     }
     depth = std::max(depth, 0);
-    middle = std::max(middle, 0);
     const auto to = writing(result);
-    if (first.inside() && second.inside() && third.inside() && to.table(rows, cols).inside()) {
-        const auto firstPlaces = first.places();
-        const auto secondPlaces = second.places();
-        const auto thirdPlaces = third.places();
+    if (first.inside(depth) && second.inside(depth) && third.inside(middle) &&
+        to.table(rows, cols).inside()) {
+        const auto firstPlaces = first.places(depth);
+        const auto secondPlaces = second.places(depth);
+        const auto thirdPlaces = third.places(middle);
         const column_places<double> resultPlaces(result, rows, cols);
         multiplyRowByRow({rows,
                           depth,

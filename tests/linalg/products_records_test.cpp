@@ -2,6 +2,7 @@
 
 #include "linalg/product_members.h"
 #include "reference/products.h"
+#include "support/sparse_tables.h"
 
 using namespace korvel::test;
 
@@ -110,4 +111,39 @@ TEST(RecordProducts, ReachNoColumnThatIsNotThere)
     M_ProductABTrA_ST(A, 2, 1, C, 0, D);
     EXPECT_TRUE(sameBits(D.Vectors[0].Vect.data[0], 90.0));
     EXPECT_TRUE(sameBits(D.Vectors[0].Vect.data[1], 150.0));
+}
+
+TEST(RecordProducts, TakeCountsBelowNone)
+{
+    const table zeros(2, 2, 0.0);
+    const table nines(2, 2, 9.0);
+    auto A = recordOf(tableOf({{1, 2}, {3, 4}}));
+    const auto expectEach = [&](int n, int p, int q, const table& expected) {
+        const auto expectCells = [&](auto form) {
+            auto result = recordOf(nines);
+            form(result);
+            for (int j = 0; j < 2; ++j) {
+                const double* const column = expected.data + 2 * j;
+                EXPECT_TRUE(sameTables(result.Vectors[static_cast<std::size_t>(j)].Vect,
+                                       vectorOf<double>({column[0], column[1]})))
+                    << n << ' ' << p << ' ' << q;
+            }
+        };
+        expectCells([&](auto& C) { EXPECT_EQ(M_ProductAB_ST(A, n, p, A, q, C), 0); });
+        expectCells([&](auto& C) { M_ProductTrAB_ST(A, p, n, A, q, C); });
+        expectCells([&](auto& C) { M_ProductATrB_ST(A, n, p, A, q, C); });
+    };
+    expectEach(2, -1, 2, zeros);
+    expectEach(2, -7, 2, zeros);
+    expectEach(-1, 2, 2, nines);
+    expectEach(2, 2, -1, nines);
+    expectEach(-1, -1, -1, nines);
+    for (const short int symmetric : {short{0}, short{-1}}) {
+        auto result = recordOf(nines);
+        M_ProductABTrA_ST(A, -1, 2, A, symmetric, result);
+        EXPECT_TRUE(sameTables(result.Vectors[0].Vect, vectorOf<double>({9.0, 9.0})));
+        M_ProductABTrA_ST(A, 2, -1, A, symmetric, result);
+        EXPECT_TRUE(sameTables(result.Vectors[0].Vect, vectorOf<double>({0.0, 0.0})));
+        EXPECT_TRUE(sameTables(result.Vectors[1].Vect, vectorOf<double>({0.0, 0.0})));
+    }
 }

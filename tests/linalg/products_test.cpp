@@ -189,3 +189,30 @@ TEST(Products, IntoChunksTakeThemAsTheyAre)
     EXPECT_TRUE(sameTables(one, vectorOf<double>({7})));
     EXPECT_TRUE(sameTables(three, vectorOf<double>({10, 22, 9})));
 }
+
+TEST(Products, OfChunksTakeCountsBelowNone)
+{
+    const table zeros(2, 2, 0.0);
+    const table nines(2, 2, 9.0);
+    table B = tableOf({{1, 2}, {3, 4}});
+    chunk_places A(B);
+    const auto expectEach = [&](int n, int p, int q, const table& expected) {
+        table C = nines;
+        table* result = &C;
+        EXPECT_EQ(M_ProductABSPV(A.get(), n, p, &B, q, result), 0);
+        EXPECT_TRUE(sameTables(C, expected)) << n << ' ' << p << ' ' << q;
+        chunk_places chunks(nines);
+        EXPECT_EQ(M_ProductABSPV2(A.get(), n, p, A.get(), q, chunks.get()), 0);
+        chunks.copyTo(C);
+        EXPECT_TRUE(sameTables(C, expected)) << n << ' ' << p << ' ' << q;
+        auto slices = chunksOf<table>(nines);
+        M_ProductATrBSPV(&B, n, p, &B, q, &slices);
+        copyChunks(slices, C);
+        EXPECT_TRUE(sameTables(C, expected)) << n << ' ' << p << ' ' << q;
+    };
+    expectEach(2, -1, 2, zeros);
+    expectEach(2, -7, 2, zeros);
+    expectEach(-1, 2, 2, nines);
+    expectEach(2, 2, -1, nines);
+    expectEach(-1, -1, -1, nines);
+}

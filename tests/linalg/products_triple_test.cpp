@@ -2,6 +2,7 @@
 
 #include "linalg/product_members.h"
 #include "reference/products.h"
+#include "support/allocations.h"
 #include "support/sparse_tables.h"
 
 using namespace korvel::test;
@@ -118,4 +119,57 @@ TEST(TripleProducts, KeepTheirResultsShape)
     matrix<double> C(2, 2, 9.0);
     M_ProductABTrA(A, 1, 2, B, false, C);
     EXPECT_TRUE(sameTables(C, tableOf({{5, 9}, {9, 9}})));
+}
+
+namespace
+{
+
+constexpr int wide = 400'000;
+constexpr int threads = 8;
+
+/** What a call asks for, in doubles. */
+template <class Call>
+std::int64_t doublesFor(Call call)
+{
+    const std::int64_t before = bytesAllocated();
+    call();
+    return (bytesAllocated() - before) / static_cast<std::int64_t>(sizeof(double));
+}
+
+} // namespace
+
+TEST(TripleProducts, OfATeamTakeNoMoreThanARowForEachThread)
+{
+    const team_of team(threads);
+    matrix<double> tall(64, 1, 0.5);
+    matrix<double> row(1, wide, 2.0);
+    matrix<double> column(wide, 1, 3.0);
+    matrix<double> D(64, 1, 0.0);
+    EXPECT_LE(doublesFor([&] { M_ProductABC(&tall, 64, 1, &row, wide, &column, 1, &D); }),
+              std::int64_t{threads} * wide);
+    EXPECT_TRUE(sameBits(D.data[63], 3.0 * wide));
+}
+
+TEST(TripleProducts, WithAVectorTakeNoMoreThanARow)
+{
+    matrix<double> few(1, 100, 0.5);
+    matrix<double> row(1, wide, 2.0);
+    matrix<double> v(wide, 1, 3.0);
+    matrix<double> y(100, 1, 0.0);
+    EXPECT_LE(doublesFor([&] { M_ProductTrABV(&few, 1, 100, &row, wide, &v, &y); }), wide);
+    EXPECT_TRUE(sameBits(y.data[99], 3.0 * wide));
+}
+
+TEST(TripleProducts, HaveTheBitsOfThePlainLoopOverSeveralBlocks)
+{
+    const team_of team(2);
+    random_cells cells(31, odd_cells::missing_and_zeros);
+    for (const auto& member : members()) {
+        for (const counts sizes : {counts{73, 460, 449, 7}, counts{449, 74, 448, 9}, counts{72, 5, 447, 3},
+                                   counts{145, 450, 897, 2}}) {
+            const counts used{sizes.n, sizes.p, member.usesQ ? sizes.q : 0, sizes.r};
+            operands tables = randomOperands(member, used, cells);
+            ASSERT_NO_FATAL_FAILURE(expectTwins(member, used, tables, member.written(used))) << member.name;
+        }
+    }
 }

@@ -11,6 +11,7 @@ constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
 
 thread_local std::int64_t made = 0;
 thread_local std::int64_t freed = 0;
+thread_local std::int64_t bytes = 0;
 thread_local std::int64_t madeAtMost = unlimited;
 
 } // namespace
@@ -21,6 +22,11 @@ namespace korvel::test
 std::int64_t allocationCount()
 {
     return made;
+}
+
+std::int64_t bytesAllocated()
+{
+    return bytes;
 }
 
 std::int64_t allocationsAlive()
@@ -51,6 +57,7 @@ void* operator new(std::size_t size)
         throw std::bad_alloc();
     }
     ++made;
+    bytes += static_cast<std::int64_t>(size);
     return block;
 }
 

@@ -57,6 +57,12 @@ struct operand {
     {
         return {sumsDownColumns ? columns.afterColumns(count) : columns.afterRows(count), sumsDownColumns};
     }
+
+    /** The operand from element (0, `count`) on. */
+    [[nodiscard]] operand afterTerms(std::ptrdiff_t count) const
+    {
+        return {sumsDownColumns ? columns.afterRows(count) : columns.afterColumns(count), sumsDownColumns};
+    }
 };
 
 /** Which elements of the result are summed and stored. */
