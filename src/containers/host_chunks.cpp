@@ -2,6 +2,7 @@
 
 #include "containers/bstr.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <span>
 
@@ -26,7 +27,7 @@ template <class T, class MakeChunk>
 matrix<T>** loadColumns(Hostarray** a, int n, int rows, int cols, SAFEARRAY* Hostarray::*column,
                         MakeChunk makeChunk)
 {
-    auto** const chunks = new matrix<T>*[static_cast<std::size_t>(n)]();
+    auto** const chunks = new matrix<T>*[static_cast<std::size_t>(std::max(n, 0))]();
     auto** chunk = chunks;
     for (const Hostarray& record : recordsOf(a, n)) {
         const SAFEARRAY* array = record.*column;

@@ -57,7 +57,7 @@ std::vector<SAFEARRAY*> numericColumns(const void* block, std::size_t n)
 template <class M>
 matrix3D<M>::matrix3D(int n, Hostarray** a) requires std::same_as<M, matrix<double>>
 {
-    const auto count = static_cast<std::size_t>(n);
+    const auto count = static_cast<std::size_t>(std::max(n, 0));
     this->chunks.resize(count);
     const SAFEARRAY* array = *reinterpret_cast<SAFEARRAY**>(a);
     if (array == nullptr || array->pvData == nullptr) {
@@ -72,7 +72,7 @@ matrix3D<M>::matrix3D(int n, Hostarray** a) requires std::same_as<M, matrix<doub
 template <class M>
 matrix3D<M>::matrix3D(int n, int rows, int, double value) requires std::derived_from<M, matrix<double>>
 {
-    this->chunks.reserve(static_cast<std::size_t>(n));
+    this->chunks.reserve(static_cast<std::size_t>(std::max(n, 0)));
     for (int k = 0; k < n; ++k) {
         this->chunks.emplace_back(rows, 1, value);
     }

@@ -154,6 +154,20 @@ TEST(LoadHostarray, GivesAnArrayOfNoPointersForNoRecords)
     DeleteHostarray(chunks, 0);
 }
 
+TEST(LoadHostarray, TakesACountBelowNoneForNone)
+{
+    caller_table table;
+    table.set({{table.memory.array(numbers{1.0, 2.0}), table.memory.texts({u"a", u"b"})}});
+    const std::int64_t before = allocationsAlive();
+    for (const int n : {-1, -2147483647 - 1}) {
+        DeleteHostarray(LoadHostarray(table.reference(), n, 2, 1), n);
+        matrix<text>** texts = LoadHostarrayStr(table.reference(), n, 2, 1);
+        SaveHostarray(texts, n, 0, table.reference());
+        DeleteHostarrayStr(texts, n);
+    }
+    EXPECT_EQ(allocationsAlive(), before);
+}
+
 TEST(LoadHostarray, PassesAFailedAllocationOn)
 {
     caller_table table;

@@ -51,6 +51,16 @@ std::intptr_t placeOf(Member member)
 
 } // namespace
 
+TEST(Matrix3D, TakesACountBelowNoneForNone)
+{
+    SAFEARRAY* none = nullptr;
+    for (const int n : {0, -1, -2147483647 - 1}) {
+        EXPECT_TRUE((matrix3D<matrix<double>>(n, reinterpret_cast<Hostarray**>(&none)).chunks.empty()));
+        EXPECT_TRUE((matrix3D<matrix<double>>(n, 2, n, 7.0).chunks.empty()));
+        EXPECT_TRUE((matrix3D<statistics_matrix<double>>(n, 2, n, 7.0).chunks.empty()));
+    }
+}
+
 TEST(Matrix3D, HasFourVirtualOperationsInTheirOrder)
 {
     using base = matrix3DBase<matrix<double>>;

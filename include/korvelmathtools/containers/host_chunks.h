@@ -17,7 +17,7 @@
  * Makes a chunk for each numeric column.
  *
  * @param a    reference to the host array of records, which may be null or have no block
- * @param n    number of records
+ * @param n    number of records; below 0 as 0
  * @param rows rows of each chunk
  * @param cols columns of each chunk. 0 stands for one column in a triangular table: every chunk made has one
  * row less than the one made before it

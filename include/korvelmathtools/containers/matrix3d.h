@@ -52,7 +52,7 @@ public:
     /**
      * The caller's columns, in place.
      *
-     * @param n number of columns
+     * @param n number of columns; below 0 as 0
      * @param a reference to a host array. Its block holds either `n` records of 16 bytes, or `n` pointers to
      * the host arrays of the columns. Which of the two is guessed: when any of the first `n` words of 8 bytes
      * is null, they are records, since a record of a numeric column has no text column; otherwise they are
@@ -65,8 +65,8 @@ public:
     KORVEL_API matrix3D(int n, Hostarray** a) requires std::same_as<M, matrix<double>>;
 
     /**
-     * `n` chunks of their own of `rows` by 1, every element `value`. The third argument is not used; callers
-     * pass `n` again.
+     * `n` chunks of their own of `rows` by 1, every element `value`; none when `n` is below 0. The third
+     * argument is not used; callers pass `n` again.
      * @throws std::bad_alloc when memory is short
      */
     KORVEL_API matrix3D(int n, int rows, int ignored,
