@@ -11,65 +11,72 @@
 #define KORVEL_STATISTICS_PAIRS_H
 
 #include "containers/missing.h"
+#include "platform/lanes.h"
 #include "statistics/stand_ins.h"
 
 #include <cstdint>
-#include <cstring>
-#include <emmintrin.h>
 #include <type_traits>
 
 namespace korvel
 {
 
 /** Two neighbouring elements, or for each of two elements all bits set or none. */
-using pair = __m128d;
+using pair = lanes::doubles<2>;
+
+/** For each of two elements all bits or none, of a comparison. */
+inline pair pairOf(lanes::mask<2> chosen)
+{
+    return reinterpret_cast<pair>(chosen);
+}
+
+/** The same for `lanes`. */
+inline lanes::mask<2> maskOf(pair chosen)
+{
+    return reinterpret_cast<lanes::mask<2>>(chosen);
+}
 
 /** Elements `i` and `i + 1`. */
 inline pair pairAt(const double* cells, std::int64_t i)
 {
-    return _mm_loadu_pd(cells + i);
+    return lanes::load<2>(cells + i);
 }
 inline pair pairAt(const int* cells, std::int64_t i)
 {
-    return _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(cells + i)));
+    return lanes::load<2>(cells + i);
 }
 template <class Checked>
 requires std::is_class_v<Checked> pair pairAt(const Checked& cells, std::int64_t i)
 {
-    return _mm_setr_pd(cells[i], cells[i + 1]);
+    return pair{static_cast<double>(cells[i]), static_cast<double>(cells[i + 1])};
 }
 inline pair pairAt(unit_weights, std::int64_t)
 {
-    return _mm_set1_pd(1.0);
+    return lanes::everywhere<2>(1.0);
 }
 
 /** For flags: whether the elements are to be kept. */
 inline pair pairAt(const short int* flags, std::int64_t i)
 {
-    std::int32_t both = 0;
-    std::memcpy(&both, flags + i, sizeof both);
-    const __m128i clear = _mm_cmpeq_epi16(_mm_cvtsi32_si128(both), _mm_setzero_si128());
-    const __m128i doubled = _mm_unpacklo_epi16(clear, clear);
-    return _mm_castsi128_pd(_mm_unpacklo_epi32(doubled, doubled));
+    return pairOf(lanes::areClear<2>(flags + i));
 }
 inline pair pairAt(no_flags, std::int64_t)
 {
-    return _mm_castsi128_pd(_mm_set1_epi32(-1));
+    return pairOf(lanes::everyLane<2>(true));
 }
 
 /** Element `i` in both places, for the last one of an odd number. */
 inline pair twice(const double* cells, std::int64_t i)
 {
-    return _mm_set1_pd(cells[i]);
+    return lanes::everywhere<2>(cells[i]);
 }
 inline pair twice(const int* cells, std::int64_t i)
 {
-    return _mm_set1_pd(cells[i]);
+    return lanes::everywhere<2>(cells[i]);
 }
 template <class Checked>
 requires std::is_class_v<Checked> pair twice(const Checked& cells, std::int64_t i)
 {
-    return _mm_set1_pd(cells[i]);
+    return lanes::everywhere<2>(cells[i]);
 }
 inline pair twice(unit_weights weights, std::int64_t i)
 {
@@ -77,7 +84,7 @@ inline pair twice(unit_weights weights, std::int64_t i)
 }
 inline pair twice(const short int* flags, std::int64_t i)
 {
-    return _mm_castsi128_pd(_mm_set1_epi32(flags[i] == 0 ? -1 : 0));
+    return pairOf(lanes::everyLane<2>(flags[i] == 0));
 }
 inline pair twice(no_flags flags, std::int64_t i)
 {
@@ -93,8 +100,7 @@ template <class T>
 void fetchAhead(const T* cells, std::int64_t i)
 {
     constexpr std::uintptr_t page = 4096;
-    _mm_prefetch(reinterpret_cast<const char*>(reinterpret_cast<std::uintptr_t>(cells + i) + page),
-                 _MM_HINT_T0);
+    lanes::prefetch(reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(cells + i) + page));
 }
 template <class Other>
 requires std::is_class_v<Other>
@@ -125,18 +131,24 @@ std::int64_t forEachPair(std::int64_t first, std::int64_t last, Step step, const
 /** Whether each element is present, that is, differs from the sentinel. */
 inline pair present(pair x)
 {
-    return _mm_cmpneq_pd(x, _mm_set1_pd(MISSING_DBL));
+    return pairOf(x != MISSING_DBL);
 }
 
 /** Each element that is kept, and +0.0 in the place of the others. */
 inline pair only(pair kept, pair x)
 {
-    return _mm_and_pd(kept, x);
+    return lanes::only(maskOf(kept), x);
 }
 
 inline pair absolute(pair x)
 {
-    return _mm_andnot_pd(_mm_set1_pd(-0.0), x);
+    return lanes::absolute(x);
+}
+
+/** Whether one of the two is chosen. */
+inline bool any(pair chosen)
+{
+    return lanes::any(maskOf(chosen));
 }
 
 /**

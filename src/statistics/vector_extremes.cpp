@@ -9,12 +9,15 @@
 namespace
 {
 
+using korvel::any;
 using korvel::only;
 using korvel::pair;
 using korvel::pairAt;
 using korvel::present;
 using korvel::twice;
 using korvel::withCells;
+namespace lanes = korvel::lanes;
+using lanes::any;
 
 struct extremes {
     double smallest;
@@ -35,16 +38,15 @@ struct lane_extremes {
     /** An element that does not take part becomes a NaN, which never wins. */
     void offer(pair x, pair kept)
     {
-        const pair allBits = pairAt(korvel::no_flags{}, 0);
-        const pair candidate = _mm_or_pd(x, _mm_andnot_pd(kept, allBits));
-        smallest = _mm_min_pd(candidate, smallest);
-        largest = _mm_max_pd(candidate, largest);
+        const pair candidate = lanes::onlyOrNaN(korvel::maskOf(kept), x);
+        smallest = lanes::smaller(candidate, smallest);
+        largest = lanes::larger(candidate, largest);
     }
 
     void join(const lane_extremes& other)
     {
-        smallest = _mm_min_pd(other.smallest, smallest);
-        largest = _mm_max_pd(other.largest, largest);
+        smallest = lanes::smaller(other.smallest, smallest);
+        largest = lanes::larger(other.largest, largest);
     }
 };
 
@@ -53,7 +55,7 @@ template <class Cells, class Flags, class Kept>
 int firstKept(Cells x, int n, Flags flags, Kept kept)
 {
     int i = 0;
-    while (i < n && _mm_movemask_pd(kept(twice(x, i), twice(flags, i))) == 0) {
+    while (i < n && !any(kept(twice(x, i), twice(flags, i)))) {
         ++i;
     }
     return i;
@@ -84,13 +86,13 @@ extremes extremesFrom(int first, Cells x, int n, Flags flags, Kept kept)
 
     const auto signedAsFirst = [&](double value) {
         int k = first;
-        while (value == 0.0 && !(x[k] == 0.0 && _mm_movemask_pd(kept(twice(x, k), twice(flags, k))) != 0)) {
+        while (value == 0.0 && !(x[k] == 0.0 && any(kept(twice(x, k), twice(flags, k))))) {
             ++k;
         }
         return value == 0.0 ? static_cast<double>(x[k]) : value;
     };
-    const pair low = _mm_min_pd(even.smallest, _mm_unpackhi_pd(even.smallest, even.smallest));
-    const pair high = _mm_max_pd(even.largest, _mm_unpackhi_pd(even.largest, even.largest));
+    const pair low = lanes::smaller(even.smallest, lanes::secondOf(even.smallest, even.smallest));
+    const pair high = lanes::larger(even.largest, lanes::secondOf(even.largest, even.largest));
     return {signedAsFirst(low[0]), signedAsFirst(high[0])};
 }
 
@@ -152,7 +154,7 @@ double withPosition(const matrix<T>& x, int n, int* pos, Replaces replaces)
         int where = 1;
         const auto compareEach = [&](int from, int to) {
             for (int i = from; i < to; ++i) {
-                if (_mm_movemask_pd(replaces(twice(cells, i), best)) != 0) {
+                if (any(replaces(twice(cells, i), best))) {
                     best = twice(cells, i);
                     where = i + 1;
                 }
@@ -160,11 +162,9 @@ double withPosition(const matrix<T>& x, int n, int* pos, Replaces replaces)
         };
         int i = 1;
         for (; i + 7 < n; i += 8) {
-            const pair front =
-                _mm_or_pd(replaces(pairAt(cells, i), best), replaces(pairAt(cells, i + 2), best));
-            const pair back =
-                _mm_or_pd(replaces(pairAt(cells, i + 4), best), replaces(pairAt(cells, i + 6), best));
-            if (_mm_movemask_pd(_mm_or_pd(front, back)) != 0) {
+            const auto front = replaces(pairAt(cells, i), best) | replaces(pairAt(cells, i + 2), best);
+            const auto back = replaces(pairAt(cells, i + 4), best) | replaces(pairAt(cells, i + 6), best);
+            if (any(front | back)) {
                 compareEach(i, i + 8);
             }
         }
@@ -175,9 +175,9 @@ double withPosition(const matrix<T>& x, int n, int* pos, Replaces replaces)
     return withCells(std::max(n, 1), find, x);
 }
 
-constexpr auto isLess = [](pair x, pair best) { return _mm_cmplt_pd(x, best); };
-constexpr auto isNotMore = [](pair x, pair best) { return _mm_cmple_pd(x, best); };
-constexpr auto isMore = [](pair x, pair best) { return _mm_cmpgt_pd(x, best); };
+constexpr auto isLess = [](pair x, pair best) { return x < best; };
+constexpr auto isNotMore = [](pair x, pair best) { return x <= best; };
+constexpr auto isMore = [](pair x, pair best) { return x > best; };
 
 } // namespace
 

@@ -11,7 +11,7 @@ double weightNear(const matrix<T>& x, int n, const matrix<double>& w, double val
 {
     const auto weightIfNear = [value, tol](korvel::pair cells, korvel::pair weights) {
         const korvel::pair distance = korvel::absolute(cells - value);
-        return korvel::only(_mm_cmplt_pd(distance, _mm_set1_pd(tol)), weights);
+        return korvel::only(korvel::pairOf(distance < tol), weights);
     };
     return korvel::withCells(
         n, [=](auto... cells) { return korvel::sumOf(0, n, weightIfNear, cells...); }, x, w);

@@ -33,18 +33,18 @@ struct weighted_total {
 template <class Values, class Flags, class Weights, class Term>
 weighted_total totalOf(Values x, int n, Flags flags, Weights w, Term term)
 {
-    pair total = _mm_setzero_pd();
+    pair total{};
     const auto addPair = [&](std::int64_t i) {
         const pair kept = only(pairAt(flags, i), present(pairAt(x, i)));
         const pair weights = only(kept, pairAt(w, i));
         const pair terms = only(kept, term(pairAt(x, i), weights));
-        total += _mm_unpacklo_pd(terms, weights);
-        total += _mm_unpackhi_pd(terms, weights);
+        total += korvel::lanes::firstOf(terms, weights);
+        total += korvel::lanes::secondOf(terms, weights);
     };
     const std::int64_t i = korvel::forEachPair(0, n, addPair, x, flags, w);
     if (i < n) {
         const pair kept = only(twice(flags, i), present(twice(x, i)));
-        total += only(kept, _mm_unpacklo_pd(term(twice(x, i), twice(w, i)), twice(w, i)));
+        total += only(kept, korvel::lanes::firstOf(term(twice(x, i), twice(w, i)), twice(w, i)));
     }
     return {total[0], total[1]};
 }

@@ -53,8 +53,7 @@ public:
             const double r = w / sumW;
             mean += d * r;
             if (hasWaiting_) {
-                const moment_terms terms(_mm_setr_pd(waitingD_, d), _mm_setr_pd(waitingR_, r),
-                                         _mm_setr_pd(waitingW_, w));
+                const moment_terms terms(pair{waitingD_, d}, pair{waitingR_, r}, pair{waitingW_, w});
                 addTerms(terms, 0);
                 addTerms(terms, 1);
             } else {
@@ -70,7 +69,9 @@ public:
     void finish()
     {
         if (hasWaiting_) {
-            addTerms(moment_terms(_mm_set1_pd(waitingD_), _mm_set1_pd(waitingR_), _mm_set1_pd(waitingW_)), 0);
+            addTerms(moment_terms(pair{waitingD_, waitingD_}, pair{waitingR_, waitingR_},
+                                  pair{waitingW_, waitingW_}),
+                     0);
         }
     }
 

@@ -5,11 +5,12 @@
 #ifndef KORVEL_TABLES_TRANSPOSED_BLOCK_H
 #define KORVEL_TABLES_TRANSPOSED_BLOCK_H
 
+#include "platform/lanes.h"
+
 #include <algorithm>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <emmintrin.h>
 
 namespace korvel
 {
@@ -35,7 +36,7 @@ template <class At>
 void streamLine(double* to, At at)
 {
     for (std::ptrdiff_t k = 0; k < 8; k += 2) {
-        _mm_stream_pd(to + k, _mm_set_pd(at(k + 1), at(k)));
+        lanes::stream(to + k, lanes::doubles<2>{at(k), at(k + 1)});
     }
 }
 
@@ -43,8 +44,7 @@ template <class At>
 void streamLine(int* to, At at)
 {
     for (std::ptrdiff_t k = 0; k < 16; k += 4) {
-        _mm_stream_si128(reinterpret_cast<__m128i*>(to + k),
-                         _mm_set_epi32(at(k + 3), at(k + 2), at(k + 1), at(k)));
+        lanes::stream(to + k, lanes::integers4{at(k), at(k + 1), at(k + 2), at(k + 3)});
     }
 }
 
@@ -82,7 +82,7 @@ void transposeStreaming(const From* x, std::ptrdiff_t rows, std::ptrdiff_t cols,
             }
         }
     }
-    _mm_sfence();
+    lanes::finishStreaming();
 }
 
 } // namespace detail
