@@ -173,6 +173,20 @@ KORVEL_IN_LANES Doubles only(Mask kept, Doubles x)
     }
 }
 
+/** The lanes that are chosen in one of the two: `a | b`, by the same way as `only`. */
+template <class Mask>
+KORVEL_IN_LANES Mask either(Mask a, Mask b)
+{
+#if defined(__SSE2__)
+    if constexpr (detail::widthOf<Mask> == 2) {
+        return reinterpret_cast<Mask>(_mm_or_pd(reinterpret_cast<__m128d>(a), reinterpret_cast<__m128d>(b)));
+    } else
+#endif
+    {
+        return a | b;
+    }
+}
+
 /** `x` in the lanes that are kept, a NaN in the others: it loses every comparison. */
 template <class Mask, class Doubles>
 KORVEL_IN_LANES Doubles onlyOrNaN(Mask kept, Doubles x)

@@ -162,9 +162,11 @@ double withPosition(const matrix<T>& x, int n, int* pos, Replaces replaces)
         };
         int i = 1;
         for (; i + 7 < n; i += 8) {
-            const auto front = replaces(pairAt(cells, i), best) | replaces(pairAt(cells, i + 2), best);
-            const auto back = replaces(pairAt(cells, i + 4), best) | replaces(pairAt(cells, i + 6), best);
-            if (any(front | back)) {
+            const auto front =
+                lanes::either(replaces(pairAt(cells, i), best), replaces(pairAt(cells, i + 2), best));
+            const auto back =
+                lanes::either(replaces(pairAt(cells, i + 4), best), replaces(pairAt(cells, i + 6), best));
+            if (any(lanes::either(front, back))) {
                 compareEach(i, i + 8);
             }
         }
