@@ -9,6 +9,12 @@ set(CMAKE_C_VISIBILITY_PRESET hidden)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
+# Whether there are instruction sets beyond the baseline to compile for.
+set(KORVEL_X86 FALSE)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64)$")
+    set(KORVEL_X86 TRUE)
+endif()
+
 find_program(KORVEL_CCACHE ccache)
 if(KORVEL_CCACHE)
     # Paths count from the checkout, so that every checkout shares what one has compiled. The dates of precompiled
