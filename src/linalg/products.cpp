@@ -30,7 +30,7 @@ void addProductChecked(const matrix<double>& A, int n, int p, const matrix<doubl
     }
 }
 
-/** Unsigned arithmetic wraps where signed arithmetic has no result. */
+/** `sum + a * b` modulo 2^32. Unsigned arithmetic is used because signed overflow is undefined. */
 int addWrapping(int sum, int a, int b)
 {
     return static_cast<int>(static_cast<std::uint32_t>(sum) +

@@ -5,6 +5,8 @@
 #ifndef KORVEL_LINALG_TEAM_H
 #define KORVEL_LINALG_TEAM_H
 
+#include "platform/work_share.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <memory>
@@ -17,20 +19,6 @@ namespace korvel
 [[nodiscard]] inline int mostThreads()
 {
     return std::max(1, omp_get_max_threads());
-}
-
-/** Rows or columns in a row. */
-struct stretch {
-    std::ptrdiff_t first = 0;
-    std::ptrdiff_t count = 0;
-};
-
-/** A thread's stretch of `total`, in order, as even as can be, the first ones taking what is left over. */
-[[nodiscard]] constexpr stretch shareOf(std::ptrdiff_t total, int thread, int threads)
-{
-    const std::ptrdiff_t even = total / threads;
-    const std::ptrdiff_t over = total % threads;
-    return {thread * even + std::min<std::ptrdiff_t>(thread, over), even + (thread < over ? 1 : 0)};
 }
 
 /** Calls `work(thread, stretch)` on each thread that has something to do. The team is forked whatever the

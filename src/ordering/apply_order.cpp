@@ -11,14 +11,14 @@
 namespace
 {
 
-/** The rows to take, from 0, and how many rows a column must have to hold them all. */
+/** The rows to take, counted from 0, and the number of rows that a column needs to hold them all. */
 struct row_choice {
     std::vector<int> rows;
     int needed = 0;
 
     row_choice(const matrix<double>& order, int count)
     {
-        // No column has this row, so the checked access reads the spare slot for it.
+        // A row that no column has, for which the checked access reads the spare slot.
         constexpr int nowhere = std::numeric_limits<int>::max() - 1;
         rows.reserve(static_cast<std::size_t>(std::max(count, 0)));
         for (int i = 0; i < count; ++i) {

@@ -8,7 +8,7 @@
 namespace
 {
 
-/** The absolute deviations of the elements for which `keep(i)` holds; missing for the others. */
+/** The absolute deviation of each element for which `keep(i)` holds; missing for the others. */
 template <class Keep>
 matrix<double> deviations(const matrix<double>& x, int n, double centre, Keep keep)
 {

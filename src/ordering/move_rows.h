@@ -1,6 +1,6 @@
 /**
  * @file
- * Moving the payload of a sort: rows, column by column, through a scratch column.
+ * Moving the rows of a table into sorted order, column by column, through a scratch column.
  */
 #ifndef KORVEL_ORDERING_MOVE_ROWS_H
 #define KORVEL_ORDERING_MOVE_ROWS_H
@@ -15,29 +15,28 @@
 namespace korvel
 {
 
-// Small tables must not pay for threads. By a column of its own a table is moved in columns, which takes few
-// threads and pays early; by another key it is moved in rows, as a list that is cut up, and starts later.
+// Small tables must not pay for threads. A sort by one of the table's own columns shares the work from fewer
+// cells on than a sort by another key, as callers expect.
 
-/** Whether threads share the moving of a table of so many cells that is sorted by one of its columns. */
+/** Whether threads share the work when a table of this size is sorted by one of its columns. */
 [[nodiscard]] constexpr bool sharesColumns(std::int64_t rows, std::int64_t cols)
 {
     return rows * cols >= 50'001;
 }
 
-/** Whether threads share the moving of `moved` rows of a table of so many cells that is sorted by another
- * key. */
+/** Whether threads share the work when `moved` rows of a table of this size are sorted by another key. */
 [[nodiscard]] constexpr bool sharesRows(std::int64_t rows, std::int64_t cols, std::size_t moved)
 {
     return rows * cols >= 500'000 && moved >= 1000;
 }
 
 /**
- * Moves rows into sorted order: rank k goes to place k. The outcome is the same whether it is shared or not.
+ * Moves rows into sorted order: the row of rank k goes to place k. Sharing the work changes nothing else.
  *
  * @param sorted   the order, with `size()` and `position(k)`
  * @param columns  number of columns
- * @param columnAt `columnAt(j)` points at the first of the rows that move, in column j; null for a column
- * that is left alone
+ * @param columnAt `columnAt(j)` points at the first row that moves, in column j, or is null for a column that
+ * is left alone
  * @param shared   whether threads share the work
  */
 template <class T, class Sorted, class ColumnAt>
@@ -49,7 +48,7 @@ void moveRows(const Sorted& sorted, int columns, ColumnAt columnAt, bool shared)
     }
     const int threads = shared ? omp_get_max_threads() : 1;
     if (columns < threads) {
-        // Few long columns: each is cut among the threads.
+        // Fewer columns than threads: the threads share each column.
         const auto scratch = std::make_unique<T[]>(rows);
         const auto last = static_cast<std::int64_t>(rows);
         for (int j = 0; j < columns; ++j) {

@@ -16,7 +16,7 @@
 namespace
 {
 
-/** Elements and their weights, compacted. */
+/** Elements and their weights, without gaps. */
 struct kept_elements {
     std::vector<double> x;
     std::vector<double> w;
@@ -42,7 +42,7 @@ double plainQuantile(std::vector<double> values, double q)
     return korvel::quantileOf(ranked, q);
 }
 
-/** The walk along the cumulative weights, in ascending order of the values. */
+/** Finds a weighted quantile by walking the cumulative weights in ascending order of the values. */
 double walkWeights(const kept_elements& elements, double q)
 {
     const korvel::sorted_numbers<double> sorted(
@@ -52,7 +52,7 @@ double walkWeights(const kept_elements& elements, double q)
     const auto weightAt = [&](std::int64_t k) {
         return elements.w[static_cast<std::size_t>(sorted.position(static_cast<std::size_t>(k)))];
     };
-    // Before the first value lies what a checked read gives outside a fresh vector.
+    // A position before the first value reads the spare slot of a fresh vector.
     const auto valueAt = [&](std::int64_t k) {
         return k < 0 ? -1.0 : sorted.key(static_cast<std::size_t>(k));
     };
@@ -98,7 +98,7 @@ double weightedQuantile(kept_elements elements, double q)
 
 constexpr std::array probabilities{0.05, 0.1, 0.2, 0.25, 0.3, 0.4, 0.5, 0.6, 0.7, 0.75, 0.8, 0.9, 0.95};
 
-/** One of the 13, `x` being sorted. */
+/** One of the 13 quantiles of `x`, which is sorted. */
 double sortedQuantile(const matrix<double>& x, int n, double p)
 {
     const double position = (n - 1) * p + (p <= 0.5 ? 0.5 : 1.0);

@@ -1,5 +1,8 @@
 #include "ordering/radix_sort.h"
 
+#include "ordering/insertion_sort.h"
+#include "platform/work_share.h"
+
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -14,12 +17,11 @@ namespace
 
 constexpr int digitBits = 11;
 constexpr std::size_t digitValues = std::size_t{1} << digitBits;
-/** Runs up to this length are sorted by insertion, and up to the next by merging: counting digits would cost
- * more. */
+/** Counting digits does not pay for few pairs: up to the first length they are sorted by insertion, up to the
+ * second by merging. */
 constexpr std::size_t insertionLimit = 32;
 constexpr std::size_t mergeLimit = 512;
-/** A bucket of the parallel sort is made about this long, so that it and its scratch stay in a core's cache.
- */
+/** Wanted length of a bucket in the parallel sort: with its scratch it stays in the cache of one core. */
 constexpr std::size_t bucketLength = 16'384;
 constexpr std::size_t mostBuckets = 2048;
 constexpr std::size_t samplesPerBucket = 16;
@@ -29,19 +31,7 @@ bool imageBefore(const image_pair& a, const image_pair& b)
     return a.image < b.image;
 }
 
-void insertionSort(image_pair* pairs, std::size_t count)
-{
-    for (std::size_t i = 1; i < count; ++i) {
-        const image_pair moving = pairs[i];
-        std::size_t place = i;
-        for (; place > 0 && moving.image < pairs[place - 1].image; --place) {
-            pairs[place] = pairs[place - 1];
-        }
-        pairs[place] = moving;
-    }
-}
-
-/** Merges two sorted neighbours, without a branch that depends on the keys. */
+/** Merges two sorted runs that lie side by side. No branch depends on the keys. */
 void merge(const image_pair* first, const image_pair* middle, const image_pair* last, image_pair* out)
 {
     const image_pair* left = first;
@@ -55,12 +45,12 @@ void merge(const image_pair* first, const image_pair* middle, const image_pair* 
     std::copy(right, last, std::copy(left, middle, out));
 }
 
-/** Short sorted runs, merged pairwise back and forth between the pairs and the scratch. */
+/** Sorts short runs, then merges them pairwise, back and forth between the pairs and the scratch. */
 void mergeSort(image_pair* pairs, image_pair* scratch, std::size_t count)
 {
     constexpr std::size_t run = 8;
     for (std::size_t first = 0; first < count; first += run) {
-        insertionSort(pairs + first, std::min(run, count - first));
+        insertionSort(std::span(pairs + first, std::min(run, count - first)), imageBefore);
     }
     image_pair* from = pairs;
     image_pair* to = scratch;
@@ -98,10 +88,8 @@ void scatter(const image_pair* from, std::size_t count, image_pair* to, digit_co
 
 void serialRadixSort(image_pair* pairs, image_pair* scratch, std::size_t count);
 
-/** Sorts every stretch of pairs that agree in the bits above `shift`; the stretches themselves are in order.
- */
-void sortWithinStretches(image_pair* pairs, image_pair* scratch, std::size_t count, std::uint64_t least,
-                         int shift)
+/** Sorts each run of pairs that agree in the bits above `shift`; the runs are in order already. */
+void sortWithinRuns(image_pair* pairs, image_pair* scratch, std::size_t count, std::uint64_t least, int shift)
 {
     std::size_t first = 0;
     while (first < count) {
@@ -118,13 +106,13 @@ void sortWithinStretches(image_pair* pairs, image_pair* scratch, std::size_t cou
 }
 
 /**
- * Two counting passes over the 22 most significant bits in which the keys differ, the lower digit first; most
- * keys are then in their final place, and what agrees in all 22 bits is sorted further.
+ * Sorts on one thread. Two counting passes, the lower digit first, order the pairs by the 22 most significant
+ * bits in which they differ. Most keys are then in place; those that agree in all 22 bits are sorted further.
  */
 void serialRadixSort(image_pair* pairs, image_pair* scratch, std::size_t count)
 {
     if (count <= insertionLimit) {
-        insertionSort(pairs, count);
+        insertionSort(std::span(pairs, count), imageBefore);
         return;
     }
     if (count <= mergeLimit) {
@@ -154,16 +142,17 @@ void serialRadixSort(image_pair* pairs, image_pair* scratch, std::size_t count)
     scatter(pairs, count, scratch, low, lowDigit);
     scatter(scratch, count, pairs, high, highDigit);
     if (shift > 0) {
-        sortWithinStretches(pairs, scratch, count, origin, shift);
+        sortWithinRuns(pairs, scratch, count, origin, shift);
     }
 }
 
-/** Ascending images that cut the keys into buckets of about one length, taken from a regular sample. */
+/** Chooses ascending images that cut the keys into buckets of about equal length, from a sample of the keys.
+ */
 std::vector<std::uint64_t> chooseSplitters(std::span<const image_pair> pairs, std::size_t buckets)
 {
     const std::size_t samples = buckets * samplesPerBucket;
     std::vector<std::uint64_t> sample(samples);
-    // A fixed congruential walk spreads the sample over the keys without following a period in them.
+    // A fixed pseudorandom walk: a regular one could follow a period in the keys.
     std::uint64_t walk = 0x9E3779B97F4A7C15u;
     for (std::uint64_t& image : sample) {
         walk = walk * 6364136223846793005u + 1442695040888963407u;
@@ -177,7 +166,10 @@ std::vector<std::uint64_t> chooseSplitters(std::span<const image_pair> pairs, st
     return splitters;
 }
 
-/** Number of splitters at or below an image: its bucket. The splitters are one less than a power of two. */
+/**
+ * Finds the bucket of an image, which is the number of splitters at or below it. The number of splitters is
+ * one less than a power of two.
+ */
 class bucket_finder
 {
 public:
@@ -197,7 +189,7 @@ public:
     }
 
 private:
-    /** The middle splitter of [first, last) at `node`, the halves below it. */
+    /** Puts the middle splitter of [first, last) at `node` and the two halves below that node. */
     void fill(const std::vector<std::uint64_t>& splitters, std::size_t node, std::size_t first,
               std::size_t last)
     {
@@ -213,16 +205,10 @@ private:
     int levels_;
 };
 
-/** Where part `part` of `parts` nearly equal parts of `count` begins. */
-std::size_t partStart(std::size_t count, std::size_t part, std::size_t parts)
-{
-    return count / parts * part + std::min(part, count % parts);
-}
-
 /**
- * Each thread counts the buckets of its stretch of the input and then scatters the stretch to the places that
- * follow from all counts, earlier stretches first, which keeps equal keys in order. The buckets are then
- * sorted one by one.
+ * Sorts on several threads. Each thread counts how many pairs of its share of the input go to each bucket,
+ * and then scatters its share. Within a bucket earlier shares come first, which keeps equal keys in order.
+ * The buckets are then sorted one by one.
  */
 void parallelRadixSort(std::span<image_pair> pairs, std::span<image_pair> scratch, std::size_t threads)
 {
@@ -234,11 +220,14 @@ void parallelRadixSort(std::span<image_pair> pairs, std::span<image_pair> scratc
     std::vector<std::size_t> bucketStarts(buckets + 1, count);
 
     const int parts = static_cast<int>(threads);
+    const auto startOf = [&](int part) {
+        return static_cast<std::size_t>(shareOf(static_cast<std::ptrdiff_t>(count), part, parts).first);
+    };
 #pragma omp parallel for schedule(static) num_threads(parts)
     for (int part = 0; part < parts; ++part) {
         const auto p = static_cast<std::size_t>(part);
         std::size_t* counts = places.data() + p * buckets;
-        for (std::size_t i = partStart(count, p, threads); i < partStart(count, p + 1, threads); ++i) {
+        for (std::size_t i = startOf(part); i < startOf(part + 1); ++i) {
             const std::size_t bucket = bucketOf(pairs[i].image);
             bucketNumbers[i] = static_cast<std::uint16_t>(bucket);
             ++counts[bucket];
@@ -257,7 +246,7 @@ void parallelRadixSort(std::span<image_pair> pairs, std::span<image_pair> scratc
     for (int part = 0; part < parts; ++part) {
         const auto p = static_cast<std::size_t>(part);
         std::size_t* next = places.data() + p * buckets;
-        for (std::size_t i = partStart(count, p, threads); i < partStart(count, p + 1, threads); ++i) {
+        for (std::size_t i = startOf(part); i < startOf(part + 1); ++i) {
             scratch[next[bucketNumbers[i]]++] = pairs[i];
         }
     }

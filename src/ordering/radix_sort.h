@@ -1,6 +1,7 @@
 /**
  * @file
- * Stable sorting of number keys in linear time, on an image of the key that orders as the key does.
+ * Stable sorting of number keys in linear time. Each key is replaced by an image, an unsigned integer that
+ * compares as the key does.
  */
 #ifndef KORVEL_ORDERING_RADIX_SORT_H
 #define KORVEL_ORDERING_RADIX_SORT_H
@@ -12,7 +13,7 @@
 namespace korvel
 {
 
-/** A key's image, the position it came from, and what the image cannot tell: that a zero was negative. */
+/** A key's image and original position, and whether the key was -0.0, which has the image of 0.0. */
 struct image_pair {
     std::uint64_t image;
     std::int32_t position;
@@ -21,7 +22,7 @@ struct image_pair {
 
 inline constexpr std::uint64_t signBit = std::uint64_t{1} << 63;
 
-/** Unsigned integers that order as the doubles do. Both zeros have one image; a NaN has none of use. */
+/** The image of a key. Both zeros have the same image; that of a NaN is of no use. */
 [[nodiscard]] constexpr std::uint64_t orderImage(double key) noexcept
 {
     const auto bits = std::bit_cast<std::uint64_t>(key + 0.0);
@@ -33,7 +34,7 @@ inline constexpr std::uint64_t signBit = std::uint64_t{1} << 63;
     return static_cast<std::uint32_t>(key) ^ 0x80000000u;
 }
 
-/** The key of an image, up to the sign of a zero. */
+/** The key that has an image; 0.0 for that of the zeros. */
 [[nodiscard]] constexpr double keyOfImage(std::uint64_t image) noexcept
 {
     return std::bit_cast<double>((image & signBit) != 0 ? image & ~signBit : ~image);

@@ -17,7 +17,7 @@ korvel::sorted_numbers<double> ascending(const matrix<double>& x, int n)
     return {n, false, [&](std::int32_t k) { return x[k]; }};
 }
 
-/** The first `n` elements, in a given order. */
+/** Moves each of the first `n` elements to place `placeOf(i)`. */
 template <class Order>
 void rearrange(matrix<double>& x, int n, Order placeOf)
 {
@@ -30,21 +30,22 @@ void rearrange(matrix<double>& x, int n, Order placeOf)
     }
 }
 
-/** Weights that are all 1 and never move. */
+/** Stands in for weights that are all 1; sorting does not move them. */
 struct repeated_once {
     double operator[](std::int64_t) const { return 1.0; }
 };
 
-/** Rank of a group of weight `g` above a weight of `below`. */
+/** The mean rank of a group of weight `g`, `below` being the weight of all smaller elements. */
 struct mid_rank {
     double operator()(double below, double g) const { return (2.0 * below + g + 1.0) / 2.0; }
 };
 
+/** The lowest rank of such a group. */
 struct lowest_rank {
     double operator()(double below, double) const { return below + 1.0; }
 };
 
-/** Groups found so far. */
+/** The groups found so far, in the caller's storage. */
 struct tie_record {
     int* count;
     matrix<double>* sizes;
@@ -61,7 +62,7 @@ bool tied(const matrix<double>& x, int i)
     return std::fabs(x[i] - x[i - 1]) < tieWidth;
 }
 
-/** Ranks `x`, which is sorted, with its weights. */
+/** Ranks `x`, which is sorted together with its weights. */
 template <class Weights, class GroupRank>
 void rankSorted(const matrix<double>& x, int n, const Weights& w, matrix<double>& ranks, tie_record ties,
                 GroupRank groupRank)
@@ -75,8 +76,8 @@ void rankSorted(const matrix<double>& x, int n, const Weights& w, matrix<double>
     if (i >= n) {
         return;
     }
-    double below = 0.0; // weight before element i
-    double upTo = w[i]; // weight up to and with it
+    double below = 0.0; // weight of the elements before i
+    double upTo = w[i]; // the same with element i
     ranks[i] = (upTo + 1.0) / 2.0;
     if (w[i] > 1.0 && x[1] > x[0]) {
         ties.add(w[i]);
@@ -105,7 +106,8 @@ void rankSorted(const matrix<double>& x, int n, const Weights& w, matrix<double>
     }
 }
 
-/** Sorts `x`, lets `rank` rank it, and restores the original order of `x` and `ranks` when asked to. */
+/** Sorts `x`, calls `rank` to rank it, and restores the original order of `x` and `ranks` for `bRestore` -1.
+ */
 template <class Rank>
 void rankInPlace(matrix<double>& x, int n, short int bRestore, matrix<double>& ranks, Rank rank)
 {
@@ -154,7 +156,7 @@ void V_GetRanksTies(matrix<double>* x, int n, short int bRestore, matrix<double>
         for (int k = 0; k < n; ++k) {
             rankOf[static_cast<std::size_t>(sortedPlace(k))] = k;
         }
-        // Weights that are the elements themselves are sorted with them, and put back with them.
+        // Weights that share the storage of `x` are sorted and put back together with it.
         const bool apart = w->data != x->data;
         if (apart) {
             rearrange(*w, n, [&](int i) { return rankOf[static_cast<std::size_t>(i)]; });
@@ -191,7 +193,7 @@ void V_GetRanksTiesInt(matrix<double>* x, int n, matrix<double>* w, matrix<doubl
         values[i] = (*x)[i];
         weights[i] = (*w)[i];
     }
-    const auto sorted = ascending(values, n); // before `ranks` is written, which may be `x`
+    const auto sorted = ascending(values, n); // made before `ranks` is written, which may be `x`
     V_GetRanksTies(&values, n, 0, &weights, ranks, nTies, tieSizes);
 
     int rank = 0;
@@ -216,7 +218,7 @@ void M_GetRanksTies(matrix<double>* x, int rows, int cols, short int bRestore, m
 
 void V_GetPositionInMatNNm1o2(int k, int n, int* row, int* col)
 {
-    std::int64_t upTo = 0; // cells in the rows so far
+    std::int64_t upTo = 0; // number of cells in the rows so far
     for (int r = 1; r < n; ++r) {
         upTo += n - r;
         if (upTo >= k) {

@@ -4,10 +4,10 @@
 namespace korvel
 {
 
-/** Rows or positions `from..to`, 1-based and inclusive, of something that has `length` of them. */
+/** The rows or positions `from..to`, 1-based and inclusive, out of `length`. */
 struct row_range {
-    int first; ///< The first one, from 0.
-    int count; ///< 0 when the range is empty or not inside: then there is nothing to sort.
+    int first; ///< The first one, counted from 0.
+    int count; ///< How many; 0 when the range is empty or reaches outside, and nothing is sorted.
 
     row_range(int from, int to, int length)
         : first(from - 1), count(from >= 1 && from <= to && to <= length ? to - from + 1 : 0)

@@ -14,7 +14,7 @@ namespace korvel
 namespace
 {
 
-/** Below this length sorting costs no more than selecting. */
+/** Up to this length sorting costs no more than selecting. */
 constexpr std::size_t sortLength = 64;
 
 std::vector<double> firstOf(const matrix<double>& x, int n)
@@ -66,7 +66,7 @@ double ranked_values::operator[](std::int64_t k)
         return -1.0;
     }
     if (!sorted_ && k != placed_) {
-        // What lies on the wanted side of an earlier split need not be looked at again.
+        // An earlier split has put rank k on one side: only that side is searched.
         const auto first = working_.begin() + (k > placed_ ? placed_ + 1 : 0);
         const auto last = k < placed_ ? working_.begin() + placed_ : working_.end();
         std::nth_element(first, working_.begin() + k, last);
@@ -76,7 +76,7 @@ double ranked_values::operator[](std::int64_t k)
     if (sorted_ || value != 0.0) {
         return value;
     }
-    // Zeros of both signs rank alike, in the order in which they stand.
+    // Zeros of both signs are equal, so a stable sort leaves them in their original order.
     auto before = k - std::count_if(original_.begin(), original_.end(), [](double x) { return x < 0.0; });
     return *std::find_if(original_.begin(), original_.end(),
                          [&](double x) { return x == 0.0 && before-- == 0; });
@@ -93,7 +93,7 @@ double quantileOf(ranked_values& ranked, double q)
     if (ranked.size() == 0) {
         return MISSING_DBL;
     }
-    // A q of 0 or 1 is a whole position as well.
+    // A q of 0 or 1 needs no case of its own: its position is whole.
     const double position = (ranked.size() - 1) * q;
     if (isWholePosition(position)) {
         return ranked[truncateToInt(position)];

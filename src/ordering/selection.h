@@ -14,9 +14,9 @@ namespace korvel
 {
 
 /**
- * The elements of a vector as a stable ascending sort would rank them, each found when it is asked for. Both
- * zeros rank alike and come out with the sign that the sort would have put there. With a NaN the vector is
- * sorted.
+ * The elements of a vector by rank, in stable ascending order. Each is found when it is asked for. The two
+ * zeros are equal, and each rank has the sign of the zero that a sort would put there. A vector that contains
+ * a NaN is sorted whole.
  */
 class ranked_values
 {
@@ -27,7 +27,7 @@ public:
 
     [[nodiscard]] int size() const { return static_cast<int>(original_.size()); }
 
-    /** The element of rank `k`, from 0; any other `k` gives -1.0, what lies outside a fresh vector. */
+    /** The element of rank `k`, from 0. Any other `k` gives -1.0, the spare slot of a fresh vector. */
     [[nodiscard]] double operator[](std::int64_t k);
 
 private:
@@ -43,7 +43,7 @@ private:
 /** The quantile of ranked values: see `V_Quantile`. Missing when there are none. */
 [[nodiscard]] double quantileOf(ranked_values& ranked, double q);
 
-/** Whether a position is an integer but for a rounding error, its fraction within 1e-12 of 0 or of 1. */
+/** Whether a position is an integer up to rounding: its fraction is within 1e-12 of 0 or of 1. */
 [[nodiscard]] bool isWholePosition(double position);
 
 } // namespace korvel

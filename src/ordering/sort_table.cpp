@@ -30,7 +30,7 @@ void writeKeys(const korvel::sorted_numbers<Key>& sorted, const korvel::row_rang
     }
 }
 
-/** First cell of the range in column j; null when the column does not hold the whole range. */
+/** The first cell of the range in column j; null when the column does not hold the whole range. */
 template <class T>
 T* rangeInColumn(matrix<T>& table, int j, const korvel::row_range& range)
 {
@@ -58,8 +58,8 @@ const void* storageOf(const cST_MVect<T>& table)
     return table.Vectors.empty() ? nullptr : table.Vectors.front().Vect.data;
 }
 
-/** Moves the rows of the range in columns `firstColumn` to `cols - 1`, as far as the table of `rows` has
- * them. */
+/** Moves the rows of the range in the columns `firstColumn` to `cols - 1`; columns that the table does not
+ * have are left out. */
 template <class T, class Table, class Sorted>
 void moveRowsOf(Table& table, int rows, int firstColumn, int cols, const korvel::row_range& range,
                 const Sorted& sorted)
@@ -88,7 +88,7 @@ void sortTable(Table& table, int rows, int cols, int from, int to, matrix<Key>& 
     }
 }
 
-/** Moves the rows of the range in a sparse table, from a dense copy. */
+/** Moves the rows of the range in a sparse table. The cells are read from a dense copy. */
 void moveRowsOf(matrixSparse& table, int rows, int cols, const korvel::row_range& range,
                 const korvel::sorted_numbers<double>& sorted)
 {
@@ -101,7 +101,7 @@ void moveRowsOf(matrixSparse& table, int rows, int cols, const korvel::row_range
     }
 }
 
-/** Moves whole columns, `rows` cells of each: rank k goes to column `range.first + k`. */
+/** Moves the first `rows` cells of whole columns: the column of rank k goes to column `range.first + k`. */
 void moveColumnsOf(matrix<double>& table, int rows, const korvel::row_range& range,
                    const korvel::sorted_numbers<double>& sorted)
 {

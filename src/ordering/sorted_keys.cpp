@@ -1,5 +1,7 @@
 #include "ordering/sorted_keys.h"
 
+#include "ordering/insertion_sort.h"
+
 #include <new>
 #include <omp.h>
 #include <parallel/algorithm>
@@ -10,23 +12,10 @@ namespace korvel
 namespace
 {
 
-/** A text list shorter than this is sorted before a second thread would have woken. */
+/** Fewer texts than this are sorted in less time than it takes to wake a second thread. */
 constexpr std::size_t parallelTextsFrom = 4096;
 
-/** Up to `smallSort` pairs; the merge sort of the standard library allocates for any number above one. */
-template <class Pair, class Before>
-void insertionSort(std::span<Pair> pairs, Before before)
-{
-    for (std::size_t i = 1; i < pairs.size(); ++i) {
-        const Pair moving = pairs[i];
-        std::size_t place = i;
-        for (; place > 0 && before(moving, pairs[place - 1]); --place) {
-            pairs[place] = pairs[place - 1];
-        }
-        pairs[place] = moving;
-    }
-}
-
+/** Sorts on this thread; short lists by insertion, since `std::stable_sort` would allocate. */
 template <class Key, class Before>
 void serialSort(std::span<key_pair<Key>> pairs, Before before)
 {
@@ -37,8 +26,7 @@ void serialSort(std::span<key_pair<Key>> pairs, Before before)
     }
 }
 
-/** The comparison of a direction. The direction is looked up at each call: two sorts would be twice the code.
- */
+/** Compares two keys in the wanted direction. One sort serves both directions, which halves the code. */
 template <class Key>
 struct key_before {
     bool descending;
@@ -75,7 +63,7 @@ void imageSort(std::span<image_pair> pairs, sort_threads threads)
     }
     const std::unique_ptr<image_pair[]> scratch(new (std::nothrow) image_pair[pairs.size()]);
     if (scratch == nullptr) {
-        // Without scratch there is still the library's sort, which makes do with what memory there is.
+        // The standard library's sort works with whatever memory it can get.
         std::stable_sort(pairs.begin(), pairs.end(), before);
         return;
     }

@@ -1,8 +1,7 @@
 /**
  * @file
- * The sort engine. What is sorted is a list of pairs of key and position; rows of any width are moved
- * afterwards, once. Every sort is stable in both directions: equal keys keep their order of position, also
- * when descending.
+ * The sort engine. It sorts a list of pairs, each a key and its position; rows of any width are moved once,
+ * afterwards. Every sort is stable in both directions: equal keys keep their order, also when descending.
  */
 #ifndef KORVEL_ORDERING_SORTED_KEYS_H
 #define KORVEL_ORDERING_SORTED_KEYS_H
@@ -23,11 +22,11 @@
 namespace korvel
 {
 
-/** Lists up to this length are sorted in place by insertion and live inside their object: they allocate
+/** Lists up to this length are sorted by insertion and are part of their object, so that they allocate
  * nothing. */
 inline constexpr std::size_t smallSort = 32;
 
-/** A key that is compared where it stands: a text, or a number among which there is a NaN. */
+/** A key that is compared where it lies: a text, or a number of a list that contains a NaN. */
 template <class Key>
 struct key_pair {
     const Key* key;
@@ -39,8 +38,7 @@ enum class sort_threads { shared, one };
 
 /** Stable comparison sort, `a < b` ascending and `a > b` descending. */
 void comparisonSort(std::span<key_pair<text>> pairs, bool descending, sort_threads threads);
-/** The same on one thread: with a NaN the outcome follows from the steps of the merge, which must not vary.
- */
+/** The same on one thread: where NaN keys end depends on the steps of the sort, which must not vary. */
 void comparisonSort(std::span<key_pair<double>> pairs, bool descending);
 
 /** How keys stand before they are sorted. */
@@ -51,8 +49,8 @@ enum class key_order {
 };
 
 /**
- * Finds out how keys stand. Keys in no order are seen through after a few of them; a NaN is in no order.
- * Short lists are not looked at: insertion costs as little.
+ * Finds out how keys stand. Input is often in order already; otherwise the first few keys tell. A list that
+ * contains a NaN is in no order. Short lists are not examined, since insertion costs as little.
  */
 template <class KeyAt>
 [[nodiscard]] key_order orderOf(int count, bool descending, const KeyAt& keyAt)
@@ -74,10 +72,10 @@ template <class KeyAt>
     return turned ? key_order::reverse : key_order::none;
 }
 
-/** Sorts `pairs` by image, by insertion when they are few, with scratch of its own otherwise. */
+/** Sorts `pairs` by image. Allocates scratch unless they are few. */
 void imageSort(std::span<image_pair> pairs, sort_threads threads);
 
-/** An array that is part of its object while it is small. */
+/** An array that is part of its object when it is small. */
 template <class T>
 class small_array
 {
@@ -97,9 +95,9 @@ private:
 };
 
 /**
- * Where number keys (`double`, `int`) come from in sorted order. `keyAt(k)` gives the key at position k,
- * 0-based. It is called from several threads at a time when there are many keys, and no more once this object
- * is made.
+ * The original positions of number keys (`double`, `int`), in sorted order. `keyAt(k)` gives the key at
+ * position k, 0-based. Several threads call it when there are many keys. It is not called once this object is
+ * made.
  */
 template <class Key>
 requires(std::same_as<Key, double> || std::same_as<Key, int>) class sorted_positions
@@ -125,7 +123,7 @@ public:
 
     [[nodiscard]] std::size_t size() const { return static_cast<std::size_t>(count_); }
 
-    /** Where the key that now stands at rank `k`, 0-based, came from. */
+    /** The original position of the key of rank `k`, both 0-based. */
     [[nodiscard]] int position(std::size_t k) const
     {
         switch (found_) {
@@ -157,7 +155,7 @@ protected:
     }
 
 private:
-    /** Fills the pairs; true when there was a NaN, for which the images do not serve. */
+    /** Fills the pairs; true when there is a NaN, which has no image. */
     template <class KeyAt>
     bool readKeys(KeyAt& keyAt, sort_threads threads)
     {
@@ -215,7 +213,7 @@ private:
     bool raw_ = false;
 };
 
-/** Number keys in sorted order, which may be overwritten where they came from. */
+/** Number keys in sorted order, copied, so that the original keys may be overwritten. */
 template <class Key>
 class sorted_numbers : public sorted_positions<Key>
 {
@@ -239,8 +237,8 @@ private:
     std::unique_ptr<Key[]> keys_; ///< Where there is no list.
 };
 
-/** Text keys in sorted order, by 16-bit code units. `keyAt(k)` refers to the key, which must outlive this
- * object. */
+/** Text keys in sorted order, by 16-bit code units. `keyAt(k)` is a reference to the key, which must outlive
+ * this object. */
 class sorted_texts
 {
 public:
@@ -288,7 +286,7 @@ struct sorted<text> {
 template <class Key>
 using sorted_keys = typename detail::sorted<Key>::keys;
 
-/** The same where the keys themselves are not wanted. */
+/** The same without the keys themselves. */
 template <class Key>
 using sorted_order = typename detail::sorted<Key>::order;
 

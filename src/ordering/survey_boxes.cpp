@@ -66,7 +66,7 @@ void V_TopBottom3BoxConditional(matrix<double>* x, int n, matrix<double>* w, mat
 {
     const auto sorted = ascending(*x, n);
     std::vector<double> unsorted(sorted.size());
-    std::vector<char> counts(sorted.size()); // taken before the weights move: they may be the groups
+    std::vector<char> counts(sorted.size()); // filled before the weights move, which may be the groups
     for (std::size_t k = 0; k < sorted.size(); ++k) {
         unsorted[k] = (*w)[static_cast<std::int64_t>(k)];
         counts[k] = std::fabs((*group)[sorted.position(k)] - groupValue) < levelWidth ? 1 : 0;

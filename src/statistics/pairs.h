@@ -1,11 +1,11 @@
 /**
  * @file
- * Sums at the speed of their additions. Each addition waits for the one before; what is added is made beside
- * that chain, two neighbouring elements at a time and without a branch, so that elements left out at random
- * cost nothing. The additions themselves run one by one, in order.
+ * Sums at the speed of their additions. The additions run one by one, in order, each waiting for the one
+ * before. The terms are computed meanwhile, two neighbouring elements at a time and without a branch, so that
+ * elements left out at random cost nothing.
  *
- * An element that is left out has all its factors replaced by +0.0, so that it adds +0.0. A sum that starts
- * at +0.0 never becomes -0.0, and such an addition changes no bit.
+ * An element that is left out adds +0.0, since all its factors are replaced by +0.0. That changes no bit,
+ * because a sum that starts at +0.0 never becomes -0.0.
  */
 #ifndef KORVEL_STATISTICS_PAIRS_H
 #define KORVEL_STATISTICS_PAIRS_H
@@ -92,9 +92,8 @@ inline pair twice(no_flags flags, std::int64_t i)
 }
 
 /**
- * Asks for the cells that come a page of memory after those from `i` on, a line of cache for each call. The
- * processor foresees what a loop reads, but only within the page: a sum over a long vector would wait at the
- * start of each.
+ * Prefetches the cache line that lies one page of memory behind cell `i`. The processor's own prefetching
+ * stops at the end of a page, so a sum over a long vector would otherwise wait at the start of each page.
  */
 template <class T>
 void fetchAhead(const T* cells, std::int64_t i)
@@ -134,7 +133,7 @@ inline pair present(pair x)
     return pairOf(x != MISSING_DBL);
 }
 
-/** Each element that is kept, and +0.0 in the place of the others. */
+/** The elements that are kept; +0.0 for the others. */
 inline pair only(pair kept, pair x)
 {
     return lanes::only(maskOf(kept), x);

@@ -17,14 +17,14 @@ namespace
 
 enum aggregate { sum, mean, median, firstRow, lastRow, minimum, maximum, range };
 
-/** What a method is without weights; the other methods do not depend on them. */
+/** The methods that weights change, without weights. */
 struct plain_aggregates {
     double sum(matrix<double>& x, int, int n) const { return V_Sum2(&x, n); }
     double mean(matrix<double>& x, int, int n) const { return V_Mean2(&x, n); }
     double median(matrix<double>& x, int, int n) const { return V_Quantile(&x, n, 0.5); }
 };
 
-/** The same with the weights of all rows, in sorted order. */
+/** The same methods with weights: those of all rows, in sorted order. */
 struct weighted_aggregates {
     matrix<double>& w;
 
@@ -56,8 +56,8 @@ private:
     }
 };
 
-/** The aggregate of a quantitative column over the rows `first` to `first + n - 1`; `unknown` for any other
- * method. */
+/** The aggregate of a quantitative column over the rows `first` to `first + n - 1`; `unknown` for a method
+ * that there is not. */
 template <class Aggregates>
 double aggregated(matrix<double>& x, int first, int n, int method, const Aggregates& by, double unknown)
 {
@@ -94,7 +94,7 @@ void copyColumns(const matrix<double>& x, int rows, int cols, matrix<double>& ou
     }
 }
 
-/** Copies the table into `out` and sorts it by the key column, `companion` with it when there is one. */
+/** Copies the table into `out` and sorts `out`, and `companion` unless it is null, by the key column. */
 void sortByKey(const matrix<double>& x, int rows, int cols, int groupCol, matrix<double>& out,
                matrix<double>* companion)
 {
@@ -107,8 +107,8 @@ void sortByKey(const matrix<double>& x, int rows, int cols, int groupCol, matrix
 }
 
 /**
- * Walks the runs of equal keys in the sorted table and puts the aggregates of each into the next result row.
- * That row never lies past the first of the run, so the table may be overwritten on the way.
+ * Walks the runs of equal keys in the sorted table and writes the aggregates of each run into the next result
+ * row. That row never lies behind the start of the run, so the result may overwrite the table.
  */
 template <class Aggregates>
 int aggregateRuns(matrix<double>& out, int rows, int cols, const matrix<int>& kinds, int groupCol, int method,
@@ -186,7 +186,7 @@ void M_Dedupe(matrix<double>* x, int rows, int p, int& nOut, matrix<double>* out
         out->setElement(row, keptColumn, kept);
     };
     for (int i = 0; i < rows; ++i) {
-        // The identifier stands where the count of the kept row will.
+        // The count of a kept row is written over its identifier.
         const double identifier = out->getElement(i, p);
         if (nOut > 0 && rowsEqual(*out, nOut - 1, i, p)) {
             out->setElement(nOut - 1, countColumn, out->getElement(nOut - 1, countColumn) + 1.0);

@@ -1,7 +1,7 @@
 /**
  * @file
- * The one-pass updates behind the variances: a running mean and a running sum of squares. They are equal on
- * paper and round differently, so each routine keeps its own.
+ * The one-pass updates behind the variances: a running mean and a running sum of squares. They are equal in
+ * exact arithmetic but round differently, so each routine keeps its own.
  */
 #ifndef KORVEL_STATISTICS_RUNNING_VARIANCE_H
 #define KORVEL_STATISTICS_RUNNING_VARIANCE_H
@@ -13,7 +13,7 @@
 namespace korvel
 {
 
-/** Total weight and number of the elements kept; an element of weight 0 is counted. */
+/** The total weight and the number of the elements kept. An element of weight 0 is counted too. */
 struct running_weight {
     double sumW = 0.0;
     int kept = 0;
@@ -126,8 +126,7 @@ struct running_count_variance {
 template <class State, class Values, class Flags, class Weights>
 [[nodiscard]] State accumulate(Values x, int n, Flags flags, Weights w, State state = {})
 {
-    // A branch, not a mask: the update is a chain of more than ten cycles, behind which a wrong guess is
-    // hidden.
+    // A branch, not a mask: each update takes more than ten cycles, which hides a wrong prediction.
     for (int i = 0; i < n; ++i) {
         if (flags[i] == 0 && x[i] != MISSING_DBL) {
             state.add(x[i], w[i]);

@@ -1,7 +1,7 @@
 /**
  * @file
- * What stands in for an argument that is not there: flags of which none is set, and weights that are all 1.0.
- * Loops read them like the real thing, and the compiler removes them.
+ * Stand-ins for absent arguments: flags of which none is set, and weights that are all 1.0. Loops read them
+ * like the real ones, and the compiler removes them.
  */
 #ifndef KORVEL_STATISTICS_STAND_INS_H
 #define KORVEL_STATISTICS_STAND_INS_H

@@ -26,7 +26,7 @@ struct extremes {
 
 constexpr extremes noExtremes{MISSING_DBL, MISSING_DBL};
 
-/** Which of two elements take part. */
+/** Choose which of two elements take part. */
 constexpr auto presentAndUnflagged = [](pair x, pair unflagged) { return only(unflagged, present(x)); };
 constexpr auto everyElement = [](pair, pair unflagged) { return unflagged; };
 
@@ -35,7 +35,8 @@ struct lane_extremes {
     pair smallest;
     pair largest;
 
-    /** An element that does not take part becomes a NaN, which never wins. */
+    /** Compares two elements with the extremes so far. One that does not take part becomes a NaN, which never
+     * wins. */
     void offer(pair x, pair kept)
     {
         const pair candidate = lanes::onlyOrNaN(korvel::maskOf(kept), x);
@@ -50,7 +51,7 @@ struct lane_extremes {
     }
 };
 
-/** The first position from 0 whose element takes part; `n` or more when there is none. */
+/** The position of the first element that takes part, from 0; `n` or more when there is none. */
 template <class Cells, class Flags, class Kept>
 int firstKept(Cells x, int n, Flags flags, Kept kept)
 {
@@ -62,9 +63,9 @@ int firstKept(Cells x, int n, Flags flags, Kept kept)
 }
 
 /**
- * The extremes of the element at `first` and of those behind it that take part. Four of them are compared
- * side by side, which decides differently only between zeros of different sign: then the first zero is looked
- * up.
+ * The extremes of the element at `first` and of those behind it that take part. Four lanes are compared side
+ * by side. Only between zeros of different sign does this choose differently from a plain loop, so for a zero
+ * the first one is looked up.
  */
 template <class Cells, class Flags, class Kept>
 extremes extremesFrom(int first, Cells x, int n, Flags flags, Kept kept)
@@ -143,8 +144,8 @@ void minMax2(const matrix<T>& x, int n, double* min, double* max, short int bSki
 }
 
 /**
- * The element that `replaces` all those before it, starting from the first, and its position from 1. Few
- * elements replace another, so eight are looked at together first.
+ * Walks from the first element; one that `replaces` the best so far becomes the best. Returns the last best
+ * and its position, from 1. Few elements replace another, so eight are first tested together.
  */
 template <class T, class Replaces>
 double withPosition(const matrix<T>& x, int n, int* pos, Replaces replaces)

@@ -97,7 +97,7 @@ double V_HarmonicMean(matrix<double>* x, int n, short int* iMissing, matrix<doub
     const auto mean = [=](auto values, auto weights) {
         const auto total =
             totalOf(values, n, iMissing, weights, [](pair value, pair weight) { return weight / value; });
-        // A zero among the divisors has made the sum infinite or a NaN; so may other things.
+        // A division by zero makes the sum infinite or a NaN, but so may other elements: look for the zero.
         for (int i = 0; i < n && !std::isfinite(total.sum); ++i) {
             if (iMissing[i] == 0 && values[i] == 0.0) {
                 return MISSING_DBL;

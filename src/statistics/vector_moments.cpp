@@ -9,7 +9,7 @@ namespace
 
 using korvel::pair;
 
-/** For two elements, what they add to the sums of powers: `four + fourPerM2 * m2 - fourPerM3 * m3` and so on.
+/** What each of two elements adds to the sums of powers: `four + fourPerM2 * m2 - fourPerM3 * m3` and so on.
  */
 struct moment_terms {
     pair four;
@@ -34,8 +34,8 @@ struct moment_terms {
 };
 
 /**
- * Running mean and running sums of the second, third and fourth powers of the deviations from it. The mean is
- * what elements wait for; most of the rest is computed for two elements side by side.
+ * Running mean and running sums of the second, third and fourth powers of the deviations from it. Each
+ * element must wait for the mean; most of the rest is computed for two elements side by side.
  */
 class running_moments : public korvel::running_weight
 {
@@ -89,7 +89,7 @@ private:
     double waitingW_ = 0.0;
 };
 
-/** What a caller gets. */
+/** The results of a call. */
 struct moment_results {
     double mean = 0.0;
     double var = 0.0;
@@ -155,7 +155,7 @@ void V_MeanVarSkewPKurtP(matrix<double>* x, int n, double& mean, double& var, do
         *x, *w);
     moments.finish();
     const auto found = resultsFrom(moments, bUnbiased, bFreq);
-    // A caller may give one place for several results that it does not want: none is read again.
+    // A caller may pass one variable for several results that it does not want, so none is read again.
     mean = found.mean;
     var = found.var;
     skewP = found.skewP;

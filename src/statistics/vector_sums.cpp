@@ -46,7 +46,7 @@ double sumOverCells(int n, Term term, const matrix<T>&... sources)
         n, [=](auto... cells) { return sumOf(0, n, term, cells...); }, sources...);
 }
 
-/** Unsigned arithmetic wraps where signed arithmetic has no result. */
+/** The sum modulo 2^32. Unsigned arithmetic is used because signed overflow is undefined. */
 template <class Cells>
 int wrappingSum(Cells x, std::int64_t first, std::int64_t last)
 {
@@ -122,7 +122,7 @@ double V_DiffSqW(matrix<double>* x, int n, matrix<double>* y, matrix<double>* w)
 
 double V_DiffSqStart(matrix<double>* x, int n, matrix<double>* y, int start)
 {
-    // A position before the first lies outside the block as well, which only the checked access knows.
+    // Only the checked access handles a position before the first.
     const std::int64_t reach = start < 1 ? std::numeric_limits<std::int64_t>::max() : n;
     const std::int64_t first = std::int64_t{start} - 1;
     return withCells(

@@ -11,7 +11,7 @@ namespace
 
 using korvel::withCells;
 
-/** The state after the elements kept of a vector, each with its weight. */
+/** The state after all elements of a vector that are kept, each with its weight. */
 template <class State>
 State stateAfter(const matrix<double>& x, int n, const short int* iMissing, const matrix<double>& w)
 {
