@@ -1,7 +1,10 @@
 #include "containers/element_types.h"
+#include "support/allocations.h"
 #include "support/automation_watch.h"
 #include "support/host_arrays.h"
 
+#include <array>
+#include <cstdint>
 #include <utility>
 
 using namespace korvel::test;
@@ -146,6 +149,17 @@ TEST(MatrixMove, TextsOfADestroyedTargetAreNotWrittenBack)
     EXPECT_TRUE(watch.nothingAlive());
 }
 
+namespace
+{
+
+constexpr std::array<double * statistics_matrix<double>::*, 7> buffers{
+    &statistics_matrix<double>::buffer1, &statistics_matrix<double>::buffer2,
+    &statistics_matrix<double>::buffer3, &statistics_matrix<double>::buffer4,
+    &statistics_matrix<double>::buffer5, &statistics_matrix<double>::buffer6,
+    &statistics_matrix<double>::buffer7};
+
+} // namespace
+
 TEST(StatisticsMatrix, StartsWithNothingInItsBuffers)
 {
     const statistics_matrix<double> m(3, 0, 2.0);
@@ -164,11 +178,6 @@ TEST(StatisticsMatrix, StartsWithNothingInItsBuffers)
 TEST(StatisticsMatrix, MovesItsBuffersIntegersAndFlags)
 {
     statistics_matrix<double> source(2, 2, 3.0);
-    std::vector<double * statistics_matrix<double>::*> buffers{
-        &statistics_matrix<double>::buffer1, &statistics_matrix<double>::buffer2,
-        &statistics_matrix<double>::buffer3, &statistics_matrix<double>::buffer4,
-        &statistics_matrix<double>::buffer5, &statistics_matrix<double>::buffer6,
-        &statistics_matrix<double>::buffer7};
     for (std::size_t k = 0; k < buffers.size(); ++k) {
         source.*buffers[k] = new double[1]{static_cast<double>(k)};
     }
@@ -199,4 +208,24 @@ TEST(StatisticsMatrix, MovesItsBuffersIntegersAndFlags)
     EXPECT_EQ(third.buffer1[0], 0.0);
     EXPECT_TRUE(third.flag2);
     EXPECT_EQ(target.buffer1, nullptr);
+}
+
+TEST(StatisticsMatrix, FreesItsBuffersWhenItDiesAndWhenItTakesOthers)
+{
+    const auto filled = [] {
+        statistics_matrix<double> m(1, 1, 0.0);
+        for (const auto buffer : buffers) {
+            m.*buffer = new double[1]{};
+        }
+        return m;
+    };
+    const std::int64_t before = allocationsAlive();
+    {
+        auto first = filled();
+        auto second = filled();
+        EXPECT_EQ(allocationsAlive(), before + 16) << "a block and seven buffers each";
+        first = std::move(second);
+        EXPECT_EQ(allocationsAlive(), before + 8);
+    }
+    EXPECT_EQ(allocationsAlive(), before);
 }
