@@ -26,10 +26,7 @@ constexpr std::size_t bucketLength = 16'384;
 constexpr std::size_t mostBuckets = 2048;
 constexpr std::size_t samplesPerBucket = 16;
 
-bool imageBefore(const image_pair& a, const image_pair& b)
-{
-    return a.image < b.image;
-}
+constexpr auto imageBefore = [](const image_pair& a, const image_pair& b) { return a.image < b.image; };
 
 /** Merges two sorted runs that lie side by side. No branch depends on the keys. */
 void merge(const image_pair* first, const image_pair* middle, const image_pair* last, image_pair* out)
@@ -227,7 +224,8 @@ void parallelRadixSort(std::span<image_pair> pairs, std::span<image_pair> scratc
     for (int part = 0; part < parts; ++part) {
         const auto p = static_cast<std::size_t>(part);
         std::size_t* counts = places.data() + p * buckets;
-        for (std::size_t i = startOf(part); i < startOf(part + 1); ++i) {
+        const std::size_t end = startOf(part + 1);
+        for (std::size_t i = startOf(part); i < end; ++i) {
             const std::size_t bucket = bucketOf(pairs[i].image);
             bucketNumbers[i] = static_cast<std::uint16_t>(bucket);
             ++counts[bucket];
@@ -246,7 +244,8 @@ void parallelRadixSort(std::span<image_pair> pairs, std::span<image_pair> scratc
     for (int part = 0; part < parts; ++part) {
         const auto p = static_cast<std::size_t>(part);
         std::size_t* next = places.data() + p * buckets;
-        for (std::size_t i = startOf(part); i < startOf(part + 1); ++i) {
+        const std::size_t end = startOf(part + 1);
+        for (std::size_t i = startOf(part); i < end; ++i) {
             scratch[next[bucketNumbers[i]]++] = pairs[i];
         }
     }
