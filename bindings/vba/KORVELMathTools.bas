@@ -983,6 +983,186 @@ Public Declare PtrSafe Function Cpp_V_ZScores Lib "KORVELMathTools.dll" ( _
     ByRef scaleValue As Double, ByRef out As Double) As Long
 
 ' ---- statistics/row_grouping.h
+' ---- statistics/column_extremes.h
+
+' Both extremes of each column.
+Public Declare PtrSafe Function VB_M_MinMax Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef mins As Double, _
+    ByRef maxs As Double, ByRef iMissing As Integer, ByVal flag As Integer) As Long
+
+' VB_M_MinMax on a table of separate columns.
+Public Declare PtrSafe Function VB_M_MinMaxSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef mins As Double, _
+    ByRef maxs As Double, ByRef iMissing As Integer, ByVal flag As Integer) As Long
+
+' VB_M_MinMax on a symmetric table, of which each separate column starts at the diagonal.
+Public Declare PtrSafe Function VB_M_MinMaxSPV_T Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef mins As Double, _
+    ByRef maxs As Double, ByRef iMissing As Integer, ByVal flag As Integer) As Long
+
+' The largest number of each column; missing numbers do not count.
+Public Declare PtrSafe Function VB_M_Max Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
+
+' The smallest number of each column; missing numbers do not count.
+Public Declare PtrSafe Function VB_M_Min Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
+
+' The smallest number of a table; missing numbers do not count.
+Public Declare PtrSafe Function Cpp_M_MinAll Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Double
+
+' ---- statistics/column_means.h
+
+' Weighted means over the cells that are not missing.
+Public Declare PtrSafe Function VB_M_Mean Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef w As Double) As Long
+
+' VB_M_Mean on a table of separate columns.
+Public Declare PtrSafe Function Cpp_M_MeanSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
+    ByRef w As Double) As Long
+
+' Weighted means over the cells greater than the missing value, so that a NaN is not kept.
+Public Declare PtrSafe Function Cpp_M_Mean2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByRef means As Double) As Long
+
+' Cpp_M_Mean2 with all weights 1.0.
+Public Declare PtrSafe Function Cpp_M_Mean3 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double) As Long
+
+' ---- statistics/column_sums.h
+
+' The sum of each row.
+Public Declare PtrSafe Function VB_M_SumByRows Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
+
+' The sum of each column.
+Public Declare PtrSafe Function VB_M_SumByCols Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
+
+' The sum of all cells.
+Public Declare PtrSafe Function VB_M_SumOfElem Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Double
+
+' The sum of squares of each column.
+Public Declare PtrSafe Function Cpp_M_SumBySquareCols Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
+
+' The sum of squares of each row.
+Public Declare PtrSafe Function Cpp_M_SumBySquareRows Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
+
+' The sum of squares of each row.
+Public Declare PtrSafe Function VB_M_SquaredRows Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
+
+' The sum of squares of each column.
+Public Declare PtrSafe Function VB_M_SquaredColumns Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
+
+' ---- statistics/correlation_conversion.h
+
+' Correlations from covariances: each cell over the root of the product of the two variances on the
+' diagonal, where that product is greater than 0.
+Public Declare PtrSafe Function VB_M_CorrMatFromCovMat Lib "KORVELMathTools.dll" ( _
+    ByRef cov As Double, ByVal n As Long, ByRef out As Double, ByVal bUndefinedIsZero As Integer) As Long
+
+' The same in place on a symmetric table, of which each separate column starts at the diagonal; an
+' undefined cell is missing.
+Public Declare PtrSafe Function Cpp_M_CorrMatFromCovMatSPV2_T Lib "KORVELMathTools.dll" ( _
+    ByVal table As LongPtr, ByVal n As Long) As Long
+
+' Covariances from correlations: each cell times the root of the product of two variances, of which
+' nothing is tested.
+Public Declare PtrSafe Function Cpp_M_CovMatFromCorrMat Lib "KORVELMathTools.dll" ( _
+    ByRef corr As Double, ByVal n As Long, ByRef vars As Double, ByRef out As Double) As Long
+
+' ---- statistics/covariance.h
+
+' Covariances, or correlations, of all pairs of columns.
+Public Declare PtrSafe Function VB_M_CovCorr Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
+    ByVal bCorr As Integer, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
+
+' VB_M_CovCorr on a labelled table.
+Public Declare PtrSafe Function Cpp_M_CovCorr_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr, _
+    ByVal bCorr As Integer, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
+
+' Covariances, or correlations, with the mean, the standard deviation and the variance of each
+' column; on request the table itself is centred and reduced.
+Public Declare PtrSafe Function VB_M_CovCorrAndMeanStDevVar Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
+    ByRef means As Double, ByRef sds As Double, ByRef vars As Double, ByVal bCorr As Integer, _
+    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer, ByVal bCenter As Integer, ByVal bReduce As Integer, _
+    ByVal bUndefinedIsZero As Integer) As Long
+
+' The same as VB_M_CovCorrAndMeanStDevVar.
+Public Declare PtrSafe Function VB_M_CovCorrVAndMeanStDevVar Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
+    ByRef means As Double, ByRef sds As Double, ByRef vars As Double, ByVal bCorr As Integer, _
+    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer, ByVal bCenter As Integer, ByVal bReduce As Integer, _
+    ByVal bUndefinedIsZero As Integer) As Long
+
+' ---- statistics/cross_covariance.h
+
+' Covariances, or correlations, of each column of one table with each column of another.
+Public Declare PtrSafe Function VB_M_CorrMatMat Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal colsX As Long, ByRef y As Double, _
+    ByVal colsY As Long, ByRef out As Double, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bCorr As Integer, ByVal bSquare As Integer, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
+
+' VB_M_CorrMatMat on tables of separate columns.
+Public Declare PtrSafe Function VB_M_CorrMatMatSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal colsX As Long, ByVal y As LongPtr, _
+    ByVal colsY As Long, ByVal out As LongPtr, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal bCorr As Integer, ByVal bSquare As Integer, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
+
+' Weighted correlation of two vectors, over the elements of which the weight is greater than 0 and
+' both values are greater than the missing value, so that a NaN is not kept.
+Public Declare PtrSafe Function Cpp_V_Correl2W Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Double, ByRef w As Double) As Double
+
+' ---- statistics/distances.h
+
+' Weighted Euclidean distances between the columns, or between rows: the root of the sum of w * d *
+' d, d being the difference of two coordinates.
+Public Declare PtrSafe Function VB_M_EuclidDist2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByRef out As Double, ByVal bRows As Integer, ByVal nRows As Long) As Long
+
+' The root mean square difference of each column, or row, from a vector, over the coordinates in
+' which both are greater than the missing value, so that a NaN is not kept.
+Public Declare PtrSafe Function Cpp_M_EuclidDistToVector Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef v As Double, _
+    ByVal bRows As Integer, ByRef out As Double) As Long
+
+' The row that lies farthest from the origin.
+Public Declare PtrSafe Function Cpp_M_GetMaxDistToOrigin Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef d As Double, ByRef row As Long) As Long
+
+' ---- statistics/weighted_sums.h
+
+' The sum of two tables, each times a number: a * A + b * B, cell by cell.
+Public Declare PtrSafe Function VB_M_Sums1As2B Lib "KORVELMathTools.dll" ( _
+    ByRef A As Double, ByVal rows As Long, ByVal cols As Long, ByRef B As Double, _
+    ByVal a2 As Double, ByVal b2 As Double, ByRef out As Double) As Long
+
+' VB_M_Sums1As2B on labelled tables.
+Public Declare PtrSafe Function Cpp_M_Sums1As2B_ST Lib "KORVELMathTools.dll" ( _
+    ByVal A As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal B As LongPtr, _
+    ByVal a2 As Double, ByVal b2 As Double, ByVal out As LongPtr) As Long
+
+' ---- survey_boxes.h
 
 ' Aggregates the rows that share the value of a key column, in ascending order of the keys, compared
 ' exactly.

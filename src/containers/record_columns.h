@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 namespace korvel
 {
@@ -23,6 +24,28 @@ template <class T>
     const auto index = static_cast<std::size_t>(j);
     return index < table.Vectors.size() ? table.Vectors[index].Vect : nowhere;
 }
+
+/** The first columns of a labelled table as chunks, an empty one for each that it does not have. */
+class column_list
+{
+public:
+    column_list(cST_MVect<double>& table, int cols)
+    {
+        for (int j = 0; j < cols; ++j) {
+            places_.push_back(&columnAt(table, j, nowhere_));
+        }
+        first_ = places_.data();
+    }
+    column_list(const column_list&) = delete;
+    column_list& operator=(const column_list&) = delete;
+
+    [[nodiscard]] matrix<double>**& table() { return first_; }
+
+private:
+    matrix<double> nowhere_;
+    std::vector<matrix<double>*> places_;
+    matrix<double>** first_ = nullptr;
+};
 
 } // namespace korvel
 

@@ -7,7 +7,6 @@
 
 #include "containers/views.h"
 #include "statistics/running_variance.h"
-#include "statistics/stand_ins.h"
 
 namespace korvel
 {
@@ -17,6 +16,9 @@ struct weighted_rows {
     int count = 0;
     const short int* flags = nullptr;        ///< a row with a non-zero flag is left out; null: none is
     const matrix<double>* weights = nullptr; ///< null: all are 1.0
+
+    [[nodiscard]] bool keeps(int i) const { return flags == nullptr || flags[i] == 0; }
+    [[nodiscard]] double weight(int i) const { return weights == nullptr ? 1.0 : (*weights)[i]; }
 };
 
 /** The two flags that choose a denominator, see `running_weight::denominator`. */
@@ -34,32 +36,22 @@ struct column_moments {
 };
 
 /**
- * The update of `V_Var` over the cells that are not missing, in rows that are neither flagged nor of weight
- * 0. Unlike there a row of weight 0 is not counted.
+ * The update of `V_Var` over the cells of a column that are not missing, in rows that are neither flagged nor
+ * of weight 0. Unlike there a row of weight 0 is not counted.
  */
-template <class Cells, class Flags, class Weights>
-void addWeightedCells(running_variance& state, Cells x, int n, Flags flags, Weights w)
-{
-    for (int i = 0; i < n; ++i) {
-        const double weight = w[i];
-        if (flags[i] == 0 && weight != 0.0 && x[i] != MISSING_DBL) {
-            state.add(x[i], weight);
-        }
-    }
-}
-
-/** `addWeightedCells` for a column of a view. */
 template <class Column>
 void addColumn(running_variance& state, const Column& column, const weighted_rows& rows)
 {
-    withFlags(rows.flags, [&](auto flags) {
-        if (rows.weights == nullptr) {
-            withCells([&](auto x) { addWeightedCells(state, x, rows.count, flags, unit_weights{}); }, column);
-        } else {
-            withCells([&](auto x, auto w) { addWeightedCells(state, x, rows.count, flags, w); }, column,
-                      readVector(*rows.weights, rows.count));
-        }
-    });
+    withCells(
+        [&](auto x) {
+            for (int i = 0; i < rows.count; ++i) {
+                const double weight = rows.weight(i);
+                if (rows.keeps(i) && weight != 0.0 && x[i] != MISSING_DBL) {
+                    state.add(x[i], weight);
+                }
+            }
+        },
+        column);
 }
 
 /**

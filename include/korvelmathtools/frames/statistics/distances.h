@@ -1,0 +1,54 @@
+/**
+ * @file
+ * Flat functions: distances between the columns or the rows of a table, to a vector, and to the origin. Where
+ * nothing else is said, missing numbers are numbers.
+ */
+#ifndef KORVEL_FRAMES_STATISTICS_DISTANCES_H
+#define KORVEL_FRAMES_STATISTICS_DISTANCES_H
+
+#include "frames/types.h"
+
+/**
+ * Weighted Euclidean distances between the columns, or between rows: the root of the sum of w * d * d, d
+ * being the difference of two coordinates.
+ *
+ * @param x     [in] rows by cols numbers
+ * @param rows  rows
+ * @param cols  columns
+ * @param w     [in] a weight for each coordinate: rows of them between columns, cols between rows
+ * @param out   [out] cols by cols distances between columns, nRows by nRows between rows
+ * @param bRows -1: between rows; otherwise between columns
+ * @param nRows the number of first rows to compare; not used between columns
+ * @return 0
+ */
+KORVEL_FLAT int VB_M_EuclidDist2(double* x, int rows, int cols, double* w, double* out, short int bRows,
+                                 int nRows);
+
+/**
+ * The root mean square difference of each column, or row, from a vector, over the coordinates in which both
+ * are greater than the missing value, so that a NaN is not kept.
+ *
+ * @param x     [in] rows by cols numbers
+ * @param rows  rows
+ * @param cols  columns
+ * @param v     [in] rows numbers for columns, cols numbers for rows
+ * @param bRows -1: of each row; otherwise of each column
+ * @param out   [out] cols or rows distances; missing where no coordinate is kept
+ * @return 0
+ */
+KORVEL_FLAT int Cpp_M_EuclidDistToVector(double* x, int rows, int cols, double* v, short int bRows,
+                                         double* out);
+
+/**
+ * The row that lies farthest from the origin.
+ *
+ * @param x    [in] rows by cols numbers
+ * @param rows rows
+ * @param cols columns
+ * @param d    [out] the largest root of a row's sum of squares; missing without rows
+ * @param row  [out] the number of the first such row, from 1; 0 without rows
+ * @return 0
+ */
+KORVEL_FLAT int Cpp_M_GetMaxDistToOrigin(double* x, int rows, int cols, double* d, int* row);
+
+#endif

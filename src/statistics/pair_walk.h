@@ -1,0 +1,64 @@
+/**
+ * @file
+ * The covariance of every pair of columns of a table, each over the rows in which both are present.
+ */
+#ifndef KORVEL_STATISTICS_PAIR_WALK_H
+#define KORVEL_STATISTICS_PAIR_WALK_H
+
+#include "containers/views.h"
+#include "statistics/column_moments.h"
+#include "statistics/running_covariance.h"
+
+namespace korvel
+{
+
+/** The state of `State` after the rows in which both columns are present. */
+template <class State, class X, class Y>
+[[nodiscard]] State walkPair(const X& x, const Y& y, const weighted_rows& rows)
+{
+    return withCells(
+        [&](auto left, auto right) {
+            State state;
+            for (int r = 0; r < rows.count; ++r) {
+                if (rows.keeps(r) && left[r] != MISSING_DBL && right[r] != MISSING_DBL) {
+                    state.add(left[r], right[r], rows.weight(r));
+                }
+            }
+            return state;
+        },
+        x, y);
+}
+
+/**
+ * Calls `take(i, j, covariance)` for each pair of columns with `j` not below `i`, and
+ * `takeColumn(i, column_moments)` after the pairs (i, i) to (i, cols - 1). Without a common row the
+ * covariance is missing, and for i = j the mean and the variance are.
+ *
+ * @param x          view of the table
+ * @param takeColumn may write column `i`
+ */
+template <class View, class Take, class TakeColumn>
+void forEachColumnPair(const View& x, const weighted_rows& rows, int cols, denominator_choice how, Take take,
+                       TakeColumn takeColumn)
+{
+    for (int i = 0; i < cols; ++i) {
+        column_moments found{MISSING_DBL, MISSING_DBL};
+        for (int j = i; j < cols; ++j) {
+            const auto pair =
+                walkPair<running_covariance>(x.column(i, rows.count), x.column(j, rows.count), rows);
+            double covariance = MISSING_DBL;
+            if (pair.kept > 0) {
+                covariance = pair.products / pair.denominator(how.bUnbiased, how.bFreq);
+                if (i == j) {
+                    found = {pair.meanX, covariance};
+                }
+            }
+            take(i, j, covariance);
+        }
+        takeColumn(i, found);
+    }
+}
+
+} // namespace korvel
+
+#endif

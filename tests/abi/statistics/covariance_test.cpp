@@ -1,0 +1,168 @@
+#include "KORVELMathTools.h"
+#include "containers/missing.h"
+#include "support/bits.h"
+#include "support/caller_memory.h"
+#include "support/caller_tables.h"
+#include "support/guarded.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+using namespace korvel::test;
+
+namespace
+{
+
+constexpr double gone = MISSING_DBL;
+
+const doubles cells{1, 2, 3, gone, 2, 4, 6, 9, gone, gone, gone, 5};
+
+void expectNumbers(const doubles& found, const doubles& expected)
+{
+    ASSERT_EQ(found.size(), expected.size());
+    for (std::size_t k = 0; k < found.size(); ++k) {
+        EXPECT_TRUE(sameBits(found[k], expected[k])) << k;
+    }
+}
+
+} // namespace
+
+TEST(FlatCovariance, PairwiseDeletion)
+{
+    guarded<double> x(cells);
+    guarded<double> w{1, 1, 1, 1};
+    guarded<short int> flags{0, 0, 0, 0};
+    guarded<double> out(doubles(9, 7.0));
+    EXPECT_EQ(VB_M_CovCorr(x.data(), 4, 3, out.data(), 0, flags.data(), w.data(), -1, -1, 0), 0);
+    const double variance = (3.25 * 3.25 + 1.25 * 1.25 + 0.75 * 0.75 + 3.75 * 3.75) / 3.0;
+    const doubles found = valuesOf(out);
+    EXPECT_TRUE(sameBits(found[0], 1.0));
+    EXPECT_TRUE(sameBits(found[1], 2.0));
+    EXPECT_TRUE(sameBits(found[3], 2.0));
+    EXPECT_DOUBLE_EQ(found[4], variance);
+    EXPECT_TRUE(sameBits(found[2], gone));
+    EXPECT_TRUE(std::isnan(found[5])) << "one common row: 0 over 0";
+    EXPECT_TRUE(std::isnan(found[8]));
+    guarded<short int> lastLeftOut{0, 0, 0, 1};
+    EXPECT_EQ(VB_M_CovCorr(x.data(), 4, 2, out.data(), 1, lastLeftOut.data(), w.data(), 0, 0, 0), 0);
+    expectNumbers({valuesOf(out)[0], valuesOf(out)[1]},
+                  {1.0, (4.0 / 3.0) / std::sqrt(2.0 / 3.0 * (8.0 / 3.0))});
+    EXPECT_EQ(valuesOf(x), cells);
+}
+
+TEST(FlatCovariance, TheResultMayBeTheTable)
+{
+    guarded<double> x{0, 2, 0, 4};
+    guarded<double> w{1, 1};
+    VB_M_CovCorr(x.data(), 2, 2, x.data(), 0, nullptr, w.data(), 0, 0, 0);
+    expectNumbers(valuesOf(x), {1, 2, 2, 4});
+}
+
+TEST(FlatCovariance, LabelledTables)
+{
+    caller_memory caller;
+    ST_MVect x = caller.table({caller.column(u"a", doubles{0, 2, 9}), caller.column(u"b", doubles{0, 4, 9})},
+                              {u"a", u"b"});
+    ST_MVect out =
+        caller.table({caller.column(u"a", doubles{7, 7}), caller.column(u"b", doubles{7, 7})}, {u"a", u"b"});
+    shorts flags{0, 0, -1};
+    doubles w{1, 1, 1};
+    EXPECT_EQ(Cpp_M_CovCorr_ST(&x, 3, 2, &out, 0, flags.data(), w.data(), 0, 0, 0), 0);
+    expectNumbers(numbersIn<double>(columnOf(out, 0).Vect), {1, 2});
+    expectNumbers(numbersIn<double>(columnOf(out, 1).Vect), {2, 4});
+    EXPECT_EQ(Cpp_M_CovCorr_ST(&x, 3, 2, &out, -1, flags.data(), w.data(), 0, 0, 0), 0);
+    expectNumbers(numbersIn<double>(columnOf(out, 0).Vect), {1, 1});
+    EXPECT_EQ(out.nbcols, 2);
+    EXPECT_EQ(out.nbrowsmax, 2);
+    EXPECT_TRUE(caller.guardsIntact());
+}
+
+TEST(FlatCovariance, WithStatisticsAndInPlace)
+{
+    for (auto* const function : {VB_M_CovCorrAndMeanStDevVar, VB_M_CovCorrVAndMeanStDevVar}) {
+        guarded<double> x{0, 2, gone, 5, 5, 5};
+        guarded<double> w{1, 1, 1};
+        guarded<short int> flags{0, 0, 0};
+        guarded<double> out(doubles(4, 7.0));
+        guarded<double> means{7, 7};
+        guarded<double> sds{7, 7};
+        guarded<double> vars{7, 7};
+        EXPECT_EQ(function(x.data(), 3, 2, out.data(), means.data(), sds.data(), vars.data(), -1,
+                           flags.data(), w.data(), 0, 0, -1, -1, 0),
+                  0);
+        expectNumbers(valuesOf(out), {1, gone, gone, gone});
+        expectNumbers(valuesOf(means), {1, 5});
+        expectNumbers(valuesOf(sds), {1, 0});
+        expectNumbers(valuesOf(vars), {1, 0});
+        expectNumbers(valuesOf(x), {-1, 1, gone, 5, 5, 5});
+        EXPECT_EQ(function(x.data(), 3, 2, out.data(), means.data(), sds.data(), vars.data(), 1, flags.data(),
+                           w.data(), -1, -1, 0, 0, 1),
+                  0);
+        expectNumbers(valuesOf(out), {2, 0, 0, 0});
+    }
+}
+
+TEST(FlatCrossCovariance, OfTwoTables)
+{
+    guarded<double> x{1, 2, 3, gone};
+    guarded<double> y{2, 4, 6, 0, -1, -2, -3, 5};
+    guarded<double> w{1, 1, 1, 1};
+    guarded<double> out{7, 7};
+    EXPECT_EQ(VB_M_CorrMatMat(x.data(), 4, 1, y.data(), 2, out.data(), nullptr, w.data(), 0, 0, -1, -1, 0),
+              0);
+    expectNumbers(valuesOf(out), {2, -1});
+    EXPECT_EQ(VB_M_CorrMatMat(x.data(), 4, 1, y.data(), 2, out.data(), nullptr, w.data(), 1, 0, -1, -1, 0),
+              0);
+    expectNumbers(valuesOf(out), {1, -1});
+    EXPECT_EQ(VB_M_CorrMatMat(x.data(), 4, 1, y.data(), 2, out.data(), nullptr, w.data(), 1, 1, -1, -1, 0),
+              0);
+    expectNumbers(valuesOf(out), {1, 1});
+    EXPECT_EQ(VB_M_CorrMatMat(x.data(), 1, 1, y.data(), 2, out.data(), nullptr, w.data(), 1, 1, 0, 0, 1), 0);
+    expectNumbers(valuesOf(out), {0, 0});
+}
+
+TEST(FlatCrossCovariance, OfSeparateColumns)
+{
+    caller_columns x({{1, 2, 3, 9}});
+    caller_columns y({{2, 4, 6, 9}, {-1, -2, -3, 9}});
+    caller_columns out({{7}, {7}});
+    guarded<double> w{1, 1, 1, 1};
+    guarded<short int> flags{0, 0, 0, 1};
+    EXPECT_EQ(VB_M_CorrMatMatSPV(x.argument(), 4, 1, y.argument(), 2, out.argument(), flags.data(), w.data(),
+                                 0, 0, -1, -1, 0),
+              0);
+    EXPECT_EQ(out.values(), (caller_columns::columns{{2}, {-1}}));
+}
+
+TEST(FlatCrossCovariance, OfTwoVectors)
+{
+    guarded<double> x{1, 2, gone, 3};
+    guarded<double> y{2, 4, 5, 6};
+    guarded<double> w{1, 1, 1, 1};
+    EXPECT_TRUE(sameBits(Cpp_V_Correl2W(x.data(), 4, y.data(), w.data()), 1.0));
+    EXPECT_TRUE(sameBits(Cpp_V_Correl2W(x.data(), 1, y.data(), w.data()), gone));
+    EXPECT_TRUE(sameBits(Cpp_V_Correl2W(nullptr, 0, nullptr, nullptr), gone));
+}
+
+TEST(FlatCorrelationConversion, ThereAndBack)
+{
+    guarded<double> cov{4, 6, 0, 6, 36, 0, 0, 0, 0};
+    guarded<double> corr(doubles(9, 7.0));
+    EXPECT_EQ(VB_M_CorrMatFromCovMat(cov.data(), 3, corr.data(), 0), 0);
+    expectNumbers(valuesOf(corr), {1, 0.5, gone, 0.5, 1, gone, gone, gone, gone});
+    EXPECT_EQ(VB_M_CorrMatFromCovMat(cov.data(), 3, corr.data(), -1), 0);
+    expectNumbers(valuesOf(corr), {1, 0.5, 0, 0.5, 1, 0, 0, 0, 0});
+    guarded<double> vars{4, 36, 1};
+    guarded<double> back(doubles(9, 7.0));
+    EXPECT_EQ(Cpp_M_CovMatFromCorrMat(corr.data(), 3, vars.data(), back.data()), 0);
+    expectNumbers(valuesOf(back), valuesOf(cov));
+    EXPECT_EQ(VB_M_CorrMatFromCovMat(cov.data(), 3, cov.data(), -1), 0);
+    expectNumbers(valuesOf(cov), valuesOf(corr));
+}
+
+TEST(FlatCorrelationConversion, InPlaceOnSeparateColumns)
+{
+    caller_columns table({{4, 6, 0}, {36, 0}, {0}});
+    EXPECT_EQ(Cpp_M_CorrMatFromCovMatSPV2_T(table.argument(), 3), 0);
+    EXPECT_EQ(table.values(), (caller_columns::columns{{1, 0.5, gone}, {1, gone}, {gone}}));
+}
