@@ -924,65 +924,6 @@ Public Declare PtrSafe Function VB_M_MeanStDevVarOneInMat Lib "KORVELMathTools.d
     ByRef sd As Double, ByRef var As Double, ByRef w As Double, ByVal bUnbiased As Integer, _
     ByVal bFreq As Integer) As Long
 
-' ---- statistics/normalize.h
-
-' Divides a vector by the root of its sum of squares, so that that becomes 1.
-Public Declare PtrSafe Function VB_V_Norm Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long) As Long
-
-' The same with the sum of x * w * x.
-Public Declare PtrSafe Function VB_V_NormW Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Long
-
-' Multiplies a vector by the root of value over its sum of squares, so that that becomes value.
-Public Declare PtrSafe Function VB_V_NormToVal Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal value As Double) As Long
-
-' The same with the sum of x * w * x.
-Public Declare PtrSafe Function VB_V_NormToValW Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal value As Double, ByRef w As Double) As Long
-
-' Changes the cells of each column to (x / s) * sqrt(n / (n - 1)), where s is the root of the
-' column's sum of x * x * w and n is rows, whatever is left out.
-Public Declare PtrSafe Function VB_M_Normalize Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
-    ByRef iMissing As Integer) As Long
-
-' VB_M_Normalize, without weights and flags, on a table and two companions, tables of other rows and
-' the same columns, which are changed by the sums of squares and the number of rows of x.
-Public Declare PtrSafe Function VB_M_NormalizeMatrix Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
-    ByVal yRows As Long, ByRef z As Double, ByVal zRows As Long) As Long
-
-' ---- statistics/rescale.h
-
-' Brings a vector to the range from lo to hi: (x - a) * (hi - lo) / r + lo, where a is the smallest
-' number kept and r the largest less the smallest.
-Public Declare PtrSafe Function VB_V_Rescale Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
-    ByRef iMissing As Integer, ByRef out As Double) As Long
-
-' The same in place; an element left out stays.
-Public Declare PtrSafe Function VB_V_Rescale2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
-    ByRef iMissing As Integer) As Long
-
-' VB_V_Rescale on each column, each to a range of its own.
-Public Declare PtrSafe Function VB_M_RescaleByVect Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
-    ByRef hi As Double, ByRef iMissing As Integer, ByRef out As Double) As Long
-
-' The same in place; a cell left out stays.
-Public Declare PtrSafe Function VB_M_RescaleByVect2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
-    ByRef hi As Double, ByRef iMissing As Integer) As Long
-
-' How far each number lies from the centre, in deviations.
-Public Declare PtrSafe Function Cpp_V_ZScores Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal bRobust As Integer, ByRef centre As Double, _
-    ByRef scaleValue As Double, ByRef out As Double) As Long
-
-' ---- statistics/row_grouping.h
 ' ---- statistics/column_extremes.h
 
 ' Both extremes of each column.
@@ -1150,19 +1091,65 @@ Public Declare PtrSafe Function Cpp_M_EuclidDistToVector Lib "KORVELMathTools.dl
 Public Declare PtrSafe Function Cpp_M_GetMaxDistToOrigin Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef d As Double, ByRef row As Long) As Long
 
-' ---- statistics/weighted_sums.h
+' ---- statistics/normalize.h
 
-' The sum of two tables, each times a number: a * A + b * B, cell by cell.
-Public Declare PtrSafe Function VB_M_Sums1As2B Lib "KORVELMathTools.dll" ( _
-    ByRef A As Double, ByVal rows As Long, ByVal cols As Long, ByRef B As Double, _
-    ByVal a2 As Double, ByVal b2 As Double, ByRef out As Double) As Long
+' Divides a vector by the root of its sum of squares, so that that becomes 1.
+Public Declare PtrSafe Function VB_V_Norm Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
 
-' VB_M_Sums1As2B on labelled tables.
-Public Declare PtrSafe Function Cpp_M_Sums1As2B_ST Lib "KORVELMathTools.dll" ( _
-    ByVal A As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal B As LongPtr, _
-    ByVal a2 As Double, ByVal b2 As Double, ByVal out As LongPtr) As Long
+' The same with the sum of x * w * x.
+Public Declare PtrSafe Function VB_V_NormW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double) As Long
 
-' ---- survey_boxes.h
+' Multiplies a vector by the root of value over its sum of squares, so that that becomes value.
+Public Declare PtrSafe Function VB_V_NormToVal Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal value As Double) As Long
+
+' The same with the sum of x * w * x.
+Public Declare PtrSafe Function VB_V_NormToValW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal value As Double, ByRef w As Double) As Long
+
+' Changes the cells of each column to (x / s) * sqrt(n / (n - 1)), where s is the root of the
+' column's sum of x * x * w and n is rows, whatever is left out.
+Public Declare PtrSafe Function VB_M_Normalize Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
+    ByRef iMissing As Integer) As Long
+
+' VB_M_Normalize, without weights and flags, on a table and two companions, tables of other rows and
+' the same columns, which are changed by the sums of squares and the number of rows of x.
+Public Declare PtrSafe Function VB_M_NormalizeMatrix Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
+    ByVal yRows As Long, ByRef z As Double, ByVal zRows As Long) As Long
+
+' ---- statistics/rescale.h
+
+' Brings a vector to the range from lo to hi: (x - a) * (hi - lo) / r + lo, where a is the smallest
+' number kept and r the largest less the smallest.
+Public Declare PtrSafe Function VB_V_Rescale Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
+    ByRef iMissing As Integer, ByRef out As Double) As Long
+
+' The same in place; an element left out stays.
+Public Declare PtrSafe Function VB_V_Rescale2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
+    ByRef iMissing As Integer) As Long
+
+' VB_V_Rescale on each column, each to a range of its own.
+Public Declare PtrSafe Function VB_M_RescaleByVect Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
+    ByRef hi As Double, ByRef iMissing As Integer, ByRef out As Double) As Long
+
+' The same in place; a cell left out stays.
+Public Declare PtrSafe Function VB_M_RescaleByVect2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
+    ByRef hi As Double, ByRef iMissing As Integer) As Long
+
+' How far each number lies from the centre, in deviations.
+Public Declare PtrSafe Function Cpp_V_ZScores Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bRobust As Integer, ByRef centre As Double, _
+    ByRef scaleValue As Double, ByRef out As Double) As Long
+
+' ---- statistics/row_grouping.h
 
 ' Aggregates the rows that share the value of a key column, in ascending order of the keys, compared
 ' exactly.
@@ -1450,6 +1437,18 @@ Public Declare PtrSafe Function VB_V_MeanStdev Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_V_MeanStdev2 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal bUnbiased As Integer, ByRef mean As Double, _
     ByRef sd As Double) As Long
+
+' ---- statistics/weighted_sums.h
+
+' The sum of two tables, each times a number: a * A + b * B, cell by cell.
+Public Declare PtrSafe Function VB_M_Sums1As2B Lib "KORVELMathTools.dll" ( _
+    ByRef A As Double, ByVal rows As Long, ByVal cols As Long, ByRef B As Double, _
+    ByVal a2 As Double, ByVal b2 As Double, ByRef out As Double) As Long
+
+' VB_M_Sums1As2B on labelled tables.
+Public Declare PtrSafe Function Cpp_M_Sums1As2B_ST Lib "KORVELMathTools.dll" ( _
+    ByVal A As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal B As LongPtr, _
+    ByVal a2 As Double, ByVal b2 As Double, ByVal out As LongPtr) As Long
 
 ' ---- tables/blocks.h
 

@@ -6,20 +6,14 @@
 #define KORVEL_STATISTICS_COLUMN_MOMENTS_H
 
 #include "containers/views.h"
+#include "statistics/panels.h"
 #include "statistics/running_variance.h"
+
+#include <cstddef>
+#include <vector>
 
 namespace korvel
 {
-
-/** The rows of a table that a summary reads, and their weights. */
-struct weighted_rows {
-    int count = 0;
-    const short int* flags = nullptr;        ///< a row with a non-zero flag is left out; null: none is
-    const matrix<double>* weights = nullptr; ///< null: all are 1.0
-
-    [[nodiscard]] bool keeps(int i) const { return flags == nullptr || flags[i] == 0; }
-    [[nodiscard]] double weight(int i) const { return weights == nullptr ? 1.0 : (*weights)[i]; }
-};
 
 /** The two flags that choose a denominator, see `running_weight::denominator`. */
 struct denominator_choice {
@@ -54,6 +48,10 @@ void addColumn(running_variance& state, const Column& column, const weighted_row
         column);
 }
 
+/** `addColumn` from the start for each of some columns, several of them side by side. */
+[[nodiscard]] std::vector<running_variance> momentsInMemory(const column_pointers& columns,
+                                                            const weighted_rows& rows);
+
 /**
  * Calls `take(j, column_moments)` for each column in turn. With nothing kept the mean is 0.0 and the variance
  * what `V_Var` gives.
@@ -65,10 +63,20 @@ template <class View, class Take>
 void forEachColumnMoments(const View& table, const weighted_rows& rows, int cols, denominator_choice how,
                           Take take)
 {
+    const auto finish = [&](int j, const running_variance& state) {
+        take(j, column_moments{state.mean, state.variance(how.bUnbiased, how.bFreq)});
+    };
+    if (const auto columns = columnsInMemory(table, rows, cols); !columns.empty()) {
+        const auto states = momentsInMemory(columns, rows);
+        for (int j = 0; j < cols; ++j) {
+            finish(j, states[static_cast<std::size_t>(j)]);
+        }
+        return;
+    }
     for (int j = 0; j < cols; ++j) {
         running_variance state;
         addColumn(state, table.column(j, rows.count), rows);
-        take(j, column_moments{state.mean, state.variance(how.bUnbiased, how.bFreq)});
+        finish(j, state);
     }
 }
 

@@ -27,7 +27,14 @@ instruction_set bestSet() noexcept
                                            : instruction_set::baseline;
 }
 
-const product_kernel* chosen = &kernelOf(bestSet());
+instruction_set chosenSet = bestSet();
+const product_kernel* chosen = &kernelOf(chosenSet);
+
+void choose(instruction_set set) noexcept
+{
+    chosenSet = set;
+    chosen = &kernelOf(set);
+}
 
 } // namespace
 
@@ -48,14 +55,19 @@ bool hasSet(instruction_set set) noexcept
     }
 }
 
+instruction_set currentSet() noexcept
+{
+    return chosenSet;
+}
+
 forced_set::forced_set(instruction_set set) noexcept
 {
-    chosen = &kernelOf(set);
+    choose(set);
 }
 
 forced_set::~forced_set()
 {
-    chosen = &kernelOf(bestSet());
+    choose(bestSet());
 }
 
 } // namespace korvel::kernels

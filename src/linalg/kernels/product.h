@@ -120,7 +120,10 @@ enum class instruction_set { baseline, avx2, avx512 };
 /** Whether this processor has it. */
 [[nodiscard]] bool hasSet(instruction_set set) noexcept;
 
-/** For tests: while it lives, the kernel of a set that the processor has is used, and no better one. */
+/** The set whose kernels are used. */
+[[nodiscard]] instruction_set currentSet() noexcept;
+
+/** For tests: while it lives, the kernels of a set that the processor has are used, and no better ones. */
 class forced_set
 {
 public:
