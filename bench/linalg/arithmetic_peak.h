@@ -11,7 +11,13 @@ namespace korvel::bench
  */
 double separateArithmetic();
 
-/** The same with each pair fused, as the peers may do it. */
+/** The same in the registers of AVX2, which the machine must have. */
+double separateArithmeticOfAvx2();
+
+/** The same in the registers that every machine has. */
+double separateArithmeticOfBaseline();
+
+/** As wide as this machine has them again, each pair fused, as the peers may do it. */
 double fusedArithmetic();
 
 } // namespace korvel::bench

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
+#include <string>
 
 namespace korvel::bench
 {
@@ -15,10 +16,12 @@ namespace
  * again. */
 decltype(&cblas_dgemm) loadAgain()
 {
+    const char* const before = std::getenv("OPENBLAS_CORETYPE");
+    const std::string asked = before == nullptr ? "" : before;
     setenv("OPENBLAS_CORETYPE", "Sandybridge", 1);
     setenv("OPENBLAS_NUM_THREADS", "1", 1);
     void* const library = dlmopen(LM_ID_NEWLM, "libopenblas.so.0", RTLD_NOW);
-    unsetenv("OPENBLAS_CORETYPE");
+    setenv("OPENBLAS_CORETYPE", asked.c_str(), 1);
     unsetenv("OPENBLAS_NUM_THREADS");
     void* const dgemm = library == nullptr ? nullptr : dlsym(library, "cblas_dgemm");
     if (dgemm == nullptr) {

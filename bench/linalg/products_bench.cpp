@@ -1,7 +1,7 @@
 // Products beside OpenBLAS and Eigen, on the same tables and in turns in one run: the counters are the best
 // time of each and the share of the peer's time that ours takes. The peers may fuse a multiplication and an
 // addition, which halves their work and changes their bits; ours may not. They also run held to the
-// arithmetic of ours, as `..._apart`.
+// arithmetic of ours, as `..._apart`. The head of the report names the kernels that OpenBLAS runs.
 
 #include "linalg/arithmetic_peak.h"
 #include "linalg/blas_without_fusing.h"
@@ -9,6 +9,7 @@
 #include "linalg/kernels/product.h"
 #include "linalg/products.h"
 #include "linalg/products_symmetric.h"
+#include "linalg/products_triple.h"
 #include "support/stop_watch.h"
 
 #include <benchmark/benchmark.h>
@@ -17,6 +18,8 @@
 #include <cstddef>
 #include <omp.h>
 #include <random>
+#include <string>
+#include <vector>
 
 namespace
 {
@@ -51,10 +54,76 @@ private:
     int before_;
 };
 
+/** An instruction set that ours has a kernel for, and what a machine reaches with it in registers alone. */
+struct tested_set {
+    instruction_set set;
+    double (*arithmetic)();
+    std::string prefix; ///< of its counters
+};
+
+/** The sets of this machine, the best one first and its counters without a prefix. */
+std::vector<tested_set> setsOfThisMachine()
+{
+    std::vector<tested_set> sets;
+    for (const tested_set& one :
+         {tested_set{instruction_set::avx512, korvel::bench::separateArithmetic, "avx512_"},
+          tested_set{instruction_set::avx2, korvel::bench::separateArithmeticOfAvx2, "avx2_"},
+          tested_set{instruction_set::baseline, korvel::bench::separateArithmeticOfBaseline, "base_"}}) {
+        if (korvel::kernels::hasSet(one.set)) {
+            sets.push_back(one);
+        }
+    }
+    sets.front().prefix.clear();
+    return sets;
+}
+
+/** Work that is timed with each instruction set, beside the arithmetic in its registers and in turns. */
+class shares_of_peak
+{
+public:
+    template <class Work>
+    void time(Work work)
+    {
+        for (measured& one : all_) {
+            const korvel::kernels::forced_set forced(one.tested.set);
+            one.registers.time([&] { one.operations = one.tested.arithmetic(); });
+            one.ours.time(work);
+        }
+    }
+
+    /** The share of the peak that so many operations reach, as a counter for each set. */
+    void report(benchmark::State& state, double operations) const
+    {
+        for (const measured& one : all_) {
+            state.counters[one.tested.prefix + "of_peak"] =
+                operations / one.ours.milliseconds() * one.registers.milliseconds() / one.operations;
+        }
+    }
+
+private:
+    struct measured {
+        tested_set tested;
+        stop_watch ours{};
+        stop_watch registers{};
+        double operations = 0.0;
+    };
+
+    static std::vector<measured> watches()
+    {
+        std::vector<measured> made;
+        for (const tested_set& one : setsOfThisMachine()) {
+            made.push_back({one});
+        }
+        return made;
+    }
+
+    std::vector<measured> all_ = watches();
+};
+
 /**
  * A·B of order n on one thread, by the best kernel and by that of each lesser instruction set. `of_peak` is
- * the share of what multiplications and additions in registers alone reach; `fused_gain` is what fusing them
- * would gain there.
+ * the share of what multiplications and additions reach in the registers of that set alone; `fused_gain` is
+ * what fusing them would gain there.
  */
 void productOfTwo(benchmark::State& state)
 {
@@ -64,21 +133,13 @@ void productOfTwo(benchmark::State& state)
     matrix<double> C(n, n, 0.0);
     const threads one(1);
     stop_watch ours;
-    stop_watch avx2;
-    stop_watch baseline;
+    shares_of_peak shares;
     stop_watch dgemm;
     stop_watch eigen;
     stop_watch dgemmApart;
     stop_watch eigenApart;
     stop_watch separate;
     stop_watch fused;
-    double peakOperations = 0.0;
-    const auto timeSet = [&](instruction_set set, stop_watch& watch) {
-        if (korvel::kernels::hasSet(set)) {
-            const korvel::kernels::forced_set forced(set);
-            watch.time([&] { M_ProductAB(A, n, n, B, n, C); });
-        }
-    };
     for (auto _ : state) {
         dgemm.time([&] {
             cblas_dgemm(CblasColMajor, CblasNoTrans, CblasNoTrans, n, n, n, 1.0, A.data, n, B.data, n, 0.0,
@@ -88,22 +149,17 @@ void productOfTwo(benchmark::State& state)
         eigen.time([&] { korvel::bench::eigenProduct(A.data, B.data, C.data, n); });
         dgemmApart.time([&] { korvel::bench::dgemmWithoutFusing(A.data, B.data, C.data, n); });
         eigenApart.time([&] { korvel::bench::eigenSeparateProduct(A.data, B.data, C.data, n); });
-        timeSet(instruction_set::avx2, avx2);
-        timeSet(instruction_set::baseline, baseline);
-        separate.time([&] { peakOperations = korvel::bench::separateArithmetic(); });
-        fused.time([&] { peakOperations = korvel::bench::fusedArithmetic(); });
+        shares.time([&] { M_ProductAB(A, n, n, B, n, C); });
+        separate.time([&] { korvel::bench::separateArithmetic(); });
+        fused.time([&] { korvel::bench::fusedArithmetic(); });
     }
     state.counters["ours_ms"] = ours.milliseconds();
     state.counters["to_dgemm"] = ours.milliseconds() / dgemm.milliseconds();
     state.counters["to_eigen"] = ours.milliseconds() / eigen.milliseconds();
     state.counters["to_dgemm_apart"] = ours.milliseconds() / dgemmApart.milliseconds();
     state.counters["to_eigen_apart"] = ours.milliseconds() / eigenApart.milliseconds();
-    state.counters["avx2_to_dgemm_apart"] = avx2.milliseconds() / dgemmApart.milliseconds();
-    state.counters["avx2_to_dgemm"] = avx2.milliseconds() / dgemm.milliseconds();
-    state.counters["base_to_dgemm"] = baseline.milliseconds() / dgemm.milliseconds();
-    const double speed = 2e-6 * n * n * n / ours.milliseconds();
-    state.counters["Gflop/s"] = speed;
-    state.counters["of_peak"] = speed / (1e-6 * peakOperations / separate.milliseconds());
+    state.counters["Gflop/s"] = 2e-6 * n * n * n / ours.milliseconds();
+    shares.report(state, 2.0 * n * n * n);
     state.counters["fused_gain"] = separate.milliseconds() / fused.milliseconds();
 }
 
@@ -116,14 +172,73 @@ void productWithItself(benchmark::State& state)
     const threads one(1);
     stop_watch ours;
     stop_watch dsyrk;
+    shares_of_peak shares;
     for (auto _ : state) {
         dsyrk.time([&] {
             cblas_dsyrk(CblasColMajor, CblasUpper, CblasTrans, p, n, 1.0, A.data, n, 0.0, C.data, p);
         });
         ours.time([&] { M_ProductTrAA(&A, n, p, &C); });
+        shares.time([&] { M_ProductTrAA(&A, n, p, &C); });
     }
     state.counters["ours_ms"] = ours.milliseconds();
     state.counters["to_dsyrk"] = ours.milliseconds() / dsyrk.milliseconds();
+    // The half with its diagonal; where it cuts through tiles more is summed.
+    shares.report(state, 1.0 * n * p * (p + 1));
+}
+
+/** Products whose operands must be packed, or that use each row of a first product at once. */
+template <class Work>
+void packed(benchmark::State& state, double operations, Work work)
+{
+    const auto n = static_cast<int>(state.range(0));
+    matrix<double> A = randomTable(n, n, 1);
+    matrix<double> B = randomTable(n, n, 2);
+    matrix<double> C(n, n, 0.0);
+    const threads one(1);
+    shares_of_peak shares;
+    for (auto _ : state) {
+        shares.time([&] { work(n, A, B, C); });
+    }
+    shares.report(state, operations * n * n * n);
+}
+
+void transposedLeft(benchmark::State& state)
+{
+    packed(state, 2.0, [](int n, matrix<double>& A, matrix<double>& B, matrix<double>& C) {
+        matrix<double>* result = &C;
+        M_ProductTrAB(&A, n, n, &B, n, result);
+    });
+}
+
+void transposedRight(benchmark::State& state)
+{
+    packed(state, 2.0, [](int n, matrix<double>& A, matrix<double>& B, matrix<double>& C) {
+        M_ProductATrB(&A, n, n, &B, n, &C);
+    });
+}
+
+void chunkedTables(benchmark::State& state)
+{
+    packed(state, 2.0, [](int n, matrix<double>& A, matrix<double>& B, matrix<double>& C) {
+        std::vector<matrix<double>> columns;
+        std::vector<matrix<double>*> lists[3];
+        columns.reserve(3 * static_cast<std::size_t>(n));
+        matrix<double>* const tables[] = {&A, &B, &C};
+        for (int t = 0; t < 3; ++t) {
+            for (int j = 0; j < n; ++j) {
+                columns.emplace_back(n, 1, tables[t]->data + std::ptrdiff_t{n} * j, true);
+                lists[t].push_back(&columns.back());
+            }
+        }
+        M_ProductABSPV2(lists[0].data(), n, n, lists[1].data(), n, lists[2].data());
+    });
+}
+
+void threeTables(benchmark::State& state)
+{
+    packed(state, 4.0, [](int n, matrix<double>& A, matrix<double>& B, matrix<double>& C) {
+        M_ProductABC(&A, n, n, &B, n, &A, n, &C);
+    });
 }
 
 /** What a second thread gains, for ours, for the peer, and in registers alone: what this machine has to give.
@@ -190,6 +305,10 @@ void smallProduct(benchmark::State& state)
 }
 
 BENCHMARK(productOfTwo)->Arg(100)->Arg(500)->Arg(1000)->Arg(2000)->Unit(benchmark::kMillisecond);
+BENCHMARK(transposedLeft)->Arg(100)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(transposedRight)->Arg(100)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(chunkedTables)->Arg(100)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(threeTables)->Arg(100)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
 BENCHMARK(productWithItself)
     ->Args({100000, 20})
     ->Args({100000, 50})

@@ -1,0 +1,2 @@
+#define KORVEL_ARITHMETIC separateArithmeticOfAvx2
+#include "linalg/arithmetic_peak.inc"

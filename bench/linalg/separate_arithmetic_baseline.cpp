@@ -1,0 +1,2 @@
+#define KORVEL_ARITHMETIC separateArithmeticOfBaseline
+#include "linalg/arithmetic_peak.inc"
