@@ -53,6 +53,30 @@ void addColumn(running_variance& state, const Column& column, const weighted_row
                                                             const weighted_rows& rows);
 
 /**
+ * Calls `take(j, running_variance)` for each column in turn.
+ *
+ * @param table view of a table
+ * @param take  may write column `j`, but no later one
+ */
+template <class View, class Take>
+void forEachColumnState(const View& table, const weighted_rows& rows, int cols, Take take)
+{
+    // One column has nothing to run beside.
+    if (const auto columns = columnsInMemory(table, rows, cols > 1 ? cols : 0); !columns.empty()) {
+        const auto states = momentsInMemory(columns, rows);
+        for (int j = 0; j < cols; ++j) {
+            take(j, states[static_cast<std::size_t>(j)]);
+        }
+        return;
+    }
+    for (int j = 0; j < cols; ++j) {
+        running_variance state;
+        addColumn(state, table.column(j, rows.count), rows);
+        take(j, state);
+    }
+}
+
+/**
  * Calls `take(j, column_moments)` for each column in turn. With nothing kept the mean is 0.0 and the variance
  * what `V_Var` gives.
  *
@@ -63,21 +87,9 @@ template <class View, class Take>
 void forEachColumnMoments(const View& table, const weighted_rows& rows, int cols, denominator_choice how,
                           Take take)
 {
-    const auto finish = [&](int j, const running_variance& state) {
+    forEachColumnState(table, rows, cols, [&](int j, const running_variance& state) {
         take(j, column_moments{state.mean, state.variance(how.bUnbiased, how.bFreq)});
-    };
-    if (const auto columns = columnsInMemory(table, rows, cols); !columns.empty()) {
-        const auto states = momentsInMemory(columns, rows);
-        for (int j = 0; j < cols; ++j) {
-            finish(j, states[static_cast<std::size_t>(j)]);
-        }
-        return;
-    }
-    for (int j = 0; j < cols; ++j) {
-        running_variance state;
-        addColumn(state, table.column(j, rows.count), rows);
-        finish(j, state);
-    }
+    });
 }
 
 } // namespace korvel

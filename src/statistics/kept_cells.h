@@ -82,6 +82,18 @@ struct changed_table {
             changeKept(source.column(j, rows), rows, flags, cell, target.column(j, rows));
         }
     }
+
+    /** Zeros in the first `rows` cells of column `j`. */
+    void clear(int j, int rows) const
+    {
+        withCells(
+            [rows](auto& cells) {
+                for (int i = 0; i < rows; ++i) {
+                    cells.set(i, 0.0);
+                }
+            },
+            target.column(j, rows));
+    }
 };
 
 /** A table of any form, in place. */

@@ -1,19 +1,22 @@
 #include "statistics/standardize.h"
 
+#include "statistics/column_moments.h"
 #include "statistics/kept_cells.h"
-#include "statistics/running_variance.h"
 #include "statistics/stand_ins.h"
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace
 {
 
 using korvel::changing;
+using korvel::denominator_choice;
 using korvel::resizeResult;
 using korvel::running_variance;
 using korvel::storeChecked;
-using korvel::withCells;
+using korvel::weighted_rows;
 using korvel::withFlags;
 
 /** (x - mean) / sd, where a deviation of 0 is not divided by. */
@@ -22,17 +25,18 @@ auto standardizing(double mean, double sd)
     return [mean, divisor = sd == 0.0 ? 1.0 : sd](double x) { return (x - mean) / divisor; };
 }
 
-/** The state of the one-pass variance after a column. */
-template <class Column, class Flags>
-running_variance stateAfter(const Column& column, int rows, Flags flags, const matrix<double>* w)
+/** The rows of weight 0 that `V_Var` would count. They only matter to the mean weight. */
+std::vector<int> rowsOfWeightZero(const weighted_rows& rows, denominator_choice how)
 {
-    const auto add = [=](auto cells, auto weights) {
-        return korvel::accumulate<running_variance>(cells, rows, flags, weights);
-    };
-    if (w == nullptr) {
-        return withCells([=](auto cells) { return add(cells, korvel::unit_weights{}); }, column);
+    std::vector<int> found;
+    if (rows.weights != nullptr && how.bUnbiased == -1 && how.bFreq != -1) {
+        for (int i = 0; i < rows.count; ++i) {
+            if (rows.keeps(i) && rows.weight(i) == 0.0) {
+                found.push_back(i);
+            }
+        }
     }
-    return withCells(add, column, korvel::readVector(*w, rows));
+    return found;
 }
 
 /** Where the statistics of the columns go; each may be null. */
@@ -68,41 +72,37 @@ struct statistics_results {
  *
  * @param x a `changed_table`
  */
-template <class Changed, class Flags>
-void standardizeColumns(const Changed& x, int rows, int cols, const statistics_results& statistics,
-                        Flags flags, const matrix<double>* w, short int bUnbiased, short int bFreq)
+template <class Changed>
+void standardizeColumns(const Changed& x, const weighted_rows& rows, int cols,
+                        const statistics_results& statistics, denominator_choice how)
 {
-    int j = 0;
-    for (; j < cols; ++j) {
-        const running_variance state = stateAfter(x.source.column(j, rows), rows, flags, w);
-        const double denominator = state.denominator(bUnbiased, bFreq);
-        if (denominator == 0.0) {
+    const std::vector<int> weightless = rowsOfWeightZero(rows, how);
+    const auto isPresent = [&](int j) { return [&, j](int i) { return x.source.get(i, j) != MISSING_DBL; }; };
+    bool hasEnded = false;
+
+    const auto end = [&](int j) {
+        if (!hasEnded) {
             statistics.store(j, MISSING_DBL, MISSING_DBL, MISSING_DBL);
-            break;
+            hasEnded = true;
+        }
+        if (!x.inPlace) {
+            x.clear(j, rows.count);
+        }
+    };
+    const auto standardize = [&](int j, running_variance state) {
+        state.kept += static_cast<int>(std::count_if(weightless.begin(), weightless.end(), isPresent(j)));
+        const double denominator = state.denominator(how.bUnbiased, how.bFreq);
+        if (hasEnded || denominator == 0.0) {
+            end(j);
+            return;
         }
         const double variance = state.m2 / denominator;
         const double sd = std::sqrt(variance);
-        x.change(j, rows, flags, standardizing(state.mean, sd));
+        withFlags(rows.flags,
+                  [&](auto flags) { x.change(j, rows.count, flags, standardizing(state.mean, sd)); });
         statistics.store(j, state.mean, sd, variance);
-    }
-    if (!x.inPlace) {
-        const auto zeros = [rows](auto& cells) {
-            for (int i = 0; i < rows; ++i) {
-                cells.set(i, 0.0);
-            }
-        };
-        for (; j < cols; ++j) {
-            withCells(zeros, x.target.column(j, rows));
-        }
-    }
-}
-
-void standardizeVector(matrix<double>& x, int n, const short int* iMissing, const matrix<double>* w,
-                       short int bUnbiased, matrix<double>* out)
-{
-    withFlags(iMissing, [&](auto flags) {
-        standardizeColumns(korvel::changingVector(x, out), n, 1, {}, flags, w, bUnbiased, 0);
-    });
+    };
+    korvel::forEachColumnState(x.source, rows, cols, standardize);
 }
 
 } // namespace
@@ -114,20 +114,18 @@ void M_Standardize(matrix<double>* x, int rows, int cols, matrix<double>* out, m
     const statistics_results statistics{means, sds, vars};
     statistics.clear(cols);
     resizeResult(out, x, rows, cols);
-    withFlags(iMissing, [&](auto flags) {
-        standardizeColumns(changing(*x, out), rows, cols, statistics, flags, w, bUnbiased, bFreq);
-    });
+    standardizeColumns(changing(*x, out), {rows, iMissing, w}, cols, statistics, {bUnbiased, bFreq});
 }
 
 void V_Standardize2(matrix<double>* x, int n, short int* iMissing, matrix<double>* w, short int bUnbiased)
 {
-    standardizeVector(*x, n, iMissing, w, bUnbiased, nullptr);
+    standardizeColumns(korvel::changingVector(*x), {n, iMissing, w}, 1, {}, {bUnbiased, 0});
 }
 
 void korvel::standardizeInto(matrix<double>& x, int n, const short int* iMissing, const matrix<double>* w,
                              short int bUnbiased, matrix<double>& out)
 {
-    standardizeVector(x, n, iMissing, w, bUnbiased, &out);
+    standardizeColumns(korvel::changingVector(x, &out), {n, iMissing, w}, 1, {}, {bUnbiased, 0});
 }
 
 int M_StandardizeKnownMeansStDev(matrix<double>* x, int rows, int cols, matrix<double>* means,
