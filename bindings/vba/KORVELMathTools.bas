@@ -672,6 +672,11 @@ Public Declare PtrSafe Function Cpp_V_Trim Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
     ByVal labels As LongPtr, ByVal n As Long, ByVal bLeft As Integer, ByVal bRight As Integer) As Long
 
+' ---- platform/version.h
+
+' The version of the library that is loaded.
+Public Declare PtrSafe Function KORVEL_Version Lib "KORVELMathTools.dll" () As Long
+
 ' ---- random/indicator.h
 
 ' Marks a range of elements.

@@ -32,6 +32,7 @@
 #include "frames/ordering/sort_vector.h"
 #include "frames/ordering/survey_boxes.h"
 #include "frames/ordering/trim.h"
+#include "frames/platform/version.h"
 #include "frames/random/indicator.h"
 #include "frames/random/permutation.h"
 #include "frames/random/random_generators.h"

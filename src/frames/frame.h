@@ -28,25 +28,32 @@ namespace korvel::frame
     return cols != 0 ? cols : 1;
 }
 
+/** The caller's array for a core routine that reads it and declares it without `const`. */
+template <class T>
+[[nodiscard]] T* readOnly(const T* array)
+{
+    return const_cast<T*>(array);
+}
+
 /** The caller's array as it stands: read or changed in place, never freed. Allocates nothing. */
 template <class T>
-[[nodiscard]] matrix<T> borrow(T* array, int rows, int cols = 1)
+[[nodiscard]] matrix<T> borrow(const T* array, int rows, int cols = 1)
 {
-    return matrix<T>(rows, cols, array, true);
+    return matrix<T>(rows, cols, readOnly(array), true);
 }
 
 /** An owned copy of the caller's array. */
 template <class T>
-[[nodiscard]] matrix<T> copyIn(T* array, int rows, int cols = 1)
+[[nodiscard]] matrix<T> copyIn(const T* array, int rows, int cols = 1)
 {
-    return matrix<T>(rows, cols, array, false);
+    return matrix<T>(rows, cols, readOnly(array), false);
 }
 
 /** An owned copy on the heap, for core routines that take over or overwrite a table of their own. */
 template <class T>
-[[nodiscard]] std::unique_ptr<matrix<T>> copyToHeap(T* array, int rows, int cols = 1)
+[[nodiscard]] std::unique_ptr<matrix<T>> copyToHeap(const T* array, int rows, int cols = 1)
 {
-    return std::make_unique<matrix<T>>(rows, cols, array, false);
+    return std::make_unique<matrix<T>>(rows, cols, readOnly(array), false);
 }
 
 /** The caller's array as it stands, when there is one. */
@@ -87,9 +94,9 @@ void copyOut(const matrix<T>& result, T* array)
 }
 
 /** An owned copy of the caller's texts. */
-[[nodiscard]] inline matrix<text> readTexts(OLECHAR** block, int rows, int cols = 1)
+[[nodiscard]] inline matrix<text> readTexts(OLECHAR* const* block, int rows, int cols = 1)
 {
-    return matrix<text>(rows, cols, block, 0, 0);
+    return matrix<text>(rows, cols, readOnly(block), 0, 0);
 }
 
 /** Writes texts back over the caller's block; a BSTR that reads the same stays untouched. */
@@ -150,7 +157,7 @@ inline void bringBack(const matrix<text>& result, OLECHAR** block)
  * when they share memory with that; a copy of its texts.
  */
 template <numeric_element T, class R>
-[[nodiscard]] matrix<T> besides(const matrix<R>& written, T* array, int rows, int cols = 1)
+[[nodiscard]] matrix<T> besides(const matrix<R>& written, const T* array, int rows, int cols = 1)
 {
     const auto start = [](const auto* place) { return reinterpret_cast<std::uintptr_t>(place); };
     const auto bytes = [](int height, int width, std::size_t cell) {
@@ -174,7 +181,7 @@ template <numeric_element T, class R>
     return array != nullptr ? std::optional<matrix<T>>(besides(written, array, rows, cols)) : std::nullopt;
 }
 template <class R>
-[[nodiscard]] matrix<text> besides(const matrix<R>&, OLECHAR** block, int rows, int cols = 1)
+[[nodiscard]] matrix<text> besides(const matrix<R>&, OLECHAR* const* block, int rows, int cols = 1)
 {
     return readTexts(block, rows, cols);
 }

@@ -1,4 +1,4 @@
-/* A caller in strict C: the umbrella header and the shared library are all it has. */
+/* A caller in strict C99: the umbrella header and the shared library are all it has. */
 #include <korvelmathtools/KORVELMathTools.h>
 
 #include <stdio.h>
@@ -18,7 +18,7 @@ int main(void)
     short int flags[] = {0, 0, 0, -1};
     check(VB_V_Sum(values, 4, NULL, weights) == 18.0, "the weighted sum of a vector");
     check(VB_V_Sum(values, 4, flags, weights) == 10.0, "a flagged element is left out");
-    check(VB_IsMissingValueDbl(-1.79769313486231e308) == -1, "the missing number is missing");
+    check(VB_IsMissingValueDbl(KORVEL_MISSING_DBL) == -1, "the missing number is missing");
     check(VB_IsMissingValueDbl(0.0) == 0, "zero is not missing");
 
     const OLECHAR word[] = {'w', 'o', 'r', 'd', 0};
@@ -32,5 +32,7 @@ int main(void)
     SAFEARRAY* texts = SafeArrayCreate(VT_BSTR, 1, &bound);
     check(texts != NULL && ExtractBSTR(&texts) == texts->pvData, "the block of texts behind a host array");
     SafeArrayDestroy(texts);
+
+    check(KORVEL_Version() == KORVEL_VERSION_NUMBER, "headers and library are of one version");
     return failures != 0;
 }

@@ -1,4 +1,4 @@
-# Every header compiles alone: as C++, and those of the flat functions as strict C too. A header with a source of its
+# Every header compiles alone: as C++, and those of the flat functions as strict C99 too. A header with a source of its
 # own is shown to by that source, which includes it first (tools/check_includes sees to that); each other one gets a
 # source here. They are built by a test, and again only where something has changed.
 set(header_root ${KORVEL_PUBLIC_HEADERS}/korvelmathtools)
@@ -15,8 +15,8 @@ function(korvel_include_alone target suffix)
     endforeach()
     add_library(${target} OBJECT EXCLUDE_FROM_ALL ${sources})
     target_link_libraries(${target} PRIVATE korvel_objects)
-    target_compile_options(${target} PRIVATE -Werror)
-    set_target_properties(${target} PROPERTIES C_EXTENSIONS OFF)
+    target_compile_options(${target} PRIVATE -Werror -pedantic-errors)
+    set_target_properties(${target} PROPERTIES C_STANDARD 99 C_EXTENSIONS OFF)
     add_test(NAME package.${target} COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target ${target} -j 2)
     # Two builds at once in one folder would trip over each other.
     set_tests_properties(package.${target} PROPERTIES RESOURCE_LOCK build_folder)

@@ -65,8 +65,8 @@ SUM = """\
  *              Null: none is set
  * @return the sum
  */
-KORVEL_FLAT double VB_Sum(double* x, int n,
-                          short int* flags);
+KORVEL_FLAT double VB_Sum(const double* x, int n,
+                          const short int* flags);
 
 """
 
@@ -88,6 +88,7 @@ class Tree(unittest.TestCase):
         self.addCleanup(shutil.rmtree, self.root)
         self.write("include/korvelmathtools/KORVELMathTools.h", UMBRELLA)
         self.write("include/korvelmathtools/frames/types.h", COMMON)
+        self.write("VERSION", "1.20.3\n")
 
     def write(self, name, text):
         path = self.root / name
@@ -164,8 +165,9 @@ class MadeFiles(Tree):
  * @param m [in] cell
  * @param n [in] label
  */
-KORVEL_FLAT void VB_All(short int a, int* b, short int* c, OLECHAR** d, OLECHAR* e, SAFEARRAY** f, SAFEARRAY** g,
-                        SAFEARRAY** h, Hostarray** i, ST_Vect* j, ST_MVect* k, ST_QualiInfo* l, VARIANT* m,
+KORVEL_FLAT void VB_All(short int a, const int* b, short int* c, OLECHAR** d, const OLECHAR* e, SAFEARRAY** f,
+                        SAFEARRAY** g, SAFEARRAY** h, Hostarray** i, ST_Vect* j, ST_MVect* k, ST_QualiInfo* l,
+                        const VARIANT* m,
                         const char* n);
 """
         )
@@ -244,7 +246,7 @@ KORVEL_FLAT void openValue(void);
                     ### VB_Sum
 
                     ```c
-                    double VB_Sum(double* x, int n, short int* flags);
+                    double VB_Sum(const double* x, int n, const short int* flags);
                     ```
 
                     Sums a vector, e.g. of weights. Adds x\\[0\\] \\* `x[1]`.
@@ -286,6 +288,21 @@ KORVEL_FLAT void openValue(void);
         )
         self.assertEqual(self.read("exports/flat.txt"), "VB_Sum\n")
 
+    def test_version_header(self):
+        self.functions(SUM)
+        self.make()
+        header = self.read("include/korvelmathtools/platform/version.h").splitlines()
+        self.assertEqual(
+            [line for line in header if line.startswith("#define KORVEL_VERSION")],
+            [
+                '#define KORVEL_VERSION "1.20.3"',
+                "#define KORVEL_VERSION_MAJOR 1",
+                "#define KORVEL_VERSION_MINOR 20",
+                "#define KORVEL_VERSION_PATCH 3",
+                "#define KORVEL_VERSION_NUMBER 12003",
+            ],
+        )
+
     def test_puts_the_core_list_in_order(self):
         self.functions(SUM)
         self.write("exports/core.txt", "b()\na()\nb()\n")
@@ -310,8 +327,12 @@ class BrokenHeaders(Tree):
     def test_unknown_parameter_type(self):
         self.broken("int n,", "long n,", 10, "VB_Sum: unknown type 'long' of parameter n")
 
-    def test_const_array(self):
-        self.broken("double* x", "const double* x", 10, "VB_Sum: unknown type 'const double*' of parameter x")
+    def test_array_that_is_only_read(self):
+        self.broken("const double* x", "double* x", 4, "VB_Sum: @param x is only read: declare it const double*")
+
+    def test_const_array_that_is_written(self):
+        self.broken("x [in]", "x [out]", 4, "VB_Sum: @param x is written, but declared const double*")
+        self.broken("x [in]", "x [inout]", 4, "VB_Sum: @param x is written, but declared const double*")
 
     def test_unknown_result_type(self):
         self.broken("FLAT double", "FLAT float", 10, "VB_Sum: unknown result type 'float'")
@@ -323,7 +344,7 @@ class BrokenHeaders(Tree):
         self.broken("int n,", "int,", 10, "VB_Sum: cannot read the parameter 'int'")
 
     def test_array_brackets(self):
-        self.broken("double* x", "double x[]", 10, "VB_Sum: cannot read the parameter 'double x[]'")
+        self.broken("const double* x", "double x[]", 10, "VB_Sum: cannot read the parameter 'double x[]'")
 
     def test_empty_parameter_list(self):
         self.functions("/** Does it. */\nKORVEL_FLAT void VB_A();\n")

@@ -4,9 +4,19 @@ import re
 from dataclasses import dataclass, field
 
 SCALARS = ("double", "int", "short int")
-ARRAYS = ("double*", "int*", "short int*")
-RECORDS = ("ST_Vect*", "ST_MVect*", "ST_QualiInfo*")
-POINTERS = ARRAYS + RECORDS + ("OLECHAR*", "OLECHAR**", "SAFEARRAY**", "Hostarray**", "VARIANT*", "const char*")
+# The type of an array that is written, and of one that is only read.
+ARRAYS = {
+    "double*": "const double*",
+    "int*": "const int*",
+    "short int*": "const short int*",
+    "OLECHAR*": "const OLECHAR*",
+    "OLECHAR**": "OLECHAR* const*",
+    "VARIANT*": "const VARIANT*",
+}
+READ_ONLY = {read: written for written, read in ARRAYS.items()}
+# Wrapping a record or a chunked table writes to it, even where the routine only reads.
+REFERENCES = ("ST_Vect*", "ST_MVect*", "ST_QualiInfo*", "SAFEARRAY**", "Hostarray**")
+POINTERS = (*ARRAYS, *READ_ONLY, *REFERENCES, "const char*")
 RESULTS = SCALARS + ("void", "OLECHAR**")
 HOST_ARRAY_ELEMENTS = ("Double", "Long", "Boolean", "String")
 
@@ -66,6 +76,11 @@ class Parameter:
     @property
     def nullable(self):
         return any(re.search(r"\bNull:", line) for line in self.text)
+
+    @property
+    def plain_type(self):
+        """The type as it would be if the array were written."""
+        return READ_ONLY.get(self.type, self.type)
 
     @property
     def host_element(self):
@@ -196,6 +211,10 @@ def describe(function, problem):
         parameter.text = tag.text
         if parameter.type in POINTERS and not direction:
             problem(tag.line, f"{function.name}: @param {tag.name} needs [in], [out] or [inout]")
+        if parameter.type in ARRAYS and parameter.direction == "in":
+            problem(tag.line, f"{function.name}: @param {tag.name} is only read: declare it {ARRAYS[parameter.type]}")
+        if parameter.type in READ_ONLY and parameter.direction in ("out", "inout"):
+            problem(tag.line, f"{function.name}: @param {tag.name} is written, but declared {parameter.type}")
         if parameter.type in SCALARS and direction:
             problem(tag.line, f"{function.name}: @param {tag.name} is passed by value and has no direction")
         if not one_line(tag.text):

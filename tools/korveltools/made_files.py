@@ -1,4 +1,4 @@
-"""The committed files that are made from the flat headers, as {path below the root: content}."""
+"""The committed files that are made from the flat headers and from VERSION, as {path below the root: content}."""
 
 from . import core_list, flat_headers, reference_page, vba_module
 
@@ -15,6 +15,30 @@ def module_definition(headers):
     return "LIBRARY KORVELMathTools\nEXPORTS\n" + "".join(f"    {name}\n" for name in names_of(headers))
 
 
+def version_header(root):
+    """The C header that says what VERSION says."""
+    version = (root / "VERSION").read_text(encoding="ascii").strip()
+    major, minor, patch = map(int, version.split("."))
+    return f"""\
+/**
+ * @file
+ * The version of the library, made from VERSION by tools/generate: edit that instead.
+ */
+#ifndef KORVEL_PLATFORM_VERSION_H
+#define KORVEL_PLATFORM_VERSION_H
+
+#define KORVEL_VERSION "{version}"
+#define KORVEL_VERSION_MAJOR {major}
+#define KORVEL_VERSION_MINOR {minor}
+#define KORVEL_VERSION_PATCH {patch}
+
+/** 10000 times the major number, plus 100 times the minor one, plus the patch. */
+#define KORVEL_VERSION_NUMBER {10000 * major + 100 * minor + patch}
+
+#endif
+"""
+
+
 def make(root):
     """All made files, and the problems found in the headers, which make the files worthless."""
     headers, common, problems = flat_headers.read_all(root)
@@ -29,6 +53,7 @@ def make(root):
         "bindings/KORVELMathTools.def": module_definition(headers),
         "bindings/vba/KORVELMathTools.bas": vba_module.make(headers, problem),
         "docs/reference.md": reference_page.make(headers, common.title),
+        f"{flat_headers.HEADERS}/platform/version.h": version_header(root),
         core_list.NAME: core_list.in_order(core_list.read(root)),
     }
     return made, problems

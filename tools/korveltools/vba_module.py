@@ -83,11 +83,11 @@ def declare_parameter(parameter, taken):
     if parameter.type == "SAFEARRAY**":
         element = parameter.host_element
         return f"ByVal {name} As LongPtr" if element == "String" else f"ByRef {name}() As {element}"
-    if parameter.type in BY_VALUE:
-        return f"ByVal {name} As {BY_VALUE[parameter.type]}"
+    if parameter.plain_type in BY_VALUE:
+        return f"ByVal {name} As {BY_VALUE[parameter.plain_type]}"
     if parameter.nullable:
         return f"ByRef {name} As Any"
-    return f"ByRef {name} As {BY_REFERENCE[parameter.type]}"
+    return f"ByRef {name} As {BY_REFERENCE[parameter.plain_type]}"
 
 
 def first_sentence(text):
@@ -100,8 +100,8 @@ def first_sentence(text):
 def comment(function):
     sentences = [first_sentence(function.doc.text)]
     for parameter in function.parameters:
-        if parameter.nullable and parameter.type in BY_REFERENCE:
-            sentences.append(f"{parameter.name} ({BY_REFERENCE[parameter.type]}) may be null.")
+        if parameter.nullable and parameter.plain_type in BY_REFERENCE:
+            sentences.append(f"{parameter.name} ({BY_REFERENCE[parameter.plain_type]}) may be null.")
     return textwrap.wrap(" ".join(sentences), WIDTH, initial_indent="' ", subsequent_indent="' ")
 
 

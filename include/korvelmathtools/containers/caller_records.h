@@ -8,7 +8,6 @@
 
 #include "platform/automation.h"
 
-#include <assert.h>
 #include <stddef.h>
 
 /** One column of a chunked table, 16 bytes. */
@@ -57,21 +56,24 @@ typedef struct ST_QualiInfo {
     int CheckType;
 } ST_QualiInfo;
 
-/* Every offset and size, for whoever compiles this header. */
+/* Every offset and size, for whoever compiles this header. C99 has no static assertion: an array of -1
+ * elements does not compile. */
+#define KORVEL_HOLDS(name, condition) typedef char korvel_##name[(condition) ? 1 : -1]
+#define KORVEL_SIZE(record, size) KORVEL_HOLDS(size_of_##record, sizeof(record) == (size))
 #define KORVEL_FIELD_AT(record, field, offset, size)                                                         \
-    static_assert(offsetof(record, field) == (offset) && sizeof(((record*)0)->field) == (size),              \
-                  #record "." #field " is out of place")
+    KORVEL_HOLDS(place_of_##record##_##field,                                                                \
+                 offsetof(record, field) == (offset) && sizeof(((record*)0)->field) == (size))
 
-static_assert(sizeof(Hostarray) == 16, "size of Hostarray");
+KORVEL_SIZE(Hostarray, 16);
 KORVEL_FIELD_AT(Hostarray, numbers, 0, 8);
 KORVEL_FIELD_AT(Hostarray, texts, 8, 8);
 
-static_assert(sizeof(ST_Vect) == 24, "size of ST_Vect");
+KORVEL_SIZE(ST_Vect, 24);
 KORVEL_FIELD_AT(ST_Vect, Count, 0, 4);
 KORVEL_FIELD_AT(ST_Vect, Label, 8, 8);
 KORVEL_FIELD_AT(ST_Vect, Vect, 16, 8);
 
-static_assert(sizeof(ST_MVect) == 40, "size of ST_MVect");
+KORVEL_SIZE(ST_MVect, 40);
 KORVEL_FIELD_AT(ST_MVect, nbcols, 0, 4);
 KORVEL_FIELD_AT(ST_MVect, samenbrows, 4, 2);
 KORVEL_FIELD_AT(ST_MVect, nbrowsmax, 8, 4);
@@ -79,7 +81,7 @@ KORVEL_FIELD_AT(ST_MVect, nbrows, 16, 8);
 KORVEL_FIELD_AT(ST_MVect, Vectors, 24, 8);
 KORVEL_FIELD_AT(ST_MVect, CLabels, 32, 8);
 
-static_assert(sizeof(ST_QualiInfo) == 208, "size of ST_QualiInfo");
+KORVEL_SIZE(ST_QualiInfo, 208);
 KORVEL_FIELD_AT(ST_QualiInfo, Count, 0, 4);
 KORVEL_FIELD_AT(ST_QualiInfo, SumW, 8, 8);
 KORVEL_FIELD_AT(ST_QualiInfo, MaxNbCat, 16, 4);
@@ -101,5 +103,7 @@ KORVEL_FIELD_AT(ST_QualiInfo, withLongLabels, 200, 2);
 KORVEL_FIELD_AT(ST_QualiInfo, CheckType, 204, 4);
 
 #undef KORVEL_FIELD_AT
+#undef KORVEL_SIZE
+#undef KORVEL_HOLDS
 
 #endif

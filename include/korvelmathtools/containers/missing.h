@@ -5,21 +5,21 @@
 #ifndef KORVEL_CONTAINERS_MISSING_H
 #define KORVEL_CONTAINERS_MISSING_H
 
+#include "containers/missing_values.h"
 #include "platform/automation.h"
 #include "platform/export.h"
 
 #include <cmath>
-#include <limits>
 #include <string>
 
 /** Text as this library keeps it: UTF-16 code units, on every system. */
 using text = std::basic_string<char16_t>;
 
-/** The missing number: 29 units in the last place above the most negative double (0xFFEFFFFFFFFFFFE2). */
-inline constexpr double MISSING_DBL = -1.79769313486231e308;
+/** The missing number. */
+inline constexpr double MISSING_DBL = KORVEL_MISSING_DBL;
 
 /** The missing integer. */
-inline constexpr int MISSING_LNG = std::numeric_limits<int>::min();
+inline constexpr int MISSING_LNG = KORVEL_MISSING_LNG;
 
 /**
  * Tells whether a text is missing, that is, empty.

@@ -5,7 +5,7 @@
  *
  * On Windows these are the system's own. Elsewhere this header declares the same names with the same memory
  * layout, and the library KORVELAutomation implements what callers and this library need of them. The header
- * is plain C.
+ * is plain C99.
  */
 #ifndef KORVEL_PLATFORM_AUTOMATION_H
 #define KORVEL_PLATFORM_AUTOMATION_H
@@ -20,9 +20,6 @@
 
 #include <stddef.h>
 #include <stdint.h>
-#if !defined(__cplusplus)
-#include <uchar.h>
-#endif
 
 #define KORVEL_AUTOMATION_API __attribute__((visibility("default")))
 
@@ -30,7 +27,11 @@
 extern "C" {
 #endif
 
+#if defined(__cplusplus)
 typedef char16_t OLECHAR;
+#else
+typedef uint_least16_t OLECHAR;
+#endif
 typedef OLECHAR* BSTR;
 typedef uint16_t USHORT;
 typedef uint16_t WORD;
@@ -111,7 +112,8 @@ typedef struct tagVARIANT {
     uint16_t wReserved1;
     uint16_t wReserved2;
     uint16_t wReserved3;
-    union {
+    /* C99 has no union without a name; compilers do. */
+    __extension__ union {
         int64_t llVal;
         LONG lVal;
         int16_t iVal;

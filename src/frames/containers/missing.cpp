@@ -21,7 +21,7 @@ short int VB_IsMissingValueDbl(double x)
     return isMissingOrdered(x) ? -1 : 0;
 }
 
-short int VB_IsMissingValueStr(VARIANT* cell)
+short int VB_IsMissingValueStr(const VARIANT* cell)
 {
     switch (cell->vt) {
     case VT_BSTR:

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int Cpp_CopyDblToMVDbl(double* m, int rows, int cols, ST_MVect* mv)
+int Cpp_CopyDblToMVDbl(const double* m, int rows, int cols, ST_MVect* mv)
 {
     auto source = frame::borrow(m, rows, cols);
     auto target = frame::record<double>(mv);

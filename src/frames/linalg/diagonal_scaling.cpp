@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_ProductADiag(double* a, int n, int p, double* d, double* c)
+int VB_M_ProductADiag(const double* a, int n, int p, const double* d, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, p, p);
@@ -14,7 +14,7 @@ int VB_M_ProductADiag(double* a, int n, int p, double* d, double* c)
     return 0;
 }
 
-int VB_M_ProductTrADiag(double* a, int n, int p, double* d, double* c)
+int VB_M_ProductTrADiag(const double* a, int n, int p, const double* d, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, n, n);
@@ -23,7 +23,7 @@ int VB_M_ProductTrADiag(double* a, int n, int p, double* d, double* c)
     return 0;
 }
 
-int VB_M_ProductADiagV(double* a, int n, int p, double* d, double* c)
+int VB_M_ProductADiagV(const double* a, int n, int p, const double* d, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, p);
@@ -32,7 +32,7 @@ int VB_M_ProductADiagV(double* a, int n, int p, double* d, double* c)
     return 0;
 }
 
-int VB_M_ProductDiagVA(double* d, int n, double* a, int p, double* c)
+int VB_M_ProductDiagVA(const double* d, int n, const double* a, int p, double* c)
 {
     auto diagonal = frame::copyIn(d, n);
     auto table = frame::copyIn(a, n, p);
@@ -41,7 +41,7 @@ int VB_M_ProductDiagVA(double* d, int n, double* a, int p, double* c)
     return 0;
 }
 
-int VB_M_ProductDiagV1ADiagV2(double* d1, int n, double* a, int p, double* d2, double* c)
+int VB_M_ProductDiagV1ADiagV2(const double* d1, int n, const double* a, int p, const double* d2, double* c)
 {
     auto left = frame::copyIn(d1, n);
     auto table = frame::copyIn(a, n, p);
@@ -51,7 +51,7 @@ int VB_M_ProductDiagV1ADiagV2(double* d1, int n, double* a, int p, double* d2, d
     return 0;
 }
 
-int VB_M_ProductTrADiagV(double* a, int n, int p, double* d, double* c)
+int VB_M_ProductTrADiagV(const double* a, int n, int p, const double* d, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, n);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_ScalarsA(double* a, int n, int p, double s, double* c)
+int VB_M_ScalarsA(const double* a, int n, int p, double s, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto result = frame::borrow(c, n, p);
@@ -20,7 +20,7 @@ int VB_M_ScalarsA2(double* a, int n, int p, double s)
     return 0;
 }
 
-int VB_M_ScalarsTrA(double* a, int n, int p, double s, double* c)
+int VB_M_ScalarsTrA(const double* a, int n, int p, double s, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto result = frame::borrow(c, p, n);
@@ -28,7 +28,7 @@ int VB_M_ScalarsTrA(double* a, int n, int p, double s, double* c)
     return 0;
 }
 
-int VB_M_APlusVal(double* a, int n, int p, double s, double* c)
+int VB_M_APlusVal(const double* a, int n, int p, double s, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto result = frame::borrow(c, n, p);
@@ -50,7 +50,7 @@ int VB_M_Square(double* a, int n, int p)
     return 0;
 }
 
-int VB_M_ProductByElement(double* a, int n, int p, double* b, double* c)
+int VB_M_ProductByElement(const double* a, int n, int p, const double* b, double* c)
 {
     auto left = frame::copyIn(a, n, p);
     auto right = frame::copyIn(b, n, p);
@@ -59,7 +59,7 @@ int VB_M_ProductByElement(double* a, int n, int p, double* b, double* c)
     return 0;
 }
 
-int Cpp_SumMat(double* a, double* b, int n, int p, double* c)
+int Cpp_SumMat(const double* a, const double* b, int n, int p, double* c)
 {
     auto left = frame::copyIn(a, n, p);
     auto right = frame::copyIn(b, n, p);

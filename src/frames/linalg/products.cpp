@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_ProductAB(double* a, int n, int p, double* b, int q, double* c)
+int VB_M_ProductAB(const double* a, int n, int p, const double* b, int q, double* c)
 {
     auto left = frame::copyIn(a, n, p);
     auto right = frame::copyIn(b, p, q);
@@ -13,7 +13,7 @@ int VB_M_ProductAB(double* a, int n, int p, double* b, int q, double* c)
     return M_ProductAB(left, n, p, right, q, product);
 }
 
-int VB_M_ProductABLng(int* a, int n, int p, int* b, int q, int* c)
+int VB_M_ProductABLng(const int* a, int n, int p, const int* b, int q, int* c)
 {
     auto left = frame::copyIn(a, n, p);
     auto right = frame::copyIn(b, p, q);
@@ -21,7 +21,7 @@ int VB_M_ProductABLng(int* a, int n, int p, int* b, int q, int* c)
     return M_ProductAB(&left, n, p, &right, q, &product);
 }
 
-int VB_M_ProductTrAB(double* a, int n, int p, double* b, int q, double* c)
+int VB_M_ProductTrAB(const double* a, int n, int p, const double* b, int q, double* c)
 {
     auto left = frame::copyIn(a, n, p);
     auto right = frame::copyIn(b, n, q);
@@ -31,7 +31,7 @@ int VB_M_ProductTrAB(double* a, int n, int p, double* b, int q, double* c)
     return 0;
 }
 
-int VB_M_ProductATrB(double* a, int n, int p, double* b, int m, double* c)
+int VB_M_ProductATrB(const double* a, int n, int p, const double* b, int m, double* c)
 {
     auto left = frame::copyIn(a, n, p);
     auto right = frame::copyIn(b, m, p);
@@ -40,7 +40,7 @@ int VB_M_ProductATrB(double* a, int n, int p, double* b, int m, double* c)
     return 0;
 }
 
-int VB_M_ProductADiagVB(double* a, int n, int p, double* d, double* b, int q, double* c)
+int VB_M_ProductADiagVB(const double* a, int n, int p, const double* d, const double* b, int q, double* c)
 {
     auto left = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, p);
@@ -50,7 +50,7 @@ int VB_M_ProductADiagVB(double* a, int n, int p, double* d, double* b, int q, do
     return 0;
 }
 
-int VB_M_ProductADiagVTrB(double* a, int n, int p, double* d, double* b, int m, double* c)
+int VB_M_ProductADiagVTrB(const double* a, int n, int p, const double* d, const double* b, int m, double* c)
 {
     auto left = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, p);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_ProductABMissing(double* a, int n, int p, double* b, int q, double* c)
+int VB_M_ProductABMissing(const double* a, int n, int p, const double* b, int q, double* c)
 {
     auto left = frame::copyIn(a, n, p);
     auto right = frame::copyIn(b, p, q);

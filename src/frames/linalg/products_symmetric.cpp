@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_ProductTrAA(double* a, int n, int p, double* c)
+int VB_M_ProductTrAA(const double* a, int n, int p, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto product = frame::borrow(c, p, p);
@@ -13,7 +13,7 @@ int VB_M_ProductTrAA(double* a, int n, int p, double* c)
     return 0;
 }
 
-int Cpp_M_ProductTrAALng(int* a, int n, int p, int* c)
+int Cpp_M_ProductTrAALng(const int* a, int n, int p, int* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto product = frame::borrow(c, p, p);
@@ -21,7 +21,7 @@ int Cpp_M_ProductTrAALng(int* a, int n, int p, int* c)
     return 0;
 }
 
-int VB_M_ProductATrA(double* a, int n, int p, double* c)
+int VB_M_ProductATrA(const double* a, int n, int p, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto product = frame::borrow(c, n, n);
@@ -29,7 +29,7 @@ int VB_M_ProductATrA(double* a, int n, int p, double* c)
     return 0;
 }
 
-int VB_M_ProductADTrA(double* a, int n, int p, double* d, double* c)
+int VB_M_ProductADTrA(const double* a, int n, int p, const double* d, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, p, p);
@@ -38,7 +38,7 @@ int VB_M_ProductADTrA(double* a, int n, int p, double* d, double* c)
     return 0;
 }
 
-int VB_M_ProductTrADA(double* a, int n, int p, double* d, double* c)
+int VB_M_ProductTrADA(const double* a, int n, int p, const double* d, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, n, n);
@@ -47,7 +47,7 @@ int VB_M_ProductTrADA(double* a, int n, int p, double* d, double* c)
     return 0;
 }
 
-int VB_M_ProductTrADiagVA(double* a, int n, int p, double* d, double* c)
+int VB_M_ProductTrADiagVA(const double* a, int n, int p, const double* d, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, n);
@@ -56,7 +56,7 @@ int VB_M_ProductTrADiagVA(double* a, int n, int p, double* d, double* c)
     return 0;
 }
 
-int VB_M_ProductADiagVTrA(double* a, int n, int p, double* d, double* c)
+int VB_M_ProductADiagVTrA(const double* a, int n, int p, const double* d, double* c)
 {
     auto table = frame::copyIn(a, n, p);
     auto diagonal = frame::copyIn(d, p);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_ProductBV(double* b, int n, int p, double* v, double* y)
+int VB_M_ProductBV(const double* b, int n, int p, const double* v, double* y)
 {
     auto table = frame::copyIn(b, n, p);
     auto vector = frame::copyIn(v, p);
@@ -13,7 +13,7 @@ int VB_M_ProductBV(double* b, int n, int p, double* v, double* y)
     return M_ProductBV(&table, n, p, &vector, &product);
 }
 
-int VB_M_ProductVB(double* v, int n, double* b, int q, double* y)
+int VB_M_ProductVB(const double* v, int n, const double* b, int q, double* y)
 {
     auto vector = frame::copyIn(v, n);
     auto table = frame::copyIn(b, n, q);
@@ -23,7 +23,7 @@ int VB_M_ProductVB(double* v, int n, double* b, int q, double* y)
     return 0;
 }
 
-int VB_M_ProductTrBV(double* b, int n, int p, double* v, double* y)
+int VB_M_ProductTrBV(const double* b, int n, int p, const double* v, double* y)
 {
     auto table = frame::copyIn(b, n, p);
     auto vector = frame::copyIn(v, n);
@@ -32,7 +32,7 @@ int VB_M_ProductTrBV(double* b, int n, int p, double* v, double* y)
     return 0;
 }
 
-int VB_M_ProductVTrB(double* v, int n, double* b, int m, double* y)
+int VB_M_ProductVTrB(const double* v, int n, const double* b, int m, double* y)
 {
     auto vector = frame::copyIn(v, n);
     auto table = frame::copyIn(b, m, n);
@@ -41,14 +41,14 @@ int VB_M_ProductVTrB(double* v, int n, double* b, int m, double* y)
     return 0;
 }
 
-double VB_M_ProductTrVBV(double* v, int n, double* b)
+double VB_M_ProductTrVBV(const double* v, int n, const double* b)
 {
     auto vector = frame::borrow(v, n);
     auto table = frame::borrow(b, n, n);
     return M_ProductTrVBV(&vector, n, &table);
 }
 
-double VB_M_ProductTrV1BV2(double* x1, int n, double* b, double* x2)
+double VB_M_ProductTrV1BV2(const double* x1, int n, const double* b, const double* x2)
 {
     auto first = frame::borrow(x1, n);
     auto table = frame::borrow(b, n, n);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_ProductABTrA(double* a, int n, int p, double* b, short int symmetric, double* c)
+int VB_M_ProductABTrA(const double* a, int n, int p, const double* b, short int symmetric, double* c)
 {
     auto outer = frame::copyIn(a, n, p);
     auto inner = frame::copyIn(b, p, p);
@@ -14,7 +14,7 @@ int VB_M_ProductABTrA(double* a, int n, int p, double* b, short int symmetric, d
     return 0;
 }
 
-int VB_M_ProductTrABA(double* a, int n, int p, double* b, short int symmetric, double* c)
+int VB_M_ProductTrABA(const double* a, int n, int p, const double* b, short int symmetric, double* c)
 {
     auto outer = frame::copyIn(a, n, p);
     auto inner = frame::copyIn(b, n, n);
@@ -23,7 +23,7 @@ int VB_M_ProductTrABA(double* a, int n, int p, double* b, short int symmetric, d
     return 0;
 }
 
-int VB_M_ProductABC(double* a, int n, int p, double* b, int q, double* c, int r, double* d)
+int VB_M_ProductABC(const double* a, int n, int p, const double* b, int q, const double* c, int r, double* d)
 {
     auto first = frame::copyIn(a, n, p);
     auto second = frame::copyIn(b, p, q);
@@ -33,7 +33,8 @@ int VB_M_ProductABC(double* a, int n, int p, double* b, int q, double* c, int r,
     return 0;
 }
 
-int VB_M_ProductTrABC(double* a, int n, int p, double* b, int q, double* c, int r, double* d)
+int VB_M_ProductTrABC(const double* a, int n, int p, const double* b, int q, const double* c, int r,
+                      double* d)
 {
     auto first = frame::copyIn(a, n, p);
     auto second = frame::copyIn(b, n, q);
@@ -43,7 +44,8 @@ int VB_M_ProductTrABC(double* a, int n, int p, double* b, int q, double* c, int 
     return 0;
 }
 
-int VB_M_ProductATrBC(double* a, int n, int p, double* b, int q, double* c, int r, double* d)
+int VB_M_ProductATrBC(const double* a, int n, int p, const double* b, int q, const double* c, int r,
+                      double* d)
 {
     auto first = frame::copyIn(a, n, p);
     auto second = frame::copyIn(b, q, p);
@@ -53,7 +55,7 @@ int VB_M_ProductATrBC(double* a, int n, int p, double* b, int q, double* c, int 
     return 0;
 }
 
-int Cpp_M_ProductTrABV(double* a, int n, int p, double* b, int q, double* v, double* y)
+int Cpp_M_ProductTrABV(const double* a, int n, int p, const double* b, int q, const double* v, double* y)
 {
     auto first = frame::copyIn(a, n, p);
     auto second = frame::copyIn(b, n, q);

@@ -5,14 +5,14 @@
 
 using namespace korvel;
 
-double VB_V_ProductTrV1V2(double* x1, int n, double* x2)
+double VB_V_ProductTrV1V2(const double* x1, int n, const double* x2)
 {
     auto left = frame::borrow(x1, n);
     auto right = frame::borrow(x2, n);
     return V_ProductTrV1V2(&left, n, &right);
 }
 
-int VB_V_ProductV1V2(double* x1, int n, double* x2, double* y)
+int VB_V_ProductV1V2(const double* x1, int n, const double* x2, double* y)
 {
     auto left = frame::copyIn(x1, n);
     auto right = frame::copyIn(x2, n);
@@ -21,7 +21,7 @@ int VB_V_ProductV1V2(double* x1, int n, double* x2, double* y)
     return 0;
 }
 
-int VB_V_ProductV1V22(double* x1, int n, double* x2)
+int VB_V_ProductV1V22(double* x1, int n, const double* x2)
 {
     auto left = frame::borrow(x1, n);
     auto right = frame::copyIn(x2, n);
@@ -29,7 +29,7 @@ int VB_V_ProductV1V22(double* x1, int n, double* x2)
     return 0;
 }
 
-int VB_V_ProductV1TrV2(double* x1, int n, double* x2, double* c)
+int VB_V_ProductV1TrV2(const double* x1, int n, const double* x2, double* c)
 {
     auto left = frame::copyIn(x1, n);
     auto right = frame::copyIn(x2, n);
@@ -38,13 +38,13 @@ int VB_V_ProductV1TrV2(double* x1, int n, double* x2, double* c)
     return 0;
 }
 
-double VB_V_Product1toNDbl(double* v, int n)
+double VB_V_Product1toNDbl(const double* v, int n)
 {
     auto vector = frame::borrow(v, n);
     return V_Product1toN(&vector, n);
 }
 
-double VB_V_Product1toNLng(int* v, int n)
+double VB_V_Product1toNLng(const int* v, int n)
 {
     auto vector = frame::borrow(v, n);
     return V_Product1toN(&vector, n);

@@ -21,17 +21,17 @@ int applyOrder(T* x, int rows, int cols, double* order, T* out)
 
 } // namespace
 
-int VB_SortApply(double* x, int rows, int cols, double* order, double* out)
+int VB_SortApply(const double* x, int rows, int cols, const double* order, double* out)
 {
     return applyOrder(x, rows, cols, order, out);
 }
 
-int VB_SortApplyLng(int* x, int rows, int cols, double* order, int* out)
+int VB_SortApplyLng(const int* x, int rows, int cols, const double* order, int* out)
 {
     return applyOrder(x, rows, cols, order, out);
 }
 
-int VB_SortApplyStr(OLECHAR** x, int rows, int cols, double* order, OLECHAR** out)
+int VB_SortApplyStr(OLECHAR* const* x, int rows, int cols, const double* order, OLECHAR** out)
 {
     auto table = frame::readTexts(x, rows, cols);
     auto positions = frame::borrow(order, rows);
@@ -41,7 +41,7 @@ int VB_SortApplyStr(OLECHAR** x, int rows, int cols, double* order, OLECHAR** ou
     return 0;
 }
 
-int VB_SortApply2(double* x, int rows, int cols, double* order)
+int VB_SortApply2(double* x, int rows, int cols, const double* order)
 {
     auto table = frame::borrow(x, rows, cols);
     auto positions = frame::borrow(order, rows);
@@ -49,7 +49,7 @@ int VB_SortApply2(double* x, int rows, int cols, double* order)
     return 0;
 }
 
-int VB_SortApply2Lng(int* x, int rows, int cols, double* order)
+int VB_SortApply2Lng(int* x, int rows, int cols, const double* order)
 {
     auto table = frame::borrow(x, rows, cols);
     auto positions = frame::borrow(order, rows);
@@ -57,7 +57,7 @@ int VB_SortApply2Lng(int* x, int rows, int cols, double* order)
     return 0;
 }
 
-int Cpp_SortApply2Bool(short int* x, int rows, int cols, double* order)
+int Cpp_SortApply2Bool(short int* x, int rows, int cols, const double* order)
 {
     auto table = frame::borrow(x, rows, cols);
     auto positions = frame::borrow(order, rows);
@@ -65,7 +65,7 @@ int Cpp_SortApply2Bool(short int* x, int rows, int cols, double* order)
     return 0;
 }
 
-int VB_SortApply2Str(OLECHAR** x, int rows, int cols, double* order)
+int VB_SortApply2Str(OLECHAR** x, int rows, int cols, const double* order)
 {
     auto table = frame::readTexts(x, rows, cols);
     auto positions = frame::borrow(order, rows);
@@ -74,7 +74,7 @@ int VB_SortApply2Str(OLECHAR** x, int rows, int cols, double* order)
     return 0;
 }
 
-int Cpp_SortApply2_ST(ST_MVect* x, int rows, int cols, double* order)
+int Cpp_SortApply2_ST(ST_MVect* x, int rows, int cols, const double* order)
 {
     cST_MVect<double> table(x);
     auto positions = frame::borrow(order, rows);

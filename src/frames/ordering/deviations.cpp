@@ -5,21 +5,21 @@
 
 using namespace korvel;
 
-double Cpp_V_MeanAbsDev(double* x, int n, double centre, short int* iMissing, double* w)
+double Cpp_V_MeanAbsDev(const double* x, int n, double centre, const short int* iMissing, const double* w)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_MeanAbsDev(&values, n, centre, iMissing, &weights);
 }
 
-double Cpp_V_MedianAbsDev(double* x, int n, double centre, short int* iMissing, double* w)
+double Cpp_V_MedianAbsDev(const double* x, int n, double centre, const short int* iMissing, const double* w)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_MedianAbsDev(&values, n, centre, iMissing, &weights);
 }
 
-double Cpp_V_MedianAbsDev2(double* x, int n, double* centre)
+double Cpp_V_MedianAbsDev2(const double* x, int n, double* centre)
 {
     auto values = frame::borrow(x, n);
     return V_MedianAbsDev2(&values, n, *centre);

@@ -5,25 +5,25 @@
 
 using namespace korvel;
 
-int VB_V_NbDistinct(double* x, int n)
+int VB_V_NbDistinct(const double* x, int n)
 {
     auto values = frame::borrow(x, n);
     return V_NbDistinct(&values, n);
 }
 
-int VB_V_NbDistinctLng(int* x, int n)
+int VB_V_NbDistinctLng(const int* x, int n)
 {
     auto values = frame::borrow(x, n);
     return V_NbDistinct(&values, n);
 }
 
-int Cpp_V_NbDistinctStr(OLECHAR** x, int n)
+int Cpp_V_NbDistinctStr(OLECHAR* const* x, int n)
 {
     auto values = frame::readTexts(x, n);
     return V_NbDistinct(&values, n);
 }
 
-int VB_V_ExtractDistinct(double* x, int n, double* out, int* nOut)
+int VB_V_ExtractDistinct(const double* x, int n, double* out, int* nOut)
 {
     auto values = frame::borrow(x, n);
     auto distinct = frame::borrow(out, n);

@@ -5,13 +5,13 @@
 
 using namespace korvel;
 
-double VB_V_ModeCatDbl(double* x, int n)
+double VB_V_ModeCatDbl(const double* x, int n)
 {
     auto values = frame::borrow(x, n);
     return V_ModeCat(&values, n);
 }
 
-int VB_V_Mode(OLECHAR** labels, int n, short int* iMissing, double* w, OLECHAR** mode)
+int VB_V_Mode(OLECHAR* const* labels, int n, const short int* iMissing, const double* w, OLECHAR** mode)
 {
     auto texts = frame::readTexts(labels, n);
     auto weights = frame::borrow(w, n);
@@ -20,7 +20,7 @@ int VB_V_Mode(OLECHAR** labels, int n, short int* iMissing, double* w, OLECHAR**
     return 0;
 }
 
-int Cpp_V_ModeW2(OLECHAR** labels, int n, double* w, OLECHAR** mode)
+int Cpp_V_ModeW2(OLECHAR* const* labels, int n, const double* w, OLECHAR** mode)
 {
     auto texts = frame::readTexts(labels, n);
     auto weights = frame::borrow(w, n);

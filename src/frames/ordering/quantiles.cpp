@@ -5,33 +5,33 @@
 
 using namespace korvel;
 
-double VB_V_Quantile(double* x, int n, double q)
+double VB_V_Quantile(const double* x, int n, double q)
 {
     auto values = frame::borrow(x, n);
     return V_Quantile(&values, n, q);
 }
 
-double VB_V_QuantileW(double* x, int n, double* w, double q)
+double VB_V_QuantileW(const double* x, int n, const double* w, double q)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_QuantileW(&values, n, &weights, q);
 }
 
-double Cpp_V_QuantileW2(double* x, int n, double* w, double q)
+double Cpp_V_QuantileW2(const double* x, int n, const double* w, double q)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_QuantileW2(&values, n, &weights, q);
 }
 
-double VB_V_QuantileM(double* x, int n, short int* iMissing, double q)
+double VB_V_QuantileM(const double* x, int n, const short int* iMissing, double q)
 {
     auto values = frame::borrow(x, n);
     return V_QuantileM(&values, n, iMissing, q);
 }
 
-double VB_V_QuantileMW(double* x, int n, short int* iMissing, double* w, double q)
+double VB_V_QuantileMW(const double* x, int n, const short int* iMissing, const double* w, double q)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_V_GetRanksDbl(double* x, int n, double* out)
+int VB_V_GetRanksDbl(const double* x, int n, double* out)
 {
     auto values = frame::borrow(x, n);
     auto ranks = frame::borrow(out, n);
@@ -13,7 +13,7 @@ int VB_V_GetRanksDbl(double* x, int n, double* out)
     return 0;
 }
 
-int VB_V_GetRanksLng(double* x, int n, int* out)
+int VB_V_GetRanksLng(const double* x, int n, int* out)
 {
     auto values = frame::borrow(x, n);
     auto ranks = frame::borrow(out, n);
@@ -41,7 +41,8 @@ int VB_V_GetRanksTiesDbl2(double* x, int n, short int bRestore, double* ranks, i
     return 0;
 }
 
-int VB_V_GetRanksTiesIntDbl(double* x, int n, double* w, double* ranks, int* nTies, double* tieSizes)
+int VB_V_GetRanksTiesIntDbl(const double* x, int n, const double* w, double* ranks, int* nTies,
+                            double* tieSizes)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_V_ReverseDbl(double* x, int n, double* out)
+int VB_V_ReverseDbl(const double* x, int n, double* out)
 {
     auto result = frame::borrow(out, n);
     auto values = frame::besides(result, x, n);
@@ -13,7 +13,7 @@ int VB_V_ReverseDbl(double* x, int n, double* out)
     return 0;
 }
 
-int VB_V_ReverseBool(short int* x, int n, short int* out)
+int VB_V_ReverseBool(const short int* x, int n, short int* out)
 {
     const auto flags = frame::besides(frame::borrow(out, n), x, n);
     V_ReverseBool(flags.data, n, out);

@@ -36,7 +36,7 @@ int Cpp_SortQVector2Str(OLECHAR** x, int n, int from, int to, short int bDesc, i
     return 0;
 }
 
-short int VB_V_IsSorted(double* x, int n, short int bStrict)
+short int VB_V_IsSorted(const double* x, int n, short int bStrict)
 {
     auto values = frame::borrow(x, n);
     return V_IsSorted(&values, n, bStrict != 0);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int Cpp_V_TopBottom3Box(double* x, int n, double* w, double* top1, double* bottom1, double* top2,
+int Cpp_V_TopBottom3Box(const double* x, int n, const double* w, double* top1, double* bottom1, double* top2,
                         double* bottom2, double* top3, double* bottom3)
 {
     auto scores = frame::borrow(x, n);
@@ -14,7 +14,7 @@ int Cpp_V_TopBottom3Box(double* x, int n, double* w, double* top1, double* botto
     return 0;
 }
 
-int Cpp_V_TopBottom3BoxConditional(double* x, int n, double* w, double* group, double groupValue,
+int Cpp_V_TopBottom3BoxConditional(const double* x, int n, double* w, const double* group, double groupValue,
                                    double* top1, double* bottom1, double* top2, double* bottom2, double* top3,
                                    double* bottom3)
 {

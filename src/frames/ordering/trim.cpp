@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int Cpp_V_Trim(OLECHAR** labels, int n, short int bLeft, short int bRight, OLECHAR** out)
+int Cpp_V_Trim(OLECHAR* const* labels, int n, short int bLeft, short int bRight, OLECHAR** out)
 {
     auto texts = frame::readTexts(labels, n);
     auto result = frame::blank<text>(n);

@@ -10,7 +10,7 @@ namespace
 
 /** Lets `draw(from, to)` fill the sample from the table, and writes it back. */
 template <class Draw>
-int sampleTexts(OLECHAR** table, int rows, int cols, OLECHAR** sample, int sampleRows, Draw draw)
+int sampleTexts(OLECHAR* const* table, int rows, int cols, OLECHAR** sample, int sampleRows, Draw draw)
 {
     auto from = frame::readTexts(table, rows, cols);
     auto to = frame::readTexts(sample, sampleRows, cols);
@@ -32,7 +32,7 @@ int sampleChunks(Hostarray** table, int rows, int cols, Hostarray** sample, int 
 
 } // namespace
 
-int VB_M_SamplingWithReplacement(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
+int VB_M_SamplingWithReplacement(OLECHAR* const* table, int rows, int cols, int k, OLECHAR** sample,
                                  double* selected, int* seed, short int flag, int* nextSeed)
 {
     auto numbers = frame::borrow(selected, k);
@@ -41,7 +41,7 @@ int VB_M_SamplingWithReplacement(OLECHAR** table, int rows, int cols, int k, OLE
     });
 }
 
-int VB_M_SampleUserDefined(OLECHAR** table, int rows, int cols, OLECHAR** sample, double* counts,
+int VB_M_SampleUserDefined(OLECHAR* const* table, int rows, int cols, OLECHAR** sample, const double* counts,
                            double* selected)
 {
     auto copies = frame::borrow(counts, rows);
@@ -52,7 +52,7 @@ int VB_M_SampleUserDefined(OLECHAR** table, int rows, int cols, OLECHAR** sample
     });
 }
 
-int VB_M_SampleUserDefinedSPV(Hostarray** table, int rows, int cols, Hostarray** sample, double* counts,
+int VB_M_SampleUserDefinedSPV(Hostarray** table, int rows, int cols, Hostarray** sample, const double* counts,
                               double* selected)
 {
     auto copies = frame::borrow(counts, rows);
@@ -63,7 +63,7 @@ int VB_M_SampleUserDefinedSPV(Hostarray** table, int rows, int cols, Hostarray**
     });
 }
 
-int VB_M_SamplingSystematicRdStart(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
+int VB_M_SamplingSystematicRdStart(OLECHAR* const* table, int rows, int cols, int k, OLECHAR** sample,
                                    double* selected, int* seed, short int flag, int* nextSeed)
 {
     auto marks = frame::borrow(selected, rows);
@@ -81,7 +81,7 @@ int VB_M_SamplingSystematicRdStartSPV(Hostarray** table, int rows, int cols, int
     });
 }
 
-int VB_M_SamplingSystematicCentered(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
+int VB_M_SamplingSystematicCentered(OLECHAR* const* table, int rows, int cols, int k, OLECHAR** sample,
                                     double* selected)
 {
     auto marks = frame::borrow(selected, rows);
@@ -99,7 +99,7 @@ int VB_M_SamplingSystematicCenteredSPV(Hostarray** table, int rows, int cols, in
     });
 }
 
-int VB_M_SamplingRandomStratified(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
+int VB_M_SamplingRandomStratified(OLECHAR* const* table, int rows, int cols, int k, OLECHAR** sample,
                                   double* selected, int* seed, short int flag, int* nextSeed)
 {
     auto numbers = frame::borrow(selected, k);
@@ -117,9 +117,9 @@ int VB_M_SamplingRandomStratifiedSPV(Hostarray** table, int rows, int cols, int 
     });
 }
 
-int Cpp_M_SamplingRandomStratifiedByStr(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
-                                        OLECHAR** strata, double* selected, double* counts, int nCounts,
-                                        int* seed, short int flag, int* nextSeed)
+int Cpp_M_SamplingRandomStratifiedByStr(OLECHAR* const* table, int rows, int cols, int k, OLECHAR** sample,
+                                        OLECHAR* const* strata, double* selected, const double* counts,
+                                        int nCounts, int* seed, short int flag, int* nextSeed)
 {
     auto labels = frame::readTexts(strata, rows);
     auto numbers = frame::borrow(selected, k);

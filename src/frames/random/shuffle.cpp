@@ -34,7 +34,8 @@ int Cpp_M_ShuffleStr2(OLECHAR** x, int rows, int cols, int* seed, short int flag
     return 0;
 }
 
-int Cpp_M_ShuffleDbl(double* x, int rows, int cols, double* out, int* seed, short int flag, int* nextSeed)
+int Cpp_M_ShuffleDbl(const double* x, int rows, int cols, double* out, int* seed, short int flag,
+                     int* nextSeed)
 {
     auto result = frame::borrow(out, rows, cols);
     const auto table = frame::besides(result, x, rows, cols);
@@ -42,7 +43,8 @@ int Cpp_M_ShuffleDbl(double* x, int rows, int cols, double* out, int* seed, shor
     return 0;
 }
 
-int Cpp_M_ShuffleStr(OLECHAR** x, int rows, int cols, OLECHAR** out, int* seed, short int flag, int* nextSeed)
+int Cpp_M_ShuffleStr(OLECHAR* const* x, int rows, int cols, OLECHAR** out, int* seed, short int flag,
+                     int* nextSeed)
 {
     auto table = frame::readTexts(x, rows, cols);
     auto result = frame::filling(out, rows, cols);

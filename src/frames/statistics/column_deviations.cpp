@@ -5,8 +5,8 @@
 
 using namespace korvel;
 
-int VB_M_MeanStDev(double* x, int rows, int cols, double* means, double* sds, short int* iMissing, double* w,
-                   short int bUnbiased, short int bFreq, short int flag)
+int VB_M_MeanStDev(const double* x, int rows, int cols, double* means, double* sds, const short int* iMissing,
+                   const double* w, short int bUnbiased, short int bFreq, short int flag)
 {
     auto table = frame::borrow(x, rows, cols);
     auto foundMeans = frame::borrow(means, cols);
@@ -16,8 +16,8 @@ int VB_M_MeanStDev(double* x, int rows, int cols, double* means, double* sds, sh
     return 0;
 }
 
-int VB_M_MeanStDevVar(double* x, int rows, int cols, double* means, double* sds, double* vars,
-                      short int* iMissing, double* w, short int bUnbiased, short int bFreq)
+int VB_M_MeanStDevVar(const double* x, int rows, int cols, double* means, double* sds, double* vars,
+                      const short int* iMissing, const double* w, short int bUnbiased, short int bFreq)
 {
     auto table = frame::borrow(x, rows, cols);
     auto foundMeans = frame::borrow(means, cols);
@@ -29,7 +29,7 @@ int VB_M_MeanStDevVar(double* x, int rows, int cols, double* means, double* sds,
     return 0;
 }
 
-int VB_M_MeanStDevByRow(double* x, int rows, int cols, double* means, double* sds, double* w,
+int VB_M_MeanStDevByRow(const double* x, int rows, int cols, double* means, double* sds, const double* w,
                         short int bUnbiased, short int bFreq)
 {
     auto table = frame::borrow(x, rows, cols);
@@ -44,8 +44,8 @@ int VB_M_MeanStDevByRow(double* x, int rows, int cols, double* means, double* sd
     return 0;
 }
 
-int VB_M_MeanStDevVarOneInMat(double* x, int rows, int cols, double* mean, double* sd, double* var, double* w,
-                              short int bUnbiased, short int bFreq)
+int VB_M_MeanStDevVarOneInMat(const double* x, int rows, int cols, double* mean, double* sd, double* var,
+                              const double* w, short int bUnbiased, short int bFreq)
 {
     auto table = frame::borrow(x, rows, cols);
     auto weights = frame::borrow(w, rows);

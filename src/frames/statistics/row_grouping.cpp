@@ -5,7 +5,8 @@
 
 using namespace korvel;
 
-int VB_M_GroupBy(double* x, int rows, int cols, int* kinds, int groupCol, int method, int* nOut, double* out)
+int VB_M_GroupBy(const double* x, int rows, int cols, const int* kinds, int groupCol, int method, int* nOut,
+                 double* out)
 {
     auto result = frame::borrow(out, rows, cols);
     auto table = frame::besides(result, x, rows, cols);
@@ -14,8 +15,8 @@ int VB_M_GroupBy(double* x, int rows, int cols, int* kinds, int groupCol, int me
     return 0;
 }
 
-int VB_M_GroupByW(double* x, int rows, int cols, int* kinds, int groupCol, int method, int* nOut, double* out,
-                  double* w)
+int VB_M_GroupByW(const double* x, int rows, int cols, const int* kinds, int groupCol, int method, int* nOut,
+                  double* out, const double* w)
 {
     auto result = frame::borrow(out, rows, cols);
     auto table = frame::besides(result, x, rows, cols);
@@ -25,7 +26,7 @@ int VB_M_GroupByW(double* x, int rows, int cols, int* kinds, int groupCol, int m
     return 0;
 }
 
-int VB_M_Dedupe(double* x, int rows, int p, int* nOut, double* out)
+int VB_M_Dedupe(const double* x, int rows, int p, int* nOut, double* out)
 {
     auto result = frame::borrow(out, rows, p + 3);
     auto table = frame::besides(result, x, rows, p + 1);

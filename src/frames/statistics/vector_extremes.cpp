@@ -6,35 +6,35 @@
 
 using namespace korvel;
 
-double VB_V_Min(double* x, int n, short int* iMissing)
+double VB_V_Min(const double* x, int n, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
     return V_Min(&values, n, iMissing);
 }
 
-double VB_V_Min2(double* x, int n)
+double VB_V_Min2(const double* x, int n)
 {
     return V_Min2(frame::borrow(x, n), n);
 }
 
-double VB_V_Min2Lng(int* x, int n)
+double VB_V_Min2Lng(const int* x, int n)
 {
     auto values = frame::borrow(x, n);
     return V_Min2(&values, n);
 }
 
-double VB_V_Max(double* x, int n, short int* iMissing)
+double VB_V_Max(const double* x, int n, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
     return V_Max(&values, n, iMissing);
 }
 
-double VB_V_Max2(double* x, int n)
+double VB_V_Max2(const double* x, int n)
 {
     return V_Max2(frame::borrow(x, n), n);
 }
 
-double VB_V_Max2Lng(int* x, int n)
+double VB_V_Max2Lng(const int* x, int n)
 {
     auto values = frame::borrow(x, n);
     return V_Max(&values, n, nullptr);
@@ -51,47 +51,47 @@ double Cpp_V_Max2Lng_ST(SAFEARRAY** sa, int n)
     return V_Max(&values, n, nullptr);
 }
 
-int VB_V_MaxInt(int* x, int n, short int* iMissing)
+int VB_V_MaxInt(const int* x, int n, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
     return truncateToInt(V_Max(&values, n, iMissing));
 }
 
-int VB_V_MinMax(double* x, int n, double* min, double* max, short int* iMissing)
+int VB_V_MinMax(const double* x, int n, double* min, double* max, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
     V_MinMax(&values, n, min, max, iMissing);
     return 0;
 }
 
-int VB_V_MinMaxLng(int* x, int n, double* min, double* max, short int* iMissing)
+int VB_V_MinMaxLng(const int* x, int n, double* min, double* max, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
     V_MinMax(&values, n, min, max, iMissing);
     return 0;
 }
 
-int VB_V_MinMax2(double* x, int n, double* min, double* max, short int bSkipMissing)
+int VB_V_MinMax2(const double* x, int n, double* min, double* max, short int bSkipMissing)
 {
     auto values = frame::borrow(x, n);
     V_MinMax2(&values, n, min, max, bSkipMissing);
     return 0;
 }
 
-int VB_V_MinMaxLng2(int* x, int n, double* min, double* max, short int bSkipMissing)
+int VB_V_MinMaxLng2(const int* x, int n, double* min, double* max, short int bSkipMissing)
 {
     auto values = frame::borrow(x, n);
     V_MinMax2(&values, n, min, max, bSkipMissing);
     return 0;
 }
 
-double VB_V_MinAndMinPos(double* x, int n, int* pos, short int bLast)
+double VB_V_MinAndMinPos(const double* x, int n, int* pos, short int bLast)
 {
     auto values = frame::borrow(x, n);
     return V_MinAndMinPos(&values, n, pos, bLast != 0);
 }
 
-double VB_V_MaxAndMaxPos(double* x, int n, int* pos)
+double VB_V_MaxAndMaxPos(const double* x, int n, int* pos)
 {
     auto values = frame::borrow(x, n);
     return V_MaxAndMaxPos(&values, n, pos);

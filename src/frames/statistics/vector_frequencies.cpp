@@ -5,21 +5,21 @@
 
 using namespace korvel;
 
-double VB_V_Freq(double* x, int n, double* w, double value, double tol)
+double VB_V_Freq(const double* x, int n, const double* w, double value, double tol)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_Freq(&values, n, &weights, value, tol);
 }
 
-double VB_V_FreqLng(int* x, int n, double* w, double value, double tol)
+double VB_V_FreqLng(const int* x, int n, const double* w, double value, double tol)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_Freq(&values, n, &weights, value, tol);
 }
 
-double VB_V_FreqStr(OLECHAR** labels, int n, double* w, OLECHAR* value)
+double VB_V_FreqStr(OLECHAR* const* labels, int n, const double* w, const OLECHAR* value)
 {
     auto texts = frame::readTexts(labels, n);
     auto weights = frame::borrow(w, n);

@@ -5,40 +5,41 @@
 
 using namespace korvel;
 
-double VB_V_Mean(double* x, int n, short int* iMissing, double* w)
+double VB_V_Mean(const double* x, int n, const short int* iMissing, const double* w)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_Mean(&values, n, iMissing, &weights);
 }
 
-double VB_V_MeanAbs(double* x, int n, short int* iMissing, double* w)
+double VB_V_MeanAbs(const double* x, int n, const short int* iMissing, const double* w)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_MeanAbs(&values, n, iMissing, &weights);
 }
 
-double VB_V_Mean2(double* x, int n)
+double VB_V_Mean2(const double* x, int n)
 {
     return V_Mean2(frame::borrow(x, n), n);
 }
 
-double Cpp_V_MeanW2(double* x, int n, double* w)
+double Cpp_V_MeanW2(const double* x, int n, const double* w)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_MeanW2(&values, n, &weights);
 }
 
-double Cpp_V_HarmonicMean(double* x, int n, short int* iMissing, double* w)
+double Cpp_V_HarmonicMean(const double* x, int n, const short int* iMissing, const double* w)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_HarmonicMean(&values, n, iMissing, &weights);
 }
 
-int Cpp_V_GMeanGSD(double* x, int n, short int* iMissing, double* w, double* gmean, double* gsd)
+int Cpp_V_GMeanGSD(const double* x, int n, const short int* iMissing, const double* w, double* gmean,
+                   double* gsd)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);

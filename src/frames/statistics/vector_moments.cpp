@@ -5,9 +5,9 @@
 
 using namespace korvel;
 
-int VB_V_MeanVarSkewPKurtP(double* x, int n, double* mean, double* var, double* skewP, double* kurtP,
-                           double* skew, double* kurt, double* seSkew, double* seKurt, short int* iMissing,
-                           double* w, short int bUnbiased, short int bFreq)
+int VB_V_MeanVarSkewPKurtP(const double* x, int n, double* mean, double* var, double* skewP, double* kurtP,
+                           double* skew, double* kurt, double* seSkew, double* seKurt,
+                           const short int* iMissing, const double* w, short int bUnbiased, short int bFreq)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);

@@ -5,27 +5,29 @@
 
 using namespace korvel;
 
-double VB_V_Var(double* x, int n, short int* iMissing, double* w, short int bUnbiased, short int bFreq)
+double VB_V_Var(const double* x, int n, const short int* iMissing, const double* w, short int bUnbiased,
+                short int bFreq)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_Var(&values, n, iMissing, &weights, bUnbiased, bFreq);
 }
 
-double Cpp_V_Var2(double* x, int n, short int bUnbiased, short int bFreq)
+double Cpp_V_Var2(const double* x, int n, short int bUnbiased, short int bFreq)
 {
     return unweightedVariance(frame::borrow(x, n), n, bUnbiased, bFreq);
 }
 
-double VB_V_Stdev(double* x, int n, short int* iMissing, double* w, short int bUnbiased, short int bFreq)
+double VB_V_Stdev(const double* x, int n, const short int* iMissing, const double* w, short int bUnbiased,
+                  short int bFreq)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
     return V_Stdev(&values, n, iMissing, &weights, bUnbiased, bFreq);
 }
 
-int VB_V_MeanVar(double* x, int n, double* mean, double* var, short int* iMissing, double* w,
-                 short int bUnbiased, short int bFreq)
+int VB_V_MeanVar(const double* x, int n, double* mean, double* var, const short int* iMissing,
+                 const double* w, short int bUnbiased, short int bFreq)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
@@ -33,7 +35,7 @@ int VB_V_MeanVar(double* x, int n, double* mean, double* var, short int* iMissin
     return 0;
 }
 
-int Cpp_V_MeanVarW2(double* x, int n, double* w, double* mean, double* var, short int bUnbiased,
+int Cpp_V_MeanVarW2(const double* x, int n, const double* w, double* mean, double* var, short int bUnbiased,
                     short int bFreq)
 {
     auto values = frame::borrow(x, n);
@@ -42,8 +44,8 @@ int Cpp_V_MeanVarW2(double* x, int n, double* w, double* mean, double* var, shor
     return 0;
 }
 
-int VB_V_MeanStdev(double* x, int n, double* mean, double* sd, short int* iMissing, double* w,
-                   short int bUnbiased, short int bFreq)
+int VB_V_MeanStdev(const double* x, int n, double* mean, double* sd, const short int* iMissing,
+                   const double* w, short int bUnbiased, short int bFreq)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
@@ -51,7 +53,7 @@ int VB_V_MeanStdev(double* x, int n, double* mean, double* sd, short int* iMissi
     return 0;
 }
 
-int Cpp_V_MeanStdev2(double* x, int n, short int bUnbiased, double* mean, double* sd)
+int Cpp_V_MeanStdev2(const double* x, int n, short int bUnbiased, double* mean, double* sd)
 {
     auto values = frame::borrow(x, n);
     V_MeanStdev2(&values, n, bUnbiased, *mean, *sd);

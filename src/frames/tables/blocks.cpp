@@ -10,7 +10,8 @@ namespace
 {
 
 template <class Cell>
-int copyToCorner(Cell* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol, Cell* out)
+int copyToCorner(const Cell* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
+                 Cell* out)
 {
     auto block = frame::filling(out, countOf(firstRow, lastRow), countOf(firstCol, lastCol));
     auto table = frame::besides(block, x, rows, cols);
@@ -31,8 +32,8 @@ int copyBlockOfChunks(Core core, const frame::chunk_list<double>& table, int fir
 
 /** `core` copies a block of a table to a place in another. */
 template <class Cell, class Core>
-int copyAndPaste(Core core, Cell* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
-                 Cell* y, int yRows, int yCols, int row, int col)
+int copyAndPaste(Core core, const Cell* x, int rows, int cols, int firstRow, int lastRow, int firstCol,
+                 int lastCol, Cell* y, int yRows, int yCols, int row, int col)
 {
     auto other = frame::changing(y, yRows, yCols);
     auto table = frame::besides(other, x, rows, cols);
@@ -42,7 +43,7 @@ int copyAndPaste(Core core, Cell* x, int rows, int cols, int firstRow, int lastR
 }
 
 template <class Cell>
-int paste(Cell* x, int rows, int cols, Cell* y, int yRows, int yCols, int row, int col)
+int paste(const Cell* x, int rows, int cols, Cell* y, int yRows, int yCols, int row, int col)
 {
     auto larger = frame::changing(y, yRows, yCols);
     auto table = frame::besides(larger, x, rows, cols);
@@ -52,14 +53,14 @@ int paste(Cell* x, int rows, int cols, Cell* y, int yRows, int yCols, int row, i
 
 } // namespace
 
-int VB_M_CopyBlock(double* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
+int VB_M_CopyBlock(const double* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
                    double* out)
 {
     return copyToCorner(x, rows, frame::columns(cols), firstRow, lastRow, firstCol, lastCol, out);
 }
 
-int VB_M_CopyBlockStr(OLECHAR** x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
-                      OLECHAR** out)
+int VB_M_CopyBlockStr(OLECHAR* const* x, int rows, int cols, int firstRow, int lastRow, int firstCol,
+                      int lastCol, OLECHAR** out)
 {
     return copyToCorner(x, rows, frame::columns(cols), firstRow, lastRow, firstCol, lastCol, out);
 }
@@ -85,24 +86,24 @@ int Cpp_M_CopyBlockSPV2_T(Hostarray** x, int n, int firstRow, int lastRow, int f
                              lastCol, out);
 }
 
-int VB_M_PasteBlock(double* x, int rows, int cols, double* y, int yRows, int yCols, int row, int col)
+int VB_M_PasteBlock(const double* x, int rows, int cols, double* y, int yRows, int yCols, int row, int col)
 {
     return paste(x, rows, frame::columns(cols), y, yRows, frame::columns(yCols), row, col);
 }
 
-int VB_M_PasteBlockLng(int* x, int rows, int cols, int* y, int yRows, int yCols, int row, int col)
+int VB_M_PasteBlockLng(const int* x, int rows, int cols, int* y, int yRows, int yCols, int row, int col)
 {
     return paste(x, rows, frame::columns(cols), y, yRows, frame::columns(yCols), row, col);
 }
 
-int Cpp_M_CopyPasteBlock(double* x, int rows, int cols, int firstRow, int lastRow, int firstCol, int lastCol,
-                         double* y, int yRows, int yCols, int row, int col)
+int Cpp_M_CopyPasteBlock(const double* x, int rows, int cols, int firstRow, int lastRow, int firstCol,
+                         int lastCol, double* y, int yRows, int yCols, int row, int col)
 {
     return copyAndPaste(M_CopyPasteBlock, x, rows, frame::columns(cols), firstRow, lastRow, firstCol, lastCol,
                         y, yRows, frame::columns(yCols), row, col);
 }
 
-int Cpp_M_CopyPasteBlockStr(OLECHAR** x, int rows, int cols, int firstRow, int lastRow, int firstCol,
+int Cpp_M_CopyPasteBlockStr(OLECHAR* const* x, int rows, int cols, int firstRow, int lastRow, int firstCol,
                             int lastCol, OLECHAR** y, int yRows, int yCols, int row, int col)
 {
     return copyAndPaste(M_CopyPasteBlockStr, x, rows, frame::columns(cols), firstRow, lastRow, firstCol,

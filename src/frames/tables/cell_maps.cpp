@@ -10,7 +10,7 @@ namespace
 
 using core_map = void (*)(matrix<double>*, int, int, matrix<double>*);
 
-int map(core_map core, double* x, int rows, int cols, double* y)
+int map(core_map core, const double* x, int rows, int cols, double* y)
 {
     auto result = frame::filling(y, rows, frame::columns(cols));
     auto values = frame::besides(result, x, rows, frame::columns(cols));
@@ -20,17 +20,17 @@ int map(core_map core, double* x, int rows, int cols, double* y)
 
 } // namespace
 
-int VB_M_LogMatrix(double* x, int rows, int cols, double* y)
+int VB_M_LogMatrix(const double* x, int rows, int cols, double* y)
 {
     return map(M_LogMatrix, x, rows, cols, y);
 }
 
-int VB_M_Log10Matrix(double* x, int rows, int cols, double* y)
+int VB_M_Log10Matrix(const double* x, int rows, int cols, double* y)
 {
     return map(M_Log10Matrix, x, rows, cols, y);
 }
 
-int Cpp_M_SquareRootAij(double* x, int rows, int cols, double* y)
+int Cpp_M_SquareRootAij(const double* x, int rows, int cols, double* y)
 {
     return map(M_SquareRootAij, x, rows, cols, y);
 }

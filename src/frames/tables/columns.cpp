@@ -9,8 +9,8 @@ namespace
 {
 
 template <class From, class To>
-int duplicate(From* x, int rows, int cols, int col, int from, int to, To* y, int yRows, int yCols, int row,
-              int yCol)
+int duplicate(const From* x, int rows, int cols, int col, int from, int to, To* y, int yRows, int yCols,
+              int row, int yCol)
 {
     auto target = frame::changing(y, yRows, yCols);
     auto source = frame::besides(target, x, rows, cols);
@@ -31,7 +31,7 @@ int duplicateHostArray(SAFEARRAY** x, int col, int from, int to, SAFEARRAY** y, 
 
 } // namespace
 
-int VB_CopyMatrixColToMatrixCol(double* x, int rows, int cols, int col, double* y, int yRows, int yCols,
+int VB_CopyMatrixColToMatrixCol(const double* x, int rows, int cols, int col, double* y, int yRows, int yCols,
                                 int colTo, short int bReset)
 {
     auto to = frame::changing(y, yRows, frame::columns(yCols));
@@ -40,7 +40,7 @@ int VB_CopyMatrixColToMatrixCol(double* x, int rows, int cols, int col, double* 
     return 0;
 }
 
-int VB_CopyMatrixRowToMatrixRow(double* x, int rows, int cols, int row, double* y, int yRows, int yCols,
+int VB_CopyMatrixRowToMatrixRow(const double* x, int rows, int cols, int row, double* y, int yRows, int yCols,
                                 int rowTo, short int bReset)
 {
     auto to = frame::changing(y, yRows, frame::columns(yCols));
@@ -50,7 +50,7 @@ int VB_CopyMatrixRowToMatrixRow(double* x, int rows, int cols, int row, double* 
     return 0;
 }
 
-int VB_CopyMatrixColToVector(double* x, int rows, int cols, int col, double* y)
+int VB_CopyMatrixColToVector(const double* x, int rows, int cols, int col, double* y)
 {
     auto vector = frame::filling(y, rows);
     const auto table = frame::besides(vector, x, rows, frame::columns(cols));
@@ -58,7 +58,7 @@ int VB_CopyMatrixColToVector(double* x, int rows, int cols, int col, double* y)
     return 0;
 }
 
-int VB_CopyMatrixColToOneColMatStr(OLECHAR** x, int rows, int cols, int col, OLECHAR** y)
+int VB_CopyMatrixColToOneColMatStr(OLECHAR* const* x, int rows, int cols, int col, OLECHAR** y)
 {
     auto vector = frame::filling(y, rows);
     const auto table = frame::besides(vector, x, rows, frame::columns(cols));
@@ -75,43 +75,43 @@ int VB_M_MoveRow(double* x, int rows, int cols, int from, int to)
     return 0;
 }
 
-int VB_V_DuplicateDbl(double* x, int rows, int cols, int col, int from, int to, double* y, int yRows,
+int VB_V_DuplicateDbl(const double* x, int rows, int cols, int col, int from, int to, double* y, int yRows,
                       int yCols, int row, int yCol)
 {
     return duplicate(x, rows, frame::columns(cols), col, from, to, y, yRows, frame::columns(yCols), row,
                      yCol);
 }
 
-int VB_V_DuplicateLng(int* x, int rows, int cols, int col, int from, int to, int* y, int yRows, int yCols,
-                      int row, int yCol)
-{
-    return duplicate(x, rows, frame::columns(cols), col, from, to, y, yRows, frame::columns(yCols), row,
-                     yCol);
-}
-
-int VB_V_DuplicateDblToLng(double* x, int rows, int cols, int col, int from, int to, int* y, int yRows,
-                           int yCols, int row, int yCol)
-{
-    return duplicate(x, rows, frame::columns(cols), col, from, to, y, yRows, frame::columns(yCols), row,
-                     yCol);
-}
-
-int VB_V_DuplicateLngToDbl(int* x, int rows, int cols, int col, int from, int to, double* y, int yRows,
-                           int yCols, int row, int yCol)
-{
-    return duplicate(x, rows, frame::columns(cols), col, from, to, y, yRows, frame::columns(yCols), row,
-                     yCol);
-}
-
-int VB_V_DuplicateStr(OLECHAR** x, int rows, int cols, int col, int from, int to, OLECHAR** y, int yRows,
+int VB_V_DuplicateLng(const int* x, int rows, int cols, int col, int from, int to, int* y, int yRows,
                       int yCols, int row, int yCol)
 {
     return duplicate(x, rows, frame::columns(cols), col, from, to, y, yRows, frame::columns(yCols), row,
                      yCol);
 }
 
-int Cpp_V_DuplicateBool(short int* x, int rows, int cols, int col, int from, int to, short int* y, int yRows,
-                        int yCols, int row, int yCol)
+int VB_V_DuplicateDblToLng(const double* x, int rows, int cols, int col, int from, int to, int* y, int yRows,
+                           int yCols, int row, int yCol)
+{
+    return duplicate(x, rows, frame::columns(cols), col, from, to, y, yRows, frame::columns(yCols), row,
+                     yCol);
+}
+
+int VB_V_DuplicateLngToDbl(const int* x, int rows, int cols, int col, int from, int to, double* y, int yRows,
+                           int yCols, int row, int yCol)
+{
+    return duplicate(x, rows, frame::columns(cols), col, from, to, y, yRows, frame::columns(yCols), row,
+                     yCol);
+}
+
+int VB_V_DuplicateStr(OLECHAR* const* x, int rows, int cols, int col, int from, int to, OLECHAR** y,
+                      int yRows, int yCols, int row, int yCol)
+{
+    return duplicate(x, rows, frame::columns(cols), col, from, to, y, yRows, frame::columns(yCols), row,
+                     yCol);
+}
+
+int Cpp_V_DuplicateBool(const short int* x, int rows, int cols, int col, int from, int to, short int* y,
+                        int yRows, int yCols, int row, int yCol)
 {
     return duplicate(x, rows, frame::columns(cols), col, from, to, y, yRows, frame::columns(yCols), row,
                      yCol);

@@ -9,7 +9,7 @@ namespace
 {
 
 template <class Cell>
-int duplicate(Cell* x, int rows, int cols, Cell* y, int yRows, int yCols, int row, int col)
+int duplicate(const Cell* x, int rows, int cols, Cell* y, int yRows, int yCols, int row, int col)
 {
     auto to = frame::changing(y, yRows, yCols);
     auto from = frame::besides(to, x, rows, cols);
@@ -29,17 +29,18 @@ int duplicateRecord(ST_MVect* x, int rows, int cols, ST_MVect* y, int yRows, int
 
 } // namespace
 
-int VB_M_DuplicateDbl(double* x, int rows, int cols, double* y, int yRows, int yCols, int row, int col)
+int VB_M_DuplicateDbl(const double* x, int rows, int cols, double* y, int yRows, int yCols, int row, int col)
 {
     return duplicate(x, rows, frame::columns(cols), y, yRows, frame::columns(yCols), row, col);
 }
 
-int VB_M_DuplicateLng(int* x, int rows, int cols, int* y, int yRows, int yCols, int row, int col)
+int VB_M_DuplicateLng(const int* x, int rows, int cols, int* y, int yRows, int yCols, int row, int col)
 {
     return duplicate(x, rows, frame::columns(cols), y, yRows, frame::columns(yCols), row, col);
 }
 
-int VB_M_DuplicateStr(OLECHAR** x, int rows, int cols, OLECHAR** y, int yRows, int yCols, int row, int col)
+int VB_M_DuplicateStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y, int yRows, int yCols, int row,
+                      int col)
 {
     return duplicate(x, rows, frame::columns(cols), y, yRows, frame::columns(yCols), row, col);
 }
@@ -75,7 +76,7 @@ int Cpp_M_DuplicateDblSPV(Hostarray** x, int rows, int cols, double* y, int yRow
     return 0;
 }
 
-int Cpp_M_DuplicateDblSPV2(double* x, int rows, int cols, Hostarray** y, int yRows, int yCols, int row,
+int Cpp_M_DuplicateDblSPV2(const double* x, int rows, int cols, Hostarray** y, int yRows, int yCols, int row,
                            int col)
 {
     auto from = frame::borrow(x, rows, frame::columns(cols));
@@ -84,8 +85,8 @@ int Cpp_M_DuplicateDblSPV2(double* x, int rows, int cols, Hostarray** y, int yRo
     return 0;
 }
 
-int Cpp_M_DuplicateDblSPV2_T(double* x, int rows, int cols, Hostarray** y, int yRows, int yCols, int row,
-                             int col)
+int Cpp_M_DuplicateDblSPV2_T(const double* x, int rows, int cols, Hostarray** y, int yRows, int yCols,
+                             int row, int col)
 {
     auto from = frame::borrow(x, rows, frame::columns(cols));
     const frame::chunk_list<double> to(y, yCols, yRows, 0);

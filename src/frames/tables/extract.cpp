@@ -10,7 +10,7 @@ namespace
 {
 
 template <class Cell>
-int extract(Cell* x, int rows, int cols, int firstRow, int lastRow, Cell* out)
+int extract(const Cell* x, int rows, int cols, int firstRow, int lastRow, Cell* out)
 {
     auto range = frame::filling(out, countOf(firstRow, lastRow), cols);
     auto table = frame::besides(range, x, rows, cols);
@@ -30,12 +30,12 @@ int extractFromChunks(const Chunks& table, int cols, int firstRow, int lastRow, 
 
 } // namespace
 
-int VB_M_ExtractMatToMatDbl(double* x, int rows, int cols, int firstRow, int lastRow, double* out)
+int VB_M_ExtractMatToMatDbl(const double* x, int rows, int cols, int firstRow, int lastRow, double* out)
 {
     return extract(x, rows, frame::columns(cols), firstRow, lastRow, out);
 }
 
-int VB_M_ExtractMatToMatStr(OLECHAR** x, int rows, int cols, int firstRow, int lastRow, OLECHAR** out)
+int VB_M_ExtractMatToMatStr(OLECHAR* const* x, int rows, int cols, int firstRow, int lastRow, OLECHAR** out)
 {
     return extract(x, rows, frame::columns(cols), firstRow, lastRow, out);
 }
@@ -50,7 +50,7 @@ int VB_M_ExtractMatToMatStrSPV(Hostarray** x, int rows, int cols, int firstRow, 
     return extractFromChunks(frame::textChunks(x, cols, rows), cols, firstRow, lastRow, out);
 }
 
-int Cpp_Extractij(double* x, int rows, int cols, int i, int j, double* out)
+int Cpp_Extractij(const double* x, int rows, int cols, int i, int j, double* out)
 {
     auto range = frame::filling(out, countOf(i, j), frame::columns(cols));
     auto table = frame::besides(range, x, rows, frame::columns(cols));
@@ -58,7 +58,7 @@ int Cpp_Extractij(double* x, int rows, int cols, int i, int j, double* out)
     return 0;
 }
 
-int VB_M_ExtractMatToMatByColDbl(double* x, int rows, int cols, int firstCol, int lastCol, double* out)
+int VB_M_ExtractMatToMatByColDbl(const double* x, int rows, int cols, int firstCol, int lastCol, double* out)
 {
     auto range = frame::filling(out, rows, countOf(firstCol, lastCol));
     auto table = frame::besides(range, x, rows, frame::columns(cols));

@@ -37,7 +37,7 @@ int VB_InitVectorToTrue(short int* flags, int n)
     return InitVectorToTrue(flags, n);
 }
 
-int Cpp_M_SetBooleanIfLng(int* x, int rows, int cols, int value, short int* flags)
+int Cpp_M_SetBooleanIfLng(const int* x, int rows, int cols, int value, short int* flags)
 {
     auto values = frame::borrow(x, rows, frame::columns(cols));
     auto result = frame::borrow(flags, rows, frame::columns(cols));

@@ -5,17 +5,17 @@
 
 using namespace korvel;
 
-void Cpp_WriteMatrixDbl(double* a, int rows, int cols, const char* name)
+void Cpp_WriteMatrixDbl(const double* a, int rows, int cols, const char* name)
 {
     dumpTable(frame::borrow(a, rows, cols), rows, cols, name);
 }
 
-void Cpp_WriteMatrixLng(int* a, int rows, int cols, const char* name)
+void Cpp_WriteMatrixLng(const int* a, int rows, int cols, const char* name)
 {
     dumpTable(frame::borrow(a, rows, cols), rows, cols, name);
 }
 
-int Cpp_WriteMatrixStr(OLECHAR** a, int rows, int cols, const char* name)
+int Cpp_WriteMatrixStr(OLECHAR* const* a, int rows, int cols, const char* name)
 {
     dumpTable(frame::readTexts(a, rows, cols), rows, cols, name);
     return 0;

@@ -11,7 +11,7 @@ namespace
 {
 
 template <class Cell>
-int sideBySide(Cell* a, int rowsA, int colsA, Cell* b, int rowsB, int colsB, Cell* out)
+int sideBySide(const Cell* a, int rowsA, int colsA, const Cell* b, int rowsB, int colsB, Cell* out)
 {
     auto merged = frame::filling(out, std::max(rowsA, rowsB), colsA + colsB);
     auto left = frame::besides(merged, a, rowsA, colsA);
@@ -23,7 +23,7 @@ int sideBySide(Cell* a, int rowsA, int colsA, Cell* b, int rowsB, int colsB, Cel
 }
 
 template <class Cell>
-int addColumns(Cell* a, int rowsA, int colsA, Cell* b, int rowsB, int colsB)
+int addColumns(Cell* a, int rowsA, int colsA, const Cell* b, int rowsB, int colsB)
 {
     auto table = frame::changing(a, rowsA, colsA + colsB);
     auto added = frame::besides(table, b, rowsB, colsB);
@@ -33,7 +33,7 @@ int addColumns(Cell* a, int rowsA, int colsA, Cell* b, int rowsB, int colsB)
 }
 
 template <class Cell>
-int oneBelowTheOther(Cell* a, int nA, Cell* b, int nB, Cell* out)
+int oneBelowTheOther(const Cell* a, int nA, const Cell* b, int nB, Cell* out)
 {
     auto merged = frame::filling(out, nA + nB);
     auto upper = frame::besides(merged, a, nA);
@@ -45,43 +45,45 @@ int oneBelowTheOther(Cell* a, int nA, Cell* b, int nB, Cell* out)
 
 } // namespace
 
-int VB_HMergeTablesDbl(double* a, int rowsA, int colsA, double* b, int rowsB, int colsB, double* out)
+int VB_HMergeTablesDbl(const double* a, int rowsA, int colsA, const double* b, int rowsB, int colsB,
+                       double* out)
 {
     return sideBySide(a, rowsA, frame::columns(colsA), b, rowsB, frame::columns(colsB), out);
 }
 
-int VB_HMergeTablesBool(short int* a, int rowsA, int colsA, short int* b, int rowsB, int colsB,
+int VB_HMergeTablesBool(const short int* a, int rowsA, int colsA, const short int* b, int rowsB, int colsB,
                         short int* out)
 {
     return sideBySide(a, rowsA, frame::columns(colsA), b, rowsB, frame::columns(colsB), out);
 }
 
-int VB_HMergeTablesStr(OLECHAR** a, int rowsA, int colsA, OLECHAR** b, int rowsB, int colsB, OLECHAR** out)
+int VB_HMergeTablesStr(OLECHAR* const* a, int rowsA, int colsA, OLECHAR* const* b, int rowsB, int colsB,
+                       OLECHAR** out)
 {
     return sideBySide(a, rowsA, frame::columns(colsA), b, rowsB, frame::columns(colsB), out);
 }
 
-int VB_HMergeTablesDbl2(double* a, int rowsA, int colsA, double* b, int rowsB, int colsB)
+int VB_HMergeTablesDbl2(double* a, int rowsA, int colsA, const double* b, int rowsB, int colsB)
 {
     return addColumns(a, rowsA, frame::columns(colsA), b, rowsB, frame::columns(colsB));
 }
 
-int VB_HMergeTablesLng2(int* a, int rowsA, int colsA, int* b, int rowsB, int colsB)
+int VB_HMergeTablesLng2(int* a, int rowsA, int colsA, const int* b, int rowsB, int colsB)
 {
     return addColumns(a, rowsA, frame::columns(colsA), b, rowsB, frame::columns(colsB));
 }
 
-int VB_HMergeTablesBool2(short int* a, int rowsA, int colsA, short int* b, int rowsB, int colsB)
+int VB_HMergeTablesBool2(short int* a, int rowsA, int colsA, const short int* b, int rowsB, int colsB)
 {
     return addColumns(a, rowsA, frame::columns(colsA), b, rowsB, frame::columns(colsB));
 }
 
-int VB_HMergeTablesStr2(OLECHAR** a, int rowsA, int colsA, OLECHAR** b, int rowsB, int colsB)
+int VB_HMergeTablesStr2(OLECHAR** a, int rowsA, int colsA, OLECHAR* const* b, int rowsB, int colsB)
 {
     return addColumns(a, rowsA, frame::columns(colsA), b, rowsB, frame::columns(colsB));
 }
 
-int VB_HMergeTablesDbl2SPV(Hostarray** a, int rowsA, int colsA, double* b, int rowsB, int colsB)
+int VB_HMergeTablesDbl2SPV(Hostarray** a, int rowsA, int colsA, const double* b, int rowsB, int colsB)
 {
     const auto table = frame::chunks(a, colsA + frame::columns(colsB), rowsA);
     auto added = frame::borrow(b, rowsB, frame::columns(colsB));
@@ -97,7 +99,7 @@ int VB_HMergeTablesDbl2SPV2(Hostarray** a, int rowsA, int colsA, Hostarray** b, 
     return 0;
 }
 
-int VB_HMergeVectors(double* a, int nA, double* b, int nB, double* out)
+int VB_HMergeVectors(const double* a, int nA, const double* b, int nB, double* out)
 {
     auto merged = frame::filling(out, std::max(nA, nB), 2);
     const auto left = frame::besides(merged, a, nA);
@@ -107,7 +109,8 @@ int VB_HMergeVectors(double* a, int nA, double* b, int nB, double* out)
     return 0;
 }
 
-int VB_HMergeTableVect(double* x, int rows, int cols, double* v, int n, double* out, int outRows, int outCols)
+int VB_HMergeTableVect(const double* x, int rows, int cols, const double* v, int n, double* out, int outRows,
+                       int outCols)
 {
     auto merged = frame::filling(out, outRows, frame::columns(outCols));
     auto table = frame::besides(merged, x, rows, frame::columns(cols));
@@ -117,7 +120,7 @@ int VB_HMergeTableVect(double* x, int rows, int cols, double* v, int n, double* 
     return 0;
 }
 
-int VB_HMergeTableVect2(double* x, int rows, int cols, double* v, int n)
+int VB_HMergeTableVect2(double* x, int rows, int cols, const double* v, int n)
 {
     auto table = frame::changing(x, rows, frame::columns(cols) + 1);
     const auto vector = frame::besides(table, v, n);
@@ -125,7 +128,8 @@ int VB_HMergeTableVect2(double* x, int rows, int cols, double* v, int n)
     return 0;
 }
 
-int VB_HMergeVectTable(double* v, int n, double* x, int rows, int cols, double* out, int outRows, int outCols)
+int VB_HMergeVectTable(const double* v, int n, const double* x, int rows, int cols, double* out, int outRows,
+                       int outCols)
 {
     auto merged = frame::filling(out, outRows, frame::columns(outCols));
     const auto vector = frame::besides(merged, v, n);
@@ -135,7 +139,8 @@ int VB_HMergeVectTable(double* v, int n, double* x, int rows, int cols, double* 
     return 0;
 }
 
-int VB_HMergeVectColDbl(double* v, int n, double* x, int rows, int cols, int col, double* out, int outRows)
+int VB_HMergeVectColDbl(const double* v, int n, const double* x, int rows, int cols, int col, double* out,
+                        int outRows)
 {
     auto merged = frame::filling(out, outRows, 2);
     const auto vector = frame::besides(merged, v, n);
@@ -145,17 +150,17 @@ int VB_HMergeVectColDbl(double* v, int n, double* x, int rows, int cols, int col
     return 0;
 }
 
-int VB_VMergeVectorsDbl(double* a, int nA, double* b, int nB, double* out)
+int VB_VMergeVectorsDbl(const double* a, int nA, const double* b, int nB, double* out)
 {
     return oneBelowTheOther(a, nA, b, nB, out);
 }
 
-int VB_VMergeVectorsStr(OLECHAR** a, int nA, OLECHAR** b, int nB, OLECHAR** out)
+int VB_VMergeVectorsStr(OLECHAR* const* a, int nA, OLECHAR* const* b, int nB, OLECHAR** out)
 {
     return oneBelowTheOther(a, nA, b, nB, out);
 }
 
-int VB_VMergeVectorsDbl2(double* a, int nA, double* b, int nB)
+int VB_VMergeVectorsDbl2(double* a, int nA, const double* b, int nB)
 {
     auto vector = frame::changing(a, nA + nB);
     auto added = frame::besides(vector, b, nB);
@@ -164,7 +169,7 @@ int VB_VMergeVectorsDbl2(double* a, int nA, double* b, int nB)
     return 0;
 }
 
-int VB_VMergeVectorsBool2(short int* a, int nA, short int* b, int nB)
+int VB_VMergeVectorsBool2(short int* a, int nA, const short int* b, int nB)
 {
     auto vector = frame::changing(a, nA + nB);
     auto added = frame::besides(vector, b, nB);
@@ -173,7 +178,7 @@ int VB_VMergeVectorsBool2(short int* a, int nA, short int* b, int nB)
     return 0;
 }
 
-int VB_VMergeVectorsStr2(OLECHAR** a, int nA, OLECHAR** b, int nB)
+int VB_VMergeVectorsStr2(OLECHAR** a, int nA, OLECHAR* const* b, int nB)
 {
     auto vector = frame::changing(a, nA + nB);
     auto added = frame::besides(vector, b, nB);
@@ -182,7 +187,8 @@ int VB_VMergeVectorsStr2(OLECHAR** a, int nA, OLECHAR** b, int nB)
     return 0;
 }
 
-int VB_VMergeTablesDbl(double* a, int rowsA, int colsA, double* b, int rowsB, int colsB, double* out)
+int VB_VMergeTablesDbl(const double* a, int rowsA, int colsA, const double* b, int rowsB, int colsB,
+                       double* out)
 {
     auto merged = frame::filling(out, rowsA + rowsB, std::max(frame::columns(colsA), frame::columns(colsB)));
     auto upper = frame::besides(merged, a, rowsA, frame::columns(colsA));
@@ -192,7 +198,8 @@ int VB_VMergeTablesDbl(double* a, int rowsA, int colsA, double* b, int rowsB, in
     return 0;
 }
 
-int Cpp_VMergeTablesDblSPV(Hostarray** a, int rowsA, int colsA, double* b, int rowsB, int colsB, double* out)
+int Cpp_VMergeTablesDblSPV(Hostarray** a, int rowsA, int colsA, const double* b, int rowsB, int colsB,
+                           double* out)
 {
     auto merged = frame::filling(out, rowsA + rowsB, std::max(colsA, frame::columns(colsB)));
     const auto upper = frame::chunks(a, colsA, rowsA);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_CheckIfSimOrDissim(double* x, int rows, int cols)
+int VB_M_CheckIfSimOrDissim(const double* x, int rows, int cols)
 {
     auto values = frame::borrow(x, rows, cols);
     return M_CheckIfSimOrDissim(&values, rows, cols);

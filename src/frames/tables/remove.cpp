@@ -20,7 +20,7 @@ int removeRows(Cell* x, int rows, int cols, int first, int last)
 
 } // namespace
 
-int VB_M_RemoveCol(double* x, int rows, int cols, int k, double* out)
+int VB_M_RemoveCol(const double* x, int rows, int cols, int k, double* out)
 {
     auto result = frame::filling(out, rows, frame::columns(cols) - 1);
     auto table = frame::besides(result, x, rows, frame::columns(cols));
@@ -28,7 +28,7 @@ int VB_M_RemoveCol(double* x, int rows, int cols, int k, double* out)
     return 0;
 }
 
-int VB_M_RemoveRow(double* x, int rows, int cols, int k, double* out)
+int VB_M_RemoveRow(const double* x, int rows, int cols, int k, double* out)
 {
     auto result = frame::filling(out, rows - 1, frame::columns(cols));
     auto table = frame::besides(result, x, rows, frame::columns(cols));
@@ -53,7 +53,7 @@ int Cpp_M_RemoveRowsStr2(OLECHAR** x, int rows, int cols, int first, int last)
     return removeRows(x, rows, frame::columns(cols), first, last);
 }
 
-int VB_M_RemoveColsInList(double* x, int rows, int cols, double* list, int n, double* out)
+int VB_M_RemoveColsInList(const double* x, int rows, int cols, const double* list, int n, double* out)
 {
     auto numbers = frame::borrow(list, n);
     auto result = frame::filling(out, rows, countNotListed(numbers, frame::columns(cols)));
@@ -61,7 +61,7 @@ int VB_M_RemoveColsInList(double* x, int rows, int cols, double* list, int n, do
     return M_RemoveColsInList(&table, rows, table.nbcols, &numbers, &result);
 }
 
-int VB_M_RemoveRowsInList(double* x, int rows, int cols, int* list, int n, double* out)
+int VB_M_RemoveRowsInList(const double* x, int rows, int cols, const int* list, int n, double* out)
 {
     auto numbers = frame::borrow(list, n);
     auto result = frame::filling(out, countNotListed(numbers, rows), frame::columns(cols));

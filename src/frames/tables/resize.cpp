@@ -10,7 +10,7 @@ namespace
 
 /** `core(&x, rows, cols, &y, newRows, newCols)` copies a table into another shape. */
 template <class Cell, class Core>
-int resize(Core core, Cell* x, int rows, int cols, Cell* y, int newRows, int newCols)
+int resize(Core core, const Cell* x, int rows, int cols, Cell* y, int newRows, int newCols)
 {
     auto result = frame::filling(y, newRows, newCols);
     auto table = frame::besides(result, x, rows, cols);
@@ -24,22 +24,22 @@ constexpr auto copyResize = [](auto... arguments) { M_CopyResize(arguments...); 
 
 } // namespace
 
-int VB_M_CopyResize(double* x, int rows, int cols, double* y, int newRows, int newCols)
+int VB_M_CopyResize(const double* x, int rows, int cols, double* y, int newRows, int newCols)
 {
     return resize(copyResize, x, rows, frame::columns(cols), y, newRows, frame::columns(newCols));
 }
 
-int VB_M_CopyResizeBool(short int* x, int rows, int cols, short int* y, int newRows, int newCols)
+int VB_M_CopyResizeBool(const short int* x, int rows, int cols, short int* y, int newRows, int newCols)
 {
     return resize(copyResize, x, rows, frame::columns(cols), y, newRows, frame::columns(newCols));
 }
 
-int VB_M_CopyResizeStr(OLECHAR** x, int rows, int cols, OLECHAR** y, int newRows, int newCols)
+int VB_M_CopyResizeStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y, int newRows, int newCols)
 {
     return resize(M_CopyResizeStr, x, rows, frame::columns(cols), y, newRows, frame::columns(newCols));
 }
 
-int VB_M_CopyToBigger(double* x, int rows, int cols, double* y, int yRows, int yCols)
+int VB_M_CopyToBigger(const double* x, int rows, int cols, double* y, int yRows, int yCols)
 {
     auto larger = frame::changing(y, yRows, frame::columns(yCols));
     auto table = frame::besides(larger, x, rows, frame::columns(cols));

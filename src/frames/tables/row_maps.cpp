@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int Cpp_M_MaxPosByRow(double* x, int rows, int cols, int* positions)
+int Cpp_M_MaxPosByRow(const double* x, int rows, int cols, int* positions)
 {
     auto values = frame::borrow(x, rows, cols);
     auto result = frame::borrow(positions, rows);
@@ -13,7 +13,7 @@ int Cpp_M_MaxPosByRow(double* x, int rows, int cols, int* positions)
     return 0;
 }
 
-int VB_ComputeNewVar(double* x, int rows, int cols, double* coefficients, double* out)
+int VB_ComputeNewVar(const double* x, int rows, int cols, const double* coefficients, double* out)
 {
     auto values = frame::borrow(x, rows, cols);
     auto factors = frame::borrow(coefficients, cols);
@@ -22,7 +22,7 @@ int VB_ComputeNewVar(double* x, int rows, int cols, double* coefficients, double
     return 0;
 }
 
-int Cpp_FilterOnSumOfSquares(double* x, int rows, int cols, double threshold, short int* kept)
+int Cpp_FilterOnSumOfSquares(const double* x, int rows, int cols, double threshold, short int* kept)
 {
     auto values = frame::borrow(x, rows, cols);
     auto flags = frame::borrow(kept, rows);

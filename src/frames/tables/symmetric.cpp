@@ -20,7 +20,7 @@ int VB_M_SymmetrizeSPV(Hostarray** x, int rows, int cols)
     return 0;
 }
 
-short int VB_M_IsSymmetric(double* x, int n)
+short int VB_M_IsSymmetric(const double* x, int n)
 {
     auto values = frame::borrow(x, n, n);
     return M_IsSymmetric(&values, n);
@@ -32,13 +32,13 @@ short int VB_M_IsSymmetricSPV(Hostarray** x, int n)
     return M_IsSymmetricSPV(columns.get(), n);
 }
 
-short int VB_M_IsDiagConstant(double* x, int n)
+short int VB_M_IsDiagConstant(const double* x, int n)
 {
     auto values = frame::borrow(x, n, n);
     return M_IsDiagConstant(&values, n);
 }
 
-int Cpp_M_CopySymMatToVector(double* x, int n, double* v)
+int Cpp_M_CopySymMatToVector(const double* x, int n, double* v)
 {
     auto table = frame::copyIn(x, n, n);
     auto vector = frame::borrow(v, packedLength(n));
@@ -46,7 +46,7 @@ int Cpp_M_CopySymMatToVector(double* x, int n, double* v)
     return 0;
 }
 
-int Cpp_M_CopyVectorToSymMat(double* v, int n, double* x)
+int Cpp_M_CopyVectorToSymMat(const double* v, int n, double* x)
 {
     auto vector = frame::copyIn(v, packedLength(n));
     auto table = frame::borrow(x, n, n);

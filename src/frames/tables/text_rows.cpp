@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int Cpp_M_MergeStringsByRow(OLECHAR** x, int rows, int cols, OLECHAR** out)
+int Cpp_M_MergeStringsByRow(OLECHAR* const* x, int rows, int cols, OLECHAR** out)
 {
     auto texts = frame::readTexts(x, rows, cols);
     auto joined = frame::blank<text>(rows);
@@ -14,7 +14,7 @@ int Cpp_M_MergeStringsByRow(OLECHAR** x, int rows, int cols, OLECHAR** out)
     return 0;
 }
 
-short int Cpp_CheckSameVectorStr(OLECHAR** a, int nA, OLECHAR** b, int nB)
+short int Cpp_CheckSameVectorStr(OLECHAR* const* a, int nA, OLECHAR* const* b, int nB)
 {
     auto first = frame::readTexts(a, nA);
     auto second = frame::readTexts(b, nB);

@@ -11,7 +11,7 @@ namespace
 // The result is whole before it is copied out, so that one array may be passed for both.
 
 template <class T>
-int transpose(T* x, int rows, int cols, T* y)
+int transpose(const T* x, int rows, int cols, T* y)
 {
     auto values = frame::borrow(x, rows, cols);
     matrix<T> result;
@@ -20,7 +20,7 @@ int transpose(T* x, int rows, int cols, T* y)
     return 0;
 }
 
-int transpose(OLECHAR** x, int rows, int cols, OLECHAR** y)
+int transpose(OLECHAR* const* x, int rows, int cols, OLECHAR** y)
 {
     auto texts = frame::readTexts(x, rows, cols);
     matrix<text> result;
@@ -31,17 +31,17 @@ int transpose(OLECHAR** x, int rows, int cols, OLECHAR** y)
 
 } // namespace
 
-int VB_M_Transpose(double* x, int rows, int cols, double* y)
+int VB_M_Transpose(const double* x, int rows, int cols, double* y)
 {
     return transpose(x, rows, cols, y);
 }
 
-int VB_M_TransposeLng(int* x, int rows, int cols, int* y)
+int VB_M_TransposeLng(const int* x, int rows, int cols, int* y)
 {
     return transpose(x, rows, cols, y);
 }
 
-int VB_M_TransposeStr(OLECHAR** x, int rows, int cols, OLECHAR** y)
+int VB_M_TransposeStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y)
 {
     return transpose(x, rows, cols, y);
 }

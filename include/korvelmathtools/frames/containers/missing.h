@@ -22,6 +22,6 @@ KORVEL_FLAT short int VB_IsMissingValueDbl(double x);
  * before its first NUL; a number, a date or a Boolean never is; an empty cell always is
  * @return -1 when missing, otherwise 0
  */
-KORVEL_FLAT short int VB_IsMissingValueStr(VARIANT* cell);
+KORVEL_FLAT short int VB_IsMissingValueStr(const VARIANT* cell);
 
 #endif

@@ -17,7 +17,7 @@
  * column has no room are dropped, as are columns that it does not have
  * @return 0
  */
-KORVEL_FLAT int Cpp_CopyDblToMVDbl(double* m, int rows, int cols, ST_MVect* mv);
+KORVEL_FLAT int Cpp_CopyDblToMVDbl(const double* m, int rows, int cols, ST_MVect* mv);
 
 /**
  * Copies a triangle from one labelled table to another: the first j elements of column j, for j from 1 to the

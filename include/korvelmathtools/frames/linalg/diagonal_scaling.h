@@ -19,7 +19,7 @@
  * @param c [out] n by p cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductADiag(double* a, int n, int p, double* d, double* c);
+KORVEL_FLAT int VB_M_ProductADiag(const double* a, int n, int p, const double* d, double* c);
 
 /**
  * c(k, i) = a(i, k) * d(i, i). Missing cells are numbers here.
@@ -31,7 +31,7 @@ KORVEL_FLAT int VB_M_ProductADiag(double* a, int n, int p, double* d, double* c)
  * @param c [out] p by n cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductTrADiag(double* a, int n, int p, double* d, double* c);
+KORVEL_FLAT int VB_M_ProductTrADiag(const double* a, int n, int p, const double* d, double* c);
 
 /**
  * c(i, k) = a(i, k) * d(k). A missing d(k) makes column k of the result missing, and so does a missing cell
@@ -44,7 +44,7 @@ KORVEL_FLAT int VB_M_ProductTrADiag(double* a, int n, int p, double* d, double* 
  * @param c [out] n by p cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductADiagV(double* a, int n, int p, double* d, double* c);
+KORVEL_FLAT int VB_M_ProductADiagV(const double* a, int n, int p, const double* d, double* c);
 
 /**
  * c(i, k) = d(i) * a(i, k). A missing d(i) makes row i of the result missing, and so does a missing cell
@@ -57,7 +57,7 @@ KORVEL_FLAT int VB_M_ProductADiagV(double* a, int n, int p, double* d, double* c
  * @param c [out] n by p cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductDiagVA(double* d, int n, double* a, int p, double* c);
+KORVEL_FLAT int VB_M_ProductDiagVA(const double* d, int n, const double* a, int p, double* c);
 
 /**
  * c(i, k) = (d1(i) * a(i, k)) * d2(k). A missing factor makes its row or column of the result missing, and so
@@ -71,7 +71,8 @@ KORVEL_FLAT int VB_M_ProductDiagVA(double* d, int n, double* a, int p, double* c
  * @param c  [out] n by p cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductDiagV1ADiagV2(double* d1, int n, double* a, int p, double* d2, double* c);
+KORVEL_FLAT int VB_M_ProductDiagV1ADiagV2(const double* d1, int n, const double* a, int p, const double* d2,
+                                          double* c);
 
 /**
  * c(k, r) = a(r, k) * d(r). Missing cells are numbers here.
@@ -83,6 +84,6 @@ KORVEL_FLAT int VB_M_ProductDiagV1ADiagV2(double* d1, int n, double* a, int p, d
  * @param c [out] p by n cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductTrADiagV(double* a, int n, int p, double* d, double* c);
+KORVEL_FLAT int VB_M_ProductTrADiagV(const double* a, int n, int p, const double* d, double* c);
 
 #endif

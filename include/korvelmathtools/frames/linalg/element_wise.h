@@ -19,7 +19,7 @@
  * @param c [out] n by p cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_ScalarsA(double* a, int n, int p, double s, double* c);
+KORVEL_FLAT int VB_M_ScalarsA(const double* a, int n, int p, double s, double* c);
 
 /**
  * a(i, j) = s * a(i, j); a missing cell stays missing.
@@ -42,7 +42,7 @@ KORVEL_FLAT int VB_M_ScalarsA2(double* a, int n, int p, double s);
  * @param c [out] p by n cells; may be a
  * @return 0
  */
-KORVEL_FLAT int VB_M_ScalarsTrA(double* a, int n, int p, double s, double* c);
+KORVEL_FLAT int VB_M_ScalarsTrA(const double* a, int n, int p, double s, double* c);
 
 /**
  * c(i, j) = a(i, j) + s. Missing cells are numbers here: the sum is no longer missing.
@@ -54,7 +54,7 @@ KORVEL_FLAT int VB_M_ScalarsTrA(double* a, int n, int p, double s, double* c);
  * @param c [out] n by p cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_APlusVal(double* a, int n, int p, double s, double* c);
+KORVEL_FLAT int VB_M_APlusVal(const double* a, int n, int p, double s, double* c);
 
 /**
  * a(i, j) = a(i, j) + s. Missing cells are numbers here: the sum is no longer missing.
@@ -87,7 +87,7 @@ KORVEL_FLAT int VB_M_Square(double* a, int n, int p);
  * @param c [out] n by p cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductByElement(double* a, int n, int p, double* b, double* c);
+KORVEL_FLAT int VB_M_ProductByElement(const double* a, int n, int p, const double* b, double* c);
 
 /**
  * c(i, j) = a(i, j) + b(i, j). Missing cells are numbers here.
@@ -99,7 +99,7 @@ KORVEL_FLAT int VB_M_ProductByElement(double* a, int n, int p, double* b, double
  * @param c [out] n by p cells; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int Cpp_SumMat(double* a, double* b, int n, int p, double* c);
+KORVEL_FLAT int Cpp_SumMat(const double* a, const double* b, int n, int p, double* c);
 
 /**
  * x(i, j) = x(i, j) * s. Missing cells are numbers here.

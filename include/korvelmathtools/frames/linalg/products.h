@@ -20,7 +20,7 @@
  * @param c [out] n by q numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductAB(double* a, int n, int p, double* b, int q, double* c);
+KORVEL_FLAT int VB_M_ProductAB(const double* a, int n, int p, const double* b, int q, double* c);
 
 /**
  * Product of two tables of integers, c = a * b, in 32-bit arithmetic that wraps around. No integer is missing
@@ -34,7 +34,7 @@ KORVEL_FLAT int VB_M_ProductAB(double* a, int n, int p, double* b, int q, double
  * @param c [out] n by q integers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductABLng(int* a, int n, int p, int* b, int q, int* c);
+KORVEL_FLAT int VB_M_ProductABLng(const int* a, int n, int p, const int* b, int q, int* c);
 
 /**
  * Product of a transposed table and a table, c = a' * b.
@@ -47,7 +47,7 @@ KORVEL_FLAT int VB_M_ProductABLng(int* a, int n, int p, int* b, int q, int* c);
  * @param c [out] p by q numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductTrAB(double* a, int n, int p, double* b, int q, double* c);
+KORVEL_FLAT int VB_M_ProductTrAB(const double* a, int n, int p, const double* b, int q, double* c);
 
 /**
  * Product of a table and a transposed table, c = a * b'.
@@ -60,7 +60,7 @@ KORVEL_FLAT int VB_M_ProductTrAB(double* a, int n, int p, double* b, int q, doub
  * @param c [out] n by m numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductATrB(double* a, int n, int p, double* b, int m, double* c);
+KORVEL_FLAT int VB_M_ProductATrB(const double* a, int n, int p, const double* b, int m, double* c);
 
 /**
  * Product with a diagonal that is given as a vector, c = a * diag(d) * b, each term from left to right.
@@ -74,7 +74,8 @@ KORVEL_FLAT int VB_M_ProductATrB(double* a, int n, int p, double* b, int m, doub
  * @param c [out] n by q numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductADiagVB(double* a, int n, int p, double* d, double* b, int q, double* c);
+KORVEL_FLAT int VB_M_ProductADiagVB(const double* a, int n, int p, const double* d, const double* b, int q,
+                                    double* c);
 
 /**
  * Product with a diagonal that is given as a vector, c = a * diag(d) * b', each term from left to right.
@@ -88,6 +89,7 @@ KORVEL_FLAT int VB_M_ProductADiagVB(double* a, int n, int p, double* d, double* 
  * @param c [out] n by m numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductADiagVTrB(double* a, int n, int p, double* d, double* b, int m, double* c);
+KORVEL_FLAT int VB_M_ProductADiagVTrB(const double* a, int n, int p, const double* d, const double* b, int m,
+                                      double* c);
 
 #endif

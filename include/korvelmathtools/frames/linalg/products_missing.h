@@ -21,6 +21,6 @@
  * @param c [out] n by q numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductABMissing(double* a, int n, int p, double* b, int q, double* c);
+KORVEL_FLAT int VB_M_ProductABMissing(const double* a, int n, int p, const double* b, int q, double* c);
 
 #endif

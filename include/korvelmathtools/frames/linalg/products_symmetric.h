@@ -19,7 +19,7 @@
  * @param c [out] p by p numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductTrAA(double* a, int n, int p, double* c);
+KORVEL_FLAT int VB_M_ProductTrAA(const double* a, int n, int p, double* c);
 
 /**
  * Product of a table of integers with itself, c = a' * a. Each product is in 32-bit arithmetic that wraps
@@ -32,7 +32,7 @@ KORVEL_FLAT int VB_M_ProductTrAA(double* a, int n, int p, double* c);
  * @param c [out] p by p integers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_ProductTrAALng(int* a, int n, int p, int* c);
+KORVEL_FLAT int Cpp_M_ProductTrAALng(const int* a, int n, int p, int* c);
 
 /**
  * Product of a table with itself, c = a * a'. Only the elements of the upper half are summed; each is stored
@@ -44,7 +44,7 @@ KORVEL_FLAT int Cpp_M_ProductTrAALng(int* a, int n, int p, int* c);
  * @param c [out] n by n numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductATrA(double* a, int n, int p, double* c);
+KORVEL_FLAT int VB_M_ProductATrA(const double* a, int n, int p, double* c);
 
 /**
  * Product with a diagonal, c = a * d * a', each term from left to right. Only the elements of the upper half
@@ -57,7 +57,7 @@ KORVEL_FLAT int VB_M_ProductATrA(double* a, int n, int p, double* c);
  * @param c [out] n by n numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductADTrA(double* a, int n, int p, double* d, double* c);
+KORVEL_FLAT int VB_M_ProductADTrA(const double* a, int n, int p, const double* d, double* c);
 
 /**
  * Product with a diagonal, c = a' * d * a, each term from left to right. Only the elements of the upper half
@@ -70,7 +70,7 @@ KORVEL_FLAT int VB_M_ProductADTrA(double* a, int n, int p, double* d, double* c)
  * @param c [out] p by p numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductTrADA(double* a, int n, int p, double* d, double* c);
+KORVEL_FLAT int VB_M_ProductTrADA(const double* a, int n, int p, const double* d, double* c);
 
 /**
  * Product with a diagonal that is given as a vector, c = a' * diag(d) * a, each term from left to right. Only
@@ -83,7 +83,7 @@ KORVEL_FLAT int VB_M_ProductTrADA(double* a, int n, int p, double* d, double* c)
  * @param c [out] p by p numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductTrADiagVA(double* a, int n, int p, double* d, double* c);
+KORVEL_FLAT int VB_M_ProductTrADiagVA(const double* a, int n, int p, const double* d, double* c);
 
 /**
  * Product with a diagonal that is given as a vector, c = a * diag(d) * a', each term from left to right. Only
@@ -96,6 +96,6 @@ KORVEL_FLAT int VB_M_ProductTrADiagVA(double* a, int n, int p, double* d, double
  * @param c [out] n by n numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductADiagVTrA(double* a, int n, int p, double* d, double* c);
+KORVEL_FLAT int VB_M_ProductADiagVTrA(const double* a, int n, int p, const double* d, double* c);
 
 #endif

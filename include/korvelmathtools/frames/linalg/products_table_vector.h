@@ -19,7 +19,7 @@
  * @param y [out] n numbers; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductBV(double* b, int n, int p, double* v, double* y);
+KORVEL_FLAT int VB_M_ProductBV(const double* b, int n, int p, const double* v, double* y);
 
 /**
  * Vector times table, y = v' * b, that heeds missing cells: where a term has a missing factor, y(j) is
@@ -32,7 +32,7 @@ KORVEL_FLAT int VB_M_ProductBV(double* b, int n, int p, double* v, double* y);
  * @param y [out] q numbers; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductVB(double* v, int n, double* b, int q, double* y);
+KORVEL_FLAT int VB_M_ProductVB(const double* v, int n, const double* b, int q, double* y);
 
 /**
  * Transposed table times vector, y = b' * v.
@@ -44,7 +44,7 @@ KORVEL_FLAT int VB_M_ProductVB(double* v, int n, double* b, int q, double* y);
  * @param y [out] p numbers; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductTrBV(double* b, int n, int p, double* v, double* y);
+KORVEL_FLAT int VB_M_ProductTrBV(const double* b, int n, int p, const double* v, double* y);
 
 /**
  * Vector times transposed table, y = v' * b'.
@@ -56,7 +56,7 @@ KORVEL_FLAT int VB_M_ProductTrBV(double* b, int n, int p, double* v, double* y);
  * @param y [out] m numbers; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductVTrB(double* v, int n, double* b, int m, double* y);
+KORVEL_FLAT int VB_M_ProductVTrB(const double* v, int n, const double* b, int m, double* y);
 
 /**
  * The quadratic form v' * b * v.
@@ -66,7 +66,7 @@ KORVEL_FLAT int VB_M_ProductVTrB(double* v, int n, double* b, int m, double* y);
  * @param b [in] numbers, n by n, column after column
  * @return the number; 0.0 when n is below 1
  */
-KORVEL_FLAT double VB_M_ProductTrVBV(double* v, int n, double* b);
+KORVEL_FLAT double VB_M_ProductTrVBV(const double* v, int n, const double* b);
 
 /**
  * The bilinear form x1' * b * x2.
@@ -77,6 +77,6 @@ KORVEL_FLAT double VB_M_ProductTrVBV(double* v, int n, double* b);
  * @param x2 [in] n numbers
  * @return the number; 0.0 when n is below 1
  */
-KORVEL_FLAT double VB_M_ProductTrV1BV2(double* x1, int n, double* b, double* x2);
+KORVEL_FLAT double VB_M_ProductTrV1BV2(const double* x1, int n, const double* b, const double* x2);
 
 #endif

@@ -21,7 +21,8 @@
  * @param c         [out] n by n numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductABTrA(double* a, int n, int p, double* b, short int symmetric, double* c);
+KORVEL_FLAT int VB_M_ProductABTrA(const double* a, int n, int p, const double* b, short int symmetric,
+                                  double* c);
 
 /**
  * Product of three tables, c = a' * b * a. The work is shared among threads.
@@ -35,7 +36,8 @@ KORVEL_FLAT int VB_M_ProductABTrA(double* a, int n, int p, double* b, short int 
  * @param c         [out] p by p numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductTrABA(double* a, int n, int p, double* b, short int symmetric, double* c);
+KORVEL_FLAT int VB_M_ProductTrABA(const double* a, int n, int p, const double* b, short int symmetric,
+                                  double* c);
 
 /**
  * Product of three tables, d = a * b * c. The work is shared among threads.
@@ -50,7 +52,8 @@ KORVEL_FLAT int VB_M_ProductTrABA(double* a, int n, int p, double* b, short int 
  * @param d [out] n by r numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductABC(double* a, int n, int p, double* b, int q, double* c, int r, double* d);
+KORVEL_FLAT int VB_M_ProductABC(const double* a, int n, int p, const double* b, int q, const double* c, int r,
+                                double* d);
 
 /**
  * Product of three tables, d = a' * b * c.
@@ -65,7 +68,8 @@ KORVEL_FLAT int VB_M_ProductABC(double* a, int n, int p, double* b, int q, doubl
  * @param d [out] p by r numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductTrABC(double* a, int n, int p, double* b, int q, double* c, int r, double* d);
+KORVEL_FLAT int VB_M_ProductTrABC(const double* a, int n, int p, const double* b, int q, const double* c,
+                                  int r, double* d);
 
 /**
  * Product of three tables, d = a * b' * c.
@@ -80,7 +84,8 @@ KORVEL_FLAT int VB_M_ProductTrABC(double* a, int n, int p, double* b, int q, dou
  * @param d [out] n by r numbers, column after column; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int VB_M_ProductATrBC(double* a, int n, int p, double* b, int q, double* c, int r, double* d);
+KORVEL_FLAT int VB_M_ProductATrBC(const double* a, int n, int p, const double* b, int q, const double* c,
+                                  int r, double* d);
 
 /**
  * Product of two tables and a vector, y = a' * b * v.
@@ -94,6 +99,7 @@ KORVEL_FLAT int VB_M_ProductATrBC(double* a, int n, int p, double* b, int q, dou
  * @param y [out] p numbers; may be an array that is read
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_ProductTrABV(double* a, int n, int p, double* b, int q, double* v, double* y);
+KORVEL_FLAT int Cpp_M_ProductTrABV(const double* a, int n, int p, const double* b, int q, const double* v,
+                                   double* y);
 
 #endif

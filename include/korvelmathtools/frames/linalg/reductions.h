@@ -16,7 +16,7 @@
  * @param n rows and columns; below 1 nothing is read
  * @return the sum; 0.0 for n below 1
  */
-KORVEL_FLAT double VB_M_Trace(double* a, int n);
+KORVEL_FLAT double VB_M_Trace(const double* a, int n);
 
 /**
  * The trace of a' * b: the sum over the columns of the inner products of like columns. No square root is
@@ -28,7 +28,7 @@ KORVEL_FLAT double VB_M_Trace(double* a, int n);
  * @param b [in] n by p cells
  * @return the trace; 0.0 when n or p is below 1
  */
-KORVEL_FLAT double VB_M_FrobeniusNorm(double* a, int n, int p, double* b);
+KORVEL_FLAT double VB_M_FrobeniusNorm(const double* a, int n, int p, const double* b);
 
 /**
  * The row sum norm: the largest sum of magnitudes of a row. Only cells greater than the missing value are
@@ -39,6 +39,6 @@ KORVEL_FLAT double VB_M_FrobeniusNorm(double* a, int n, int p, double* b);
  * @param m columns
  * @return the norm; 0.0 for n below 1
  */
-KORVEL_FLAT double Cpp_M_RowSumNorm(double* a, int n, int m);
+KORVEL_FLAT double Cpp_M_RowSumNorm(const double* a, int n, int m);
 
 #endif

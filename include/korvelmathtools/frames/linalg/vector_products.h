@@ -17,7 +17,7 @@
  * @param x2 [in] n elements
  * @return the sum; 0.0 for n below 1
  */
-KORVEL_FLAT double VB_V_ProductTrV1V2(double* x1, int n, double* x2);
+KORVEL_FLAT double VB_V_ProductTrV1V2(const double* x1, int n, const double* x2);
 
 /**
  * y(i) = x1(i) * x2(i), missing when one of the two is.
@@ -28,7 +28,7 @@ KORVEL_FLAT double VB_V_ProductTrV1V2(double* x1, int n, double* x2);
  * @param y  [out] n elements; may be x1 or x2
  * @return 0
  */
-KORVEL_FLAT int VB_V_ProductV1V2(double* x1, int n, double* x2, double* y);
+KORVEL_FLAT int VB_V_ProductV1V2(const double* x1, int n, const double* x2, double* y);
 
 /**
  * x1(i) = x1(i) * x2(i).
@@ -38,7 +38,7 @@ KORVEL_FLAT int VB_V_ProductV1V2(double* x1, int n, double* x2, double* y);
  * @param x2 [in] n elements; may be x1
  * @return 0
  */
-KORVEL_FLAT int VB_V_ProductV1V22(double* x1, int n, double* x2);
+KORVEL_FLAT int VB_V_ProductV1V22(double* x1, int n, const double* x2);
 
 /**
  * The outer product: c(i, j) = x1(i) * x2(j).
@@ -49,7 +49,7 @@ KORVEL_FLAT int VB_V_ProductV1V22(double* x1, int n, double* x2);
  * @param c  [out] n by n cells, column after column
  * @return 0
  */
-KORVEL_FLAT int VB_V_ProductV1TrV2(double* x1, int n, double* x2, double* c);
+KORVEL_FLAT int VB_V_ProductV1TrV2(const double* x1, int n, const double* x2, double* c);
 
 /**
  * The product of all elements in ascending order, from 1.0.
@@ -58,7 +58,7 @@ KORVEL_FLAT int VB_V_ProductV1TrV2(double* x1, int n, double* x2, double* c);
  * @param n number of elements
  * @return the product; 1.0 for n below 1
  */
-KORVEL_FLAT double VB_V_Product1toNDbl(double* v, int n);
+KORVEL_FLAT double VB_V_Product1toNDbl(const double* v, int n);
 
 /**
  * The product of all elements in ascending order, from 1.0, in Double.
@@ -67,6 +67,6 @@ KORVEL_FLAT double VB_V_Product1toNDbl(double* v, int n);
  * @param n number of elements
  * @return the product; 1.0 for n below 1
  */
-KORVEL_FLAT double VB_V_Product1toNLng(int* v, int n);
+KORVEL_FLAT double VB_V_Product1toNLng(const int* v, int n);
 
 #endif

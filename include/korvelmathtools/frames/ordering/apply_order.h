@@ -18,7 +18,7 @@
  * @param out   [out] rows by cols numbers; may be x
  * @return 0
  */
-KORVEL_FLAT int VB_SortApply(double* x, int rows, int cols, double* order, double* out);
+KORVEL_FLAT int VB_SortApply(const double* x, int rows, int cols, const double* order, double* out);
 
 /**
  * Takes the rows of a table of integers in a given order: row i of the result is row order[i] of the table.
@@ -31,7 +31,7 @@ KORVEL_FLAT int VB_SortApply(double* x, int rows, int cols, double* order, doubl
  * @param out   [out] rows by cols integers; may be x
  * @return 0
  */
-KORVEL_FLAT int VB_SortApplyLng(int* x, int rows, int cols, double* order, int* out);
+KORVEL_FLAT int VB_SortApplyLng(const int* x, int rows, int cols, const double* order, int* out);
 
 /**
  * Takes the rows of a table of texts in a given order: row i of the result is row order[i] of the table.
@@ -44,7 +44,7 @@ KORVEL_FLAT int VB_SortApplyLng(int* x, int rows, int cols, double* order, int* 
  * @param out   [out] rows by cols texts; may be x
  * @return 0
  */
-KORVEL_FLAT int VB_SortApplyStr(OLECHAR** x, int rows, int cols, double* order, OLECHAR** out);
+KORVEL_FLAT int VB_SortApplyStr(OLECHAR* const* x, int rows, int cols, const double* order, OLECHAR** out);
 
 /**
  * Puts the rows of a table of numbers into a given order, in place: row i becomes what row order[i] was.
@@ -56,7 +56,7 @@ KORVEL_FLAT int VB_SortApplyStr(OLECHAR** x, int rows, int cols, double* order, 
  * -1
  * @return 0
  */
-KORVEL_FLAT int VB_SortApply2(double* x, int rows, int cols, double* order);
+KORVEL_FLAT int VB_SortApply2(double* x, int rows, int cols, const double* order);
 
 /**
  * Puts the rows of a table of integers into a given order, in place: row i becomes what row order[i] was.
@@ -68,7 +68,7 @@ KORVEL_FLAT int VB_SortApply2(double* x, int rows, int cols, double* order);
  * -1
  * @return 0
  */
-KORVEL_FLAT int VB_SortApply2Lng(int* x, int rows, int cols, double* order);
+KORVEL_FLAT int VB_SortApply2Lng(int* x, int rows, int cols, const double* order);
 
 /**
  * Puts the rows of a table of texts into a given order, in place: row i becomes what row order[i] was.
@@ -80,7 +80,7 @@ KORVEL_FLAT int VB_SortApply2Lng(int* x, int rows, int cols, double* order);
  * an empty text
  * @return 0
  */
-KORVEL_FLAT int VB_SortApply2Str(OLECHAR** x, int rows, int cols, double* order);
+KORVEL_FLAT int VB_SortApply2Str(OLECHAR** x, int rows, int cols, const double* order);
 
 /**
  * Puts the rows of a table of flags into a given order, in place: row i becomes what row order[i] was.
@@ -92,7 +92,7 @@ KORVEL_FLAT int VB_SortApply2Str(OLECHAR** x, int rows, int cols, double* order)
  * 0
  * @return 0
  */
-KORVEL_FLAT int Cpp_SortApply2Bool(short int* x, int rows, int cols, double* order);
+KORVEL_FLAT int Cpp_SortApply2Bool(short int* x, int rows, int cols, const double* order);
 
 /**
  * Puts the rows of a record of labelled columns of numbers into a given order, in place: row i becomes what
@@ -105,6 +105,6 @@ KORVEL_FLAT int Cpp_SortApply2Bool(short int* x, int rows, int cols, double* ord
  * -1
  * @return 0
  */
-KORVEL_FLAT int Cpp_SortApply2_ST(ST_MVect* x, int rows, int cols, double* order);
+KORVEL_FLAT int Cpp_SortApply2_ST(ST_MVect* x, int rows, int cols, const double* order);
 
 #endif

@@ -17,7 +17,8 @@
  * @param w        [in] n weights
  * @return the mean over the elements kept that are not missing; missing when their weights sum to 0
  */
-KORVEL_FLAT double Cpp_V_MeanAbsDev(double* x, int n, double centre, short int* iMissing, double* w);
+KORVEL_FLAT double Cpp_V_MeanAbsDev(const double* x, int n, double centre, const short int* iMissing,
+                                    const double* w);
 
 /**
  * Median of the absolute deviations from a centre; weighted unless the weights are constant.
@@ -29,7 +30,8 @@ KORVEL_FLAT double Cpp_V_MeanAbsDev(double* x, int n, double centre, short int* 
  * @param w        [in] n weights
  * @return the median over the elements kept that are not missing; missing when there are none
  */
-KORVEL_FLAT double Cpp_V_MedianAbsDev(double* x, int n, double centre, short int* iMissing, double* w);
+KORVEL_FLAT double Cpp_V_MedianAbsDev(const double* x, int n, double centre, const short int* iMissing,
+                                      const double* w);
 
 /**
  * Median of the absolute deviations from a centre, missing elements taking part as the smallest numbers.
@@ -39,7 +41,7 @@ KORVEL_FLAT double Cpp_V_MedianAbsDev(double* x, int n, double centre, short int
  * @param centre [inout] the centre; when missing, it becomes the median of x
  * @return the median; missing for n below 1
  */
-KORVEL_FLAT double Cpp_V_MedianAbsDev2(double* x, int n, double* centre);
+KORVEL_FLAT double Cpp_V_MedianAbsDev2(const double* x, int n, double* centre);
 
 /**
  * Moves the elements outside two quantiles onto them. Missing elements stay.

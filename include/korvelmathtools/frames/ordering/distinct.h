@@ -15,7 +15,7 @@
  * @param n number of elements
  * @return the number; 1 for n below 1
  */
-KORVEL_FLAT int VB_V_NbDistinct(double* x, int n);
+KORVEL_FLAT int VB_V_NbDistinct(const double* x, int n);
 
 /**
  * Number of distinct integers.
@@ -24,7 +24,7 @@ KORVEL_FLAT int VB_V_NbDistinct(double* x, int n);
  * @param n number of elements
  * @return the number; 1 for n below 1
  */
-KORVEL_FLAT int VB_V_NbDistinctLng(int* x, int n);
+KORVEL_FLAT int VB_V_NbDistinctLng(const int* x, int n);
 
 /**
  * Number of distinct texts, compared exactly. The empty text is one.
@@ -33,7 +33,7 @@ KORVEL_FLAT int VB_V_NbDistinctLng(int* x, int n);
  * @param n number of elements
  * @return the number; 1 for n below 1
  */
-KORVEL_FLAT int Cpp_V_NbDistinctStr(OLECHAR** x, int n);
+KORVEL_FLAT int Cpp_V_NbDistinctStr(OLECHAR* const* x, int n);
 
 /**
  * The distinct values in ascending order: each that exceeds the one before it by more than the smaller of
@@ -45,6 +45,6 @@ KORVEL_FLAT int Cpp_V_NbDistinctStr(OLECHAR** x, int n);
  * @param nOut [out] their number, 0 for n below 1
  * @return 0
  */
-KORVEL_FLAT int VB_V_ExtractDistinct(double* x, int n, double* out, int* nOut);
+KORVEL_FLAT int VB_V_ExtractDistinct(const double* x, int n, double* out, int* nOut);
 
 #endif

@@ -14,7 +14,7 @@
  * @param n number of elements
  * @return the code, the smallest of equals; missing when there is none
  */
-KORVEL_FLAT double VB_V_ModeCatDbl(double* x, int n);
+KORVEL_FLAT double VB_V_ModeCatDbl(const double* x, int n);
 
 /**
  * The label with the greatest sum of weights, the first in the order of code units of equals. Empty labels
@@ -27,7 +27,8 @@ KORVEL_FLAT double VB_V_ModeCatDbl(double* x, int n);
  * @param mode     [inout] one text, replaced by the label, empty when there is none
  * @return 0
  */
-KORVEL_FLAT int VB_V_Mode(OLECHAR** labels, int n, short int* iMissing, double* w, OLECHAR** mode);
+KORVEL_FLAT int VB_V_Mode(OLECHAR* const* labels, int n, const short int* iMissing, const double* w,
+                          OLECHAR** mode);
 
 /**
  * The label with the greatest sum of weights, the first in the order of code units of equals. Empty labels
@@ -39,6 +40,6 @@ KORVEL_FLAT int VB_V_Mode(OLECHAR** labels, int n, short int* iMissing, double* 
  * @param mode   [inout] one text, replaced by the label, empty when there is none
  * @return 0
  */
-KORVEL_FLAT int Cpp_V_ModeW2(OLECHAR** labels, int n, double* w, OLECHAR** mode);
+KORVEL_FLAT int Cpp_V_ModeW2(OLECHAR* const* labels, int n, const double* w, OLECHAR** mode);
 
 #endif

@@ -16,7 +16,7 @@
  * @param q probability, not tested: a position outside the data reads -1
  * @return the quantile; missing for n below 1
  */
-KORVEL_FLAT double VB_V_Quantile(double* x, int n, double q);
+KORVEL_FLAT double VB_V_Quantile(const double* x, int n, double q);
 
 /**
  * Weighted quantile: the first value whose cumulative weight exceeds q times the total, or the mean of it and
@@ -28,7 +28,7 @@ KORVEL_FLAT double VB_V_Quantile(double* x, int n, double q);
  * @param q probability, not tested: a position outside the data reads -1
  * @return the quantile; missing for n below 1, and when no element that is not missing has a positive weight
  */
-KORVEL_FLAT double VB_V_QuantileW(double* x, int n, double* w, double q);
+KORVEL_FLAT double VB_V_QuantileW(const double* x, int n, const double* w, double q);
 
 /**
  * Weighted quantile of the elements of positive weight that are not missing.
@@ -39,7 +39,7 @@ KORVEL_FLAT double VB_V_QuantileW(double* x, int n, double* w, double q);
  * @param q probability, not tested: a position outside the data reads -1
  * @return the quantile; missing when there are none
  */
-KORVEL_FLAT double Cpp_V_QuantileW2(double* x, int n, double* w, double q);
+KORVEL_FLAT double Cpp_V_QuantileW2(const double* x, int n, const double* w, double q);
 
 /**
  * Plain quantile of the elements that are not missing and not flagged.
@@ -50,7 +50,7 @@ KORVEL_FLAT double Cpp_V_QuantileW2(double* x, int n, double* w, double q);
  * @param q        probability, not tested: a position outside the data reads -1
  * @return the quantile; missing when there are none
  */
-KORVEL_FLAT double VB_V_QuantileM(double* x, int n, short int* iMissing, double q);
+KORVEL_FLAT double VB_V_QuantileM(const double* x, int n, const short int* iMissing, double q);
 
 /**
  * Weighted quantile of the elements that are not missing and not flagged.
@@ -62,7 +62,8 @@ KORVEL_FLAT double VB_V_QuantileM(double* x, int n, short int* iMissing, double 
  * @param q        probability, not tested: a position outside the data reads -1
  * @return the quantile; missing when there are none
  */
-KORVEL_FLAT double VB_V_QuantileMW(double* x, int n, short int* iMissing, double* w, double q);
+KORVEL_FLAT double VB_V_QuantileMW(const double* x, int n, const short int* iMissing, const double* w,
+                                   double q);
 
 /**
  * Sorts a vector, ascending, and takes its quantiles at 0.05, 0.1, 0.2, 0.25, 0.3, 0.4, 0.5, 0.6, 0.7, 0.75,

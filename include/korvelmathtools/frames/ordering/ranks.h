@@ -15,7 +15,7 @@
  * @param out [out] n ranks, in the order of x
  * @return 0
  */
-KORVEL_FLAT int VB_V_GetRanksDbl(double* x, int n, double* out);
+KORVEL_FLAT int VB_V_GetRanksDbl(const double* x, int n, double* out);
 
 /**
  * Dense ranks as integers: 1 for the smallest element, one more at each change of value.
@@ -25,7 +25,7 @@ KORVEL_FLAT int VB_V_GetRanksDbl(double* x, int n, double* out);
  * @param out [out] n ranks, in the order of x
  * @return 0
  */
-KORVEL_FLAT int VB_V_GetRanksLng(double* x, int n, int* out);
+KORVEL_FLAT int VB_V_GetRanksLng(const double* x, int n, int* out);
 
 /**
  * Weighted mid-ranks: a weight acts as a count of repetitions; tied elements, closer than 1e-15, share the
@@ -70,7 +70,7 @@ KORVEL_FLAT int VB_V_GetRanksTiesDbl2(double* x, int n, short int bRestore, doub
  * @param tieSizes [out] room for n numbers; the weight of each group
  * @return 0
  */
-KORVEL_FLAT int VB_V_GetRanksTiesIntDbl(double* x, int n, double* w, double* ranks, int* nTies,
+KORVEL_FLAT int VB_V_GetRanksTiesIntDbl(const double* x, int n, const double* w, double* ranks, int* nTies,
                                         double* tieSizes);
 
 /**

@@ -15,7 +15,7 @@
  * @param out [out] n numbers; may be x
  * @return 0
  */
-KORVEL_FLAT int VB_V_ReverseDbl(double* x, int n, double* out);
+KORVEL_FLAT int VB_V_ReverseDbl(const double* x, int n, double* out);
 
 /**
  * A vector of flags back to front.
@@ -25,7 +25,7 @@ KORVEL_FLAT int VB_V_ReverseDbl(double* x, int n, double* out);
  * @param out [out] n flags; may be x
  * @return 0
  */
-KORVEL_FLAT int VB_V_ReverseBool(short int* x, int n, short int* out);
+KORVEL_FLAT int VB_V_ReverseBool(const short int* x, int n, short int* out);
 
 /**
  * A vector of numbers back to front, in place.

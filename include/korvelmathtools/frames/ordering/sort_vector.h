@@ -66,6 +66,6 @@ KORVEL_FLAT int Cpp_SortQVector2Str(OLECHAR** x, int n, int from, int to, short 
  * @param bStrict not 0: every element must be smaller than the next one; 0: not greater
  * @return -1 when sorted, otherwise 0
  */
-KORVEL_FLAT short int VB_V_IsSorted(double* x, int n, short int bStrict);
+KORVEL_FLAT short int VB_V_IsSorted(const double* x, int n, short int bStrict);
 
 #endif

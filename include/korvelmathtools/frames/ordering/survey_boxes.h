@@ -22,8 +22,8 @@
  * @param bottom3 [out] weight of the lowest three levels
  * @return 0
  */
-KORVEL_FLAT int Cpp_V_TopBottom3Box(double* x, int n, double* w, double* top1, double* bottom1, double* top2,
-                                    double* bottom2, double* top3, double* bottom3);
+KORVEL_FLAT int Cpp_V_TopBottom3Box(const double* x, int n, const double* w, double* top1, double* bottom1,
+                                    double* top2, double* bottom2, double* top3, double* bottom3);
 
 /**
  * The boxes of one group: only elements whose group value is within 1e-12 of groupValue add their weight. The
@@ -43,8 +43,8 @@ KORVEL_FLAT int Cpp_V_TopBottom3Box(double* x, int n, double* w, double* top1, d
  * @param bottom3    [out] weight of the lowest three levels
  * @return 0
  */
-KORVEL_FLAT int Cpp_V_TopBottom3BoxConditional(double* x, int n, double* w, double* group, double groupValue,
-                                               double* top1, double* bottom1, double* top2, double* bottom2,
-                                               double* top3, double* bottom3);
+KORVEL_FLAT int Cpp_V_TopBottom3BoxConditional(const double* x, int n, double* w, const double* group,
+                                               double groupValue, double* top1, double* bottom1, double* top2,
+                                               double* bottom2, double* top3, double* bottom3);
 
 #endif

@@ -17,7 +17,7 @@
  * @param out    [inout] n texts, replaced where they differ; may be labels
  * @return 0
  */
-KORVEL_FLAT int Cpp_V_Trim(OLECHAR** labels, int n, short int bLeft, short int bRight, OLECHAR** out);
+KORVEL_FLAT int Cpp_V_Trim(OLECHAR* const* labels, int n, short int bLeft, short int bRight, OLECHAR** out);
 
 /**
  * Strips spaces (U+0020) from the ends of texts, in place.

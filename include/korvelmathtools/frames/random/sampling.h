@@ -24,8 +24,9 @@
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
-KORVEL_FLAT int VB_M_SamplingWithReplacement(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
-                                             double* selected, int* seed, short int flag, int* nextSeed);
+KORVEL_FLAT int VB_M_SamplingWithReplacement(OLECHAR* const* table, int rows, int cols, int k,
+                                             OLECHAR** sample, double* selected, int* seed, short int flag,
+                                             int* nextSeed);
 
 /**
  * Takes each row as many times as the caller says, in the order of the rows.
@@ -38,8 +39,8 @@ KORVEL_FLAT int VB_M_SamplingWithReplacement(OLECHAR** table, int rows, int cols
  * @param selected [out] a number for each row of the sample: its row number in the table
  * @return 0
  */
-KORVEL_FLAT int VB_M_SampleUserDefined(OLECHAR** table, int rows, int cols, OLECHAR** sample, double* counts,
-                                       double* selected);
+KORVEL_FLAT int VB_M_SampleUserDefined(OLECHAR* const* table, int rows, int cols, OLECHAR** sample,
+                                       const double* counts, double* selected);
 
 /**
  * Takes each row of a chunked table as many times as the caller says, in the order of the rows.
@@ -54,7 +55,7 @@ KORVEL_FLAT int VB_M_SampleUserDefined(OLECHAR** table, int rows, int cols, OLEC
  * @return 0
  */
 KORVEL_FLAT int VB_M_SampleUserDefinedSPV(Hostarray** table, int rows, int cols, Hostarray** sample,
-                                          double* counts, double* selected);
+                                          const double* counts, double* selected);
 
 /**
  * Systematic sample of rows with a random start: with the step s, the quotient (rows - 1) / (k - 1) without
@@ -71,8 +72,9 @@ KORVEL_FLAT int VB_M_SampleUserDefinedSPV(Hostarray** table, int rows, int cols,
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
-KORVEL_FLAT int VB_M_SamplingSystematicRdStart(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
-                                               double* selected, int* seed, short int flag, int* nextSeed);
+KORVEL_FLAT int VB_M_SamplingSystematicRdStart(OLECHAR* const* table, int rows, int cols, int k,
+                                               OLECHAR** sample, double* selected, int* seed, short int flag,
+                                               int* nextSeed);
 
 /**
  * Systematic sample of the rows of a chunked table with a random start: see VB_M_SamplingSystematicRdStart.
@@ -103,8 +105,8 @@ KORVEL_FLAT int VB_M_SamplingSystematicRdStartSPV(Hostarray** table, int rows, i
  * @param selected [inout] rows numbers: receives rows + 1 for each row that is not taken; the others stay
  * @return 0
  */
-KORVEL_FLAT int VB_M_SamplingSystematicCentered(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
-                                                double* selected);
+KORVEL_FLAT int VB_M_SamplingSystematicCentered(OLECHAR* const* table, int rows, int cols, int k,
+                                                OLECHAR** sample, double* selected);
 
 /**
  * Systematic sample of the rows of a chunked table with a start in the middle of the possible ones.
@@ -134,8 +136,9 @@ KORVEL_FLAT int VB_M_SamplingSystematicCenteredSPV(Hostarray** table, int rows, 
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
-KORVEL_FLAT int VB_M_SamplingRandomStratified(OLECHAR** table, int rows, int cols, int k, OLECHAR** sample,
-                                              double* selected, int* seed, short int flag, int* nextSeed);
+KORVEL_FLAT int VB_M_SamplingRandomStratified(OLECHAR* const* table, int rows, int cols, int k,
+                                              OLECHAR** sample, double* selected, int* seed, short int flag,
+                                              int* nextSeed);
 
 /**
  * One random row of a chunked table from each of k strata of consecutive rows. Strata may overlap.
@@ -172,9 +175,9 @@ KORVEL_FLAT int VB_M_SamplingRandomStratifiedSPV(Hostarray** table, int rows, in
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_SamplingRandomStratifiedByStr(OLECHAR** table, int rows, int cols, int k,
-                                                    OLECHAR** sample, OLECHAR** strata, double* selected,
-                                                    double* counts, int nCounts, int* seed, short int flag,
-                                                    int* nextSeed);
+KORVEL_FLAT int Cpp_M_SamplingRandomStratifiedByStr(OLECHAR* const* table, int rows, int cols, int k,
+                                                    OLECHAR** sample, OLECHAR* const* strata,
+                                                    double* selected, const double* counts, int nCounts,
+                                                    int* seed, short int flag, int* nextSeed);
 
 #endif

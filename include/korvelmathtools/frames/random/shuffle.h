@@ -71,7 +71,7 @@ KORVEL_FLAT int Cpp_M_ShuffleStr2(OLECHAR** x, int rows, int cols, int* seed, sh
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_ShuffleDbl(double* x, int rows, int cols, double* out, int* seed, short int flag,
+KORVEL_FLAT int Cpp_M_ShuffleDbl(const double* x, int rows, int cols, double* out, int* seed, short int flag,
                                  int* nextSeed);
 
 /**
@@ -86,7 +86,7 @@ KORVEL_FLAT int Cpp_M_ShuffleDbl(double* x, int rows, int cols, double* out, int
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_ShuffleStr(OLECHAR** x, int rows, int cols, OLECHAR** out, int* seed, short int flag,
-                                 int* nextSeed);
+KORVEL_FLAT int Cpp_M_ShuffleStr(OLECHAR* const* x, int rows, int cols, OLECHAR** out, int* seed,
+                                 short int flag, int* nextSeed);
 
 #endif

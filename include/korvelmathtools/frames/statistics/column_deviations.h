@@ -32,8 +32,9 @@
  * flags; any other value: no row is kept
  * @return 0
  */
-KORVEL_FLAT int VB_M_MeanStDev(double* x, int rows, int cols, double* means, double* sds, short int* iMissing,
-                               double* w, short int bUnbiased, short int bFreq, short int flag);
+KORVEL_FLAT int VB_M_MeanStDev(const double* x, int rows, int cols, double* means, double* sds,
+                               const short int* iMissing, const double* w, short int bUnbiased,
+                               short int bFreq, short int flag);
 
 /**
  * Means, standard deviations and variances of the columns.
@@ -50,8 +51,9 @@ KORVEL_FLAT int VB_M_MeanStDev(double* x, int rows, int cols, double* means, dou
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_M_MeanStDevVar(double* x, int rows, int cols, double* means, double* sds, double* vars,
-                                  short int* iMissing, double* w, short int bUnbiased, short int bFreq);
+KORVEL_FLAT int VB_M_MeanStDevVar(const double* x, int rows, int cols, double* means, double* sds,
+                                  double* vars, const short int* iMissing, const double* w,
+                                  short int bUnbiased, short int bFreq);
 
 /**
  * Means and standard deviations of the rows.
@@ -66,8 +68,8 @@ KORVEL_FLAT int VB_M_MeanStDevVar(double* x, int rows, int cols, double* means, 
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_M_MeanStDevByRow(double* x, int rows, int cols, double* means, double* sds, double* w,
-                                    short int bUnbiased, short int bFreq);
+KORVEL_FLAT int VB_M_MeanStDevByRow(const double* x, int rows, int cols, double* means, double* sds,
+                                    const double* w, short int bUnbiased, short int bFreq);
 
 /**
  * Mean, standard deviation and variance of all cells as one sample, column after column, each cell with the
@@ -84,7 +86,7 @@ KORVEL_FLAT int VB_M_MeanStDevByRow(double* x, int rows, int cols, double* means
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_M_MeanStDevVarOneInMat(double* x, int rows, int cols, double* mean, double* sd,
-                                          double* var, double* w, short int bUnbiased, short int bFreq);
+KORVEL_FLAT int VB_M_MeanStDevVarOneInMat(const double* x, int rows, int cols, double* mean, double* sd,
+                                          double* var, const double* w, short int bUnbiased, short int bFreq);
 
 #endif

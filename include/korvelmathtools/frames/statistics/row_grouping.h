@@ -23,8 +23,8 @@
  * input
  * @return 0
  */
-KORVEL_FLAT int VB_M_GroupBy(double* x, int rows, int cols, int* kinds, int groupCol, int method, int* nOut,
-                             double* out);
+KORVEL_FLAT int VB_M_GroupBy(const double* x, int rows, int cols, const int* kinds, int groupCol, int method,
+                             int* nOut, double* out);
 
 /**
  * Aggregates the rows that share the value of a key column, with a weight for each row.
@@ -43,8 +43,8 @@ KORVEL_FLAT int VB_M_GroupBy(double* x, int rows, int cols, int* kinds, int grou
  * @param w        [in] rows weights
  * @return 0
  */
-KORVEL_FLAT int VB_M_GroupByW(double* x, int rows, int cols, int* kinds, int groupCol, int method, int* nOut,
-                              double* out, double* w);
+KORVEL_FLAT int VB_M_GroupByW(const double* x, int rows, int cols, const int* kinds, int groupCol, int method,
+                              int* nOut, double* out, const double* w);
 
 /**
  * Merges rows that are equal, exactly, in all data columns. The kept rows come first, in the order of their
@@ -58,6 +58,6 @@ KORVEL_FLAT int VB_M_GroupByW(double* x, int rows, int cols, int* kinds, int gro
  * identifier, and 1 for a kept row, 0 for a dropped one
  * @return 0
  */
-KORVEL_FLAT int VB_M_Dedupe(double* x, int rows, int p, int* nOut, double* out);
+KORVEL_FLAT int VB_M_Dedupe(const double* x, int rows, int p, int* nOut, double* out);
 
 #endif

@@ -18,7 +18,7 @@
  * @param iMissing [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @return the element; missing when none is kept
  */
-KORVEL_FLAT double VB_V_Min(double* x, int n, short int* iMissing);
+KORVEL_FLAT double VB_V_Min(const double* x, int n, const short int* iMissing);
 
 /**
  * The smallest element that is not missing.
@@ -27,7 +27,7 @@ KORVEL_FLAT double VB_V_Min(double* x, int n, short int* iMissing);
  * @param n number of elements
  * @return the element; missing when there is none
  */
-KORVEL_FLAT double VB_V_Min2(double* x, int n);
+KORVEL_FLAT double VB_V_Min2(const double* x, int n);
 
 /**
  * The smallest of some integers.
@@ -36,7 +36,7 @@ KORVEL_FLAT double VB_V_Min2(double* x, int n);
  * @param n number of elements
  * @return the element as a number; the missing number when n is below 1
  */
-KORVEL_FLAT double VB_V_Min2Lng(int* x, int n);
+KORVEL_FLAT double VB_V_Min2Lng(const int* x, int n);
 
 /**
  * The largest element that is kept.
@@ -47,7 +47,7 @@ KORVEL_FLAT double VB_V_Min2Lng(int* x, int n);
  * no flag is set
  * @return the element; missing when none is kept
  */
-KORVEL_FLAT double VB_V_Max(double* x, int n, short int* iMissing);
+KORVEL_FLAT double VB_V_Max(const double* x, int n, const short int* iMissing);
 
 /**
  * The largest element that is not missing.
@@ -56,7 +56,7 @@ KORVEL_FLAT double VB_V_Max(double* x, int n, short int* iMissing);
  * @param n number of elements
  * @return the element; missing when there is none
  */
-KORVEL_FLAT double VB_V_Max2(double* x, int n);
+KORVEL_FLAT double VB_V_Max2(const double* x, int n);
 
 /**
  * The largest of some integers.
@@ -65,7 +65,7 @@ KORVEL_FLAT double VB_V_Max2(double* x, int n);
  * @param n number of elements
  * @return the element as a number; the missing number when n is below 1
  */
-KORVEL_FLAT double VB_V_Max2Lng(int* x, int n);
+KORVEL_FLAT double VB_V_Max2Lng(const int* x, int n);
 
 /**
  * The largest element of a host array that is not missing.
@@ -93,7 +93,7 @@ KORVEL_FLAT double Cpp_V_Max2Lng_ST(SAFEARRAY** sa, int n);
  * @param iMissing [in] n flags; an element with a non-zero flag is left out. Null: no flag is set
  * @return the element; -2147483648 when none is kept
  */
-KORVEL_FLAT int VB_V_MaxInt(int* x, int n, short int* iMissing);
+KORVEL_FLAT int VB_V_MaxInt(const int* x, int n, const short int* iMissing);
 
 /**
  * The smallest and the largest element that are kept. When none is, both are missing.
@@ -105,7 +105,7 @@ KORVEL_FLAT int VB_V_MaxInt(int* x, int n, short int* iMissing);
  * @param iMissing [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @return 0
  */
-KORVEL_FLAT int VB_V_MinMax(double* x, int n, double* min, double* max, short int* iMissing);
+KORVEL_FLAT int VB_V_MinMax(const double* x, int n, double* min, double* max, const short int* iMissing);
 
 /**
  * The smallest and the largest integer that are kept. When none is, both are the missing number.
@@ -117,7 +117,7 @@ KORVEL_FLAT int VB_V_MinMax(double* x, int n, double* min, double* max, short in
  * @param iMissing [in] n flags; an element with a non-zero flag is left out
  * @return 0
  */
-KORVEL_FLAT int VB_V_MinMaxLng(int* x, int n, double* min, double* max, short int* iMissing);
+KORVEL_FLAT int VB_V_MinMaxLng(const int* x, int n, double* min, double* max, const short int* iMissing);
 
 /**
  * The smallest and the largest element. When missing elements are passed over, only those in front of the
@@ -130,7 +130,7 @@ KORVEL_FLAT int VB_V_MinMaxLng(int* x, int n, double* min, double* max, short in
  * @param bSkipMissing 0: no element is passed over
  * @return 0
  */
-KORVEL_FLAT int VB_V_MinMax2(double* x, int n, double* min, double* max, short int bSkipMissing);
+KORVEL_FLAT int VB_V_MinMax2(const double* x, int n, double* min, double* max, short int bSkipMissing);
 
 /**
  * The smallest and the largest of some integers.
@@ -143,7 +143,7 @@ KORVEL_FLAT int VB_V_MinMax2(double* x, int n, double* min, double* max, short i
  * @param bSkipMissing no integer is missing, so this matters only without elements
  * @return 0
  */
-KORVEL_FLAT int VB_V_MinMaxLng2(int* x, int n, double* min, double* max, short int bSkipMissing);
+KORVEL_FLAT int VB_V_MinMaxLng2(const int* x, int n, double* min, double* max, short int bSkipMissing);
 
 /**
  * The smallest of all elements, missing ones too, and its position.
@@ -154,7 +154,7 @@ KORVEL_FLAT int VB_V_MinMaxLng2(int* x, int n, double* min, double* max, short i
  * @param bLast of equal elements, not 0 takes the last, 0 the first
  * @return the element
  */
-KORVEL_FLAT double VB_V_MinAndMinPos(double* x, int n, int* pos, short int bLast);
+KORVEL_FLAT double VB_V_MinAndMinPos(const double* x, int n, int* pos, short int bLast);
 
 /**
  * The largest of all elements, missing ones too, and the first of its positions.
@@ -164,6 +164,6 @@ KORVEL_FLAT double VB_V_MinAndMinPos(double* x, int n, int* pos, short int bLast
  * @param pos [out] the position, from 1
  * @return the element
  */
-KORVEL_FLAT double VB_V_MaxAndMaxPos(double* x, int n, int* pos);
+KORVEL_FLAT double VB_V_MaxAndMaxPos(const double* x, int n, int* pos);
 
 #endif

@@ -18,7 +18,7 @@
  * @param tol   an element counts when its distance from the value is less than this, so that 0 counts none
  * @return the sum of their weights; 0.0 when there are none
  */
-KORVEL_FLAT double VB_V_Freq(double* x, int n, double* w, double value, double tol);
+KORVEL_FLAT double VB_V_Freq(const double* x, int n, const double* w, double value, double tol);
 
 /**
  * Total weight of the integers that are near a value.
@@ -30,7 +30,7 @@ KORVEL_FLAT double VB_V_Freq(double* x, int n, double* w, double value, double t
  * @param tol   an element counts when its distance from the value is less than this, so that 0 counts none
  * @return the sum of their weights; 0.0 when there are none
  */
-KORVEL_FLAT double VB_V_FreqLng(int* x, int n, double* w, double value, double tol);
+KORVEL_FLAT double VB_V_FreqLng(const int* x, int n, const double* w, double value, double tol);
 
 /**
  * Total weight of the texts that equal a value: of the same length and with the same code units.
@@ -41,6 +41,6 @@ KORVEL_FLAT double VB_V_FreqLng(int* x, int n, double* w, double value, double t
  * @param value  [in] a text (BSTR), up to its first NUL. Null: the empty text
  * @return the sum of their weights; 0.0 when there are none
  */
-KORVEL_FLAT double VB_V_FreqStr(OLECHAR** labels, int n, double* w, OLECHAR* value);
+KORVEL_FLAT double VB_V_FreqStr(OLECHAR* const* labels, int n, const double* w, const OLECHAR* value);
 
 #endif

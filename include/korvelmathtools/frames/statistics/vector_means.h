@@ -16,7 +16,7 @@
  * @param w        [in] n weights; a missing one is a number like any other
  * @return the mean; missing when n is below 1 or the weights kept sum to exactly 0
  */
-KORVEL_FLAT double VB_V_Mean(double* x, int n, short int* iMissing, double* w);
+KORVEL_FLAT double VB_V_Mean(const double* x, int n, const short int* iMissing, const double* w);
 
 /**
  * Weighted mean of absolute values.
@@ -28,7 +28,7 @@ KORVEL_FLAT double VB_V_Mean(double* x, int n, short int* iMissing, double* w);
  * @return the sum of w[i] * |x[i]| over the sum of w[i]; missing when n is below 1 or the weights kept sum to
  * exactly 0
  */
-KORVEL_FLAT double VB_V_MeanAbs(double* x, int n, short int* iMissing, double* w);
+KORVEL_FLAT double VB_V_MeanAbs(const double* x, int n, const short int* iMissing, const double* w);
 
 /**
  * Mean of the elements that are not missing.
@@ -37,7 +37,7 @@ KORVEL_FLAT double VB_V_MeanAbs(double* x, int n, short int* iMissing, double* w
  * @param n number of elements
  * @return the mean; missing when there is no such element
  */
-KORVEL_FLAT double VB_V_Mean2(double* x, int n);
+KORVEL_FLAT double VB_V_Mean2(const double* x, int n);
 
 /**
  * Weighted mean of the elements that are not missing.
@@ -48,7 +48,7 @@ KORVEL_FLAT double VB_V_Mean2(double* x, int n);
  * @return the sum of w[i] * x[i] over the sum of w[i]; missing when n is below 1, and unless the sum of the
  * weights is greater than 0
  */
-KORVEL_FLAT double Cpp_V_MeanW2(double* x, int n, double* w);
+KORVEL_FLAT double Cpp_V_MeanW2(const double* x, int n, const double* w);
 
 /**
  * Weighted harmonic mean: the sum of w[i] over the sum of w[i] / x[i].
@@ -60,7 +60,7 @@ KORVEL_FLAT double Cpp_V_MeanW2(double* x, int n, double* w);
  * @return the mean; missing when n is below 1, when an element kept is 0, and when the quotients sum to
  * exactly 0
  */
-KORVEL_FLAT double Cpp_V_HarmonicMean(double* x, int n, short int* iMissing, double* w);
+KORVEL_FLAT double Cpp_V_HarmonicMean(const double* x, int n, const short int* iMissing, const double* w);
 
 /**
  * Geometric mean and geometric standard deviation. The variance of the logarithms is divided by the sum of
@@ -75,6 +75,7 @@ KORVEL_FLAT double Cpp_V_HarmonicMean(double* x, int n, short int* iMissing, dou
  * the variance of the logarithms is negative
  * @return 0. Both results are missing when no element is kept or one that is kept is not greater than 0
  */
-KORVEL_FLAT int Cpp_V_GMeanGSD(double* x, int n, short int* iMissing, double* w, double* gmean, double* gsd);
+KORVEL_FLAT int Cpp_V_GMeanGSD(const double* x, int n, const short int* iMissing, const double* w,
+                               double* gmean, double* gsd);
 
 #endif

@@ -33,9 +33,9 @@
  * @param bFreq     true only when -1: each weight counts as so many observations
  * @return 0
  */
-KORVEL_FLAT int VB_V_MeanVarSkewPKurtP(double* x, int n, double* mean, double* var, double* skewP,
+KORVEL_FLAT int VB_V_MeanVarSkewPKurtP(const double* x, int n, double* mean, double* var, double* skewP,
                                        double* kurtP, double* skew, double* kurt, double* seSkew,
-                                       double* seKurt, short int* iMissing, double* w, short int bUnbiased,
-                                       short int bFreq);
+                                       double* seKurt, const short int* iMissing, const double* w,
+                                       short int bUnbiased, short int bFreq);
 
 #endif

@@ -17,7 +17,7 @@
  * @return the sum over the elements whose flag is 0 and of which neither value nor weight is missing; 0.0
  * when there are none
  */
-KORVEL_FLAT double VB_V_Sum(double* x, int n, short int* iMissing, double* w);
+KORVEL_FLAT double VB_V_Sum(const double* x, int n, const short int* iMissing, const double* w);
 
 /**
  * Sum of x[i] * w[i] over all elements: a missing value or weight multiplies through.
@@ -27,7 +27,7 @@ KORVEL_FLAT double VB_V_Sum(double* x, int n, short int* iMissing, double* w);
  * @param w [in] n weights
  * @return the sum; 0.0 when n is below 1
  */
-KORVEL_FLAT double Cpp_V_SumW(double* x, int n, double* w);
+KORVEL_FLAT double Cpp_V_SumW(const double* x, int n, const double* w);
 
 /**
  * Sum of the elements that are not missing.
@@ -36,7 +36,7 @@ KORVEL_FLAT double Cpp_V_SumW(double* x, int n, double* w);
  * @param n number of elements
  * @return the sum; 0.0 when there are none
  */
-KORVEL_FLAT double VB_V_Sum2Dbl(double* x, int n);
+KORVEL_FLAT double VB_V_Sum2Dbl(const double* x, int n);
 
 /**
  * Sum of integers in 32-bit arithmetic that wraps around. No integer is missing here.
@@ -45,7 +45,7 @@ KORVEL_FLAT double VB_V_Sum2Dbl(double* x, int n);
  * @param n number of elements
  * @return the wrapped sum as a number; 0.0 when n is below 1
  */
-KORVEL_FLAT double VB_V_Sum2Lng(int* x, int n);
+KORVEL_FLAT double VB_V_Sum2Lng(const int* x, int n);
 
 /**
  * Sum of the elements of a host array that are not missing.
@@ -74,7 +74,7 @@ KORVEL_FLAT double Cpp_V_Sum2Lng_ST(SAFEARRAY** sa, int n);
  * @param to   last position, from 1
  * @return the sum; 0.0 when `from` is above `to`
  */
-KORVEL_FLAT double VB_V_SumFromTo(double* x, int n, int from, int to);
+KORVEL_FLAT double VB_V_SumFromTo(const double* x, int n, int from, int to);
 
 /**
  * Sum over a stretch of a vector of integers, in 32-bit arithmetic that wraps around.
@@ -85,7 +85,7 @@ KORVEL_FLAT double VB_V_SumFromTo(double* x, int n, int from, int to);
  * @param to   last position, from 1
  * @return the wrapped sum; 0 when `from` is above `to`
  */
-KORVEL_FLAT int VB_V_SumFromToLng(int* x, int n, int from, int to);
+KORVEL_FLAT int VB_V_SumFromToLng(const int* x, int n, int from, int to);
 
 /**
  * Sum of squares of the elements that are not missing.
@@ -94,7 +94,7 @@ KORVEL_FLAT int VB_V_SumFromToLng(int* x, int n, int from, int to);
  * @param n number of elements
  * @return the sum; 0.0 when there are none
  */
-KORVEL_FLAT double VB_V_SumSq(double* x, int n);
+KORVEL_FLAT double VB_V_SumSq(const double* x, int n);
 
 /**
  * Weighted sum of squares of the elements that are not missing: the sum of x[i] * w[i] * x[i]. A missing
@@ -105,7 +105,7 @@ KORVEL_FLAT double VB_V_SumSq(double* x, int n);
  * @param w [in] n weights
  * @return the sum; 0.0 when there are none
  */
-KORVEL_FLAT double VB_V_SumSqW(double* x, int n, double* w);
+KORVEL_FLAT double VB_V_SumSqW(const double* x, int n, const double* w);
 
 /**
  * Squared distance of two vectors, over all elements, missing ones too.
@@ -115,7 +115,7 @@ KORVEL_FLAT double VB_V_SumSqW(double* x, int n, double* w);
  * @param y [in] n numbers
  * @return the sum of the squares of x[i] - y[i]; 0.0 when n is below 1
  */
-KORVEL_FLAT double VB_V_DiffSq(double* x, int n, double* y);
+KORVEL_FLAT double VB_V_DiffSq(const double* x, int n, const double* y);
 
 /**
  * Weighted squared distance of two vectors, over all elements, missing ones too.
@@ -126,7 +126,7 @@ KORVEL_FLAT double VB_V_DiffSq(double* x, int n, double* y);
  * @param w [in] n weights
  * @return the sum of w[i] times the square of x[i] - y[i]; 0.0 when n is below 1
  */
-KORVEL_FLAT double VB_V_DiffSqW(double* x, int n, double* y, double* w);
+KORVEL_FLAT double VB_V_DiffSqW(const double* x, int n, const double* y, const double* w);
 
 /**
  * Squared distance of the tails of two vectors, over all elements, missing ones too.
@@ -137,7 +137,7 @@ KORVEL_FLAT double VB_V_DiffSqW(double* x, int n, double* y, double* w);
  * @param start first position, from 1
  * @return the sum of the squares of the differences; 0.0 when `start` is above n
  */
-KORVEL_FLAT double Cpp_V_DiffSqStart(double* x, int n, double* y, int start);
+KORVEL_FLAT double Cpp_V_DiffSqStart(const double* x, int n, const double* y, int start);
 
 /**
  * Running sum over all elements, missing ones too.
@@ -147,6 +147,6 @@ KORVEL_FLAT double Cpp_V_DiffSqStart(double* x, int n, double* y, int start);
  * @param out [out] n numbers: the first element, and then the one before plus x[i]. May be x itself
  * @return 0
  */
-KORVEL_FLAT int Cpp_V_CuSum(double* x, int n, double* out);
+KORVEL_FLAT int Cpp_V_CuSum(const double* x, int n, double* out);
 
 #endif

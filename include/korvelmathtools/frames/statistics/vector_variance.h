@@ -24,8 +24,8 @@
  * any other; when nothing is kept the result is missing unless unbiased, -0.0 with frequency weights, and a
  * NaN without
  */
-KORVEL_FLAT double VB_V_Var(double* x, int n, short int* iMissing, double* w, short int bUnbiased,
-                            short int bFreq);
+KORVEL_FLAT double VB_V_Var(const double* x, int n, const short int* iMissing, const double* w,
+                            short int bUnbiased, short int bFreq);
 
 /**
  * Variance of the elements that are not missing, all of weight 1: VB_V_Var with no flag set.
@@ -36,7 +36,7 @@ KORVEL_FLAT double VB_V_Var(double* x, int n, short int* iMissing, double* w, sh
  * @param bFreq     how it is
  * @return as for VB_V_Var
  */
-KORVEL_FLAT double Cpp_V_Var2(double* x, int n, short int bUnbiased, short int bFreq);
+KORVEL_FLAT double Cpp_V_Var2(const double* x, int n, short int bUnbiased, short int bFreq);
 
 /**
  * Weighted standard deviation: the square root of VB_V_Var.
@@ -49,8 +49,8 @@ KORVEL_FLAT double Cpp_V_Var2(double* x, int n, short int bUnbiased, short int b
  * @param bFreq     how it is
  * @return the root; 0.0 for a variance of 0; missing for a negative one and for a missing one
  */
-KORVEL_FLAT double VB_V_Stdev(double* x, int n, short int* iMissing, double* w, short int bUnbiased,
-                              short int bFreq);
+KORVEL_FLAT double VB_V_Stdev(const double* x, int n, const short int* iMissing, const double* w,
+                              short int bUnbiased, short int bFreq);
 
 /**
  * Weighted mean and variance. When nothing is kept both are 0.0.
@@ -65,8 +65,8 @@ KORVEL_FLAT double VB_V_Stdev(double* x, int n, short int* iMissing, double* w, 
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_V_MeanVar(double* x, int n, double* mean, double* var, short int* iMissing, double* w,
-                             short int bUnbiased, short int bFreq);
+KORVEL_FLAT int VB_V_MeanVar(const double* x, int n, double* mean, double* var, const short int* iMissing,
+                             const double* w, short int bUnbiased, short int bFreq);
 
 /**
  * Weighted mean and variance of the elements that are not missing.
@@ -80,8 +80,8 @@ KORVEL_FLAT int VB_V_MeanVar(double* x, int n, double* mean, double* var, short 
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int Cpp_V_MeanVarW2(double* x, int n, double* w, double* mean, double* var, short int bUnbiased,
-                                short int bFreq);
+KORVEL_FLAT int Cpp_V_MeanVarW2(const double* x, int n, const double* w, double* mean, double* var,
+                                short int bUnbiased, short int bFreq);
 
 /**
  * Weighted mean and standard deviation. When nothing is kept both are 0.0.
@@ -97,8 +97,8 @@ KORVEL_FLAT int Cpp_V_MeanVarW2(double* x, int n, double* w, double* mean, doubl
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_V_MeanStdev(double* x, int n, double* mean, double* sd, short int* iMissing, double* w,
-                               short int bUnbiased, short int bFreq);
+KORVEL_FLAT int VB_V_MeanStdev(const double* x, int n, double* mean, double* sd, const short int* iMissing,
+                               const double* w, short int bUnbiased, short int bFreq);
 
 /**
  * Mean and standard deviation of the elements greater than the missing number, all of weight 1; a NaN is left
@@ -112,6 +112,6 @@ KORVEL_FLAT int VB_V_MeanStdev(double* x, int n, double* mean, double* sd, short
  * without elements a NaN, or -0.0 when unbiased
  * @return 0
  */
-KORVEL_FLAT int Cpp_V_MeanStdev2(double* x, int n, short int bUnbiased, double* mean, double* sd);
+KORVEL_FLAT int Cpp_V_MeanStdev2(const double* x, int n, short int bUnbiased, double* mean, double* sd);
 
 #endif

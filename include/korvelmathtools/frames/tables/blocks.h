@@ -23,7 +23,7 @@
  * @param out      [out] the numbers of the block
  * @return 0
  */
-KORVEL_FLAT int VB_M_CopyBlock(double* x, int rows, int cols, int firstRow, int lastRow, int firstCol,
+KORVEL_FLAT int VB_M_CopyBlock(const double* x, int rows, int cols, int firstRow, int lastRow, int firstCol,
                                int lastCol, double* out);
 
 /**
@@ -39,8 +39,8 @@ KORVEL_FLAT int VB_M_CopyBlock(double* x, int rows, int cols, int firstRow, int 
  * @param out      [out] the texts of the block
  * @return 0
  */
-KORVEL_FLAT int VB_M_CopyBlockStr(OLECHAR** x, int rows, int cols, int firstRow, int lastRow, int firstCol,
-                                  int lastCol, OLECHAR** out);
+KORVEL_FLAT int VB_M_CopyBlockStr(OLECHAR* const* x, int rows, int cols, int firstRow, int lastRow,
+                                  int firstCol, int lastCol, OLECHAR** out);
 
 /**
  * Copies a block of a chunked table.
@@ -106,7 +106,7 @@ KORVEL_FLAT int Cpp_M_CopyBlockSPV2_T(Hostarray** x, int n, int firstRow, int la
  * @param col   its column for the first column
  * @return 0
  */
-KORVEL_FLAT int VB_M_PasteBlock(double* x, int rows, int cols, double* y, int yRows, int yCols, int row,
+KORVEL_FLAT int VB_M_PasteBlock(const double* x, int rows, int cols, double* y, int yRows, int yCols, int row,
                                 int col);
 
 /**
@@ -122,7 +122,7 @@ KORVEL_FLAT int VB_M_PasteBlock(double* x, int rows, int cols, double* y, int yR
  * @param col   its column for the first column
  * @return 0
  */
-KORVEL_FLAT int VB_M_PasteBlockLng(int* x, int rows, int cols, int* y, int yRows, int yCols, int row,
+KORVEL_FLAT int VB_M_PasteBlockLng(const int* x, int rows, int cols, int* y, int yRows, int yCols, int row,
                                    int col);
 
 /**
@@ -143,8 +143,9 @@ KORVEL_FLAT int VB_M_PasteBlockLng(int* x, int rows, int cols, int* y, int yRows
  * @param col      its column for the first column of the block
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_CopyPasteBlock(double* x, int rows, int cols, int firstRow, int lastRow, int firstCol,
-                                     int lastCol, double* y, int yRows, int yCols, int row, int col);
+KORVEL_FLAT int Cpp_M_CopyPasteBlock(const double* x, int rows, int cols, int firstRow, int lastRow,
+                                     int firstCol, int lastCol, double* y, int yRows, int yCols, int row,
+                                     int col);
 
 /**
  * Copies a block of a table of texts to a place in another, which may be the same. What would fall outside of
@@ -164,7 +165,7 @@ KORVEL_FLAT int Cpp_M_CopyPasteBlock(double* x, int rows, int cols, int firstRow
  * @param col      its column for the first column of the block
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_CopyPasteBlockStr(OLECHAR** x, int rows, int cols, int firstRow, int lastRow,
+KORVEL_FLAT int Cpp_M_CopyPasteBlockStr(OLECHAR* const* x, int rows, int cols, int firstRow, int lastRow,
                                         int firstCol, int lastCol, OLECHAR** y, int yRows, int yCols, int row,
                                         int col);
 

@@ -16,7 +16,7 @@
  * @param y    [out] rows by cols numbers, missing for a cell of 0 or below and for a missing one; may be x
  * @return 0
  */
-KORVEL_FLAT int VB_M_LogMatrix(double* x, int rows, int cols, double* y);
+KORVEL_FLAT int VB_M_LogMatrix(const double* x, int rows, int cols, double* y);
 
 /**
  * Logarithms to base 10.
@@ -27,7 +27,7 @@ KORVEL_FLAT int VB_M_LogMatrix(double* x, int rows, int cols, double* y);
  * @param y    [out] rows by cols numbers, missing for a cell of 0 or below and for a missing one; may be x
  * @return 0
  */
-KORVEL_FLAT int VB_M_Log10Matrix(double* x, int rows, int cols, double* y);
+KORVEL_FLAT int VB_M_Log10Matrix(const double* x, int rows, int cols, double* y);
 
 /**
  * Square roots.
@@ -38,7 +38,7 @@ KORVEL_FLAT int VB_M_Log10Matrix(double* x, int rows, int cols, double* y);
  * @param y    [out] rows by cols numbers, missing for a cell below 0 and for a missing one; may be x
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_SquareRootAij(double* x, int rows, int cols, double* y);
+KORVEL_FLAT int Cpp_M_SquareRootAij(const double* x, int rows, int cols, double* y);
 
 /**
  * Square roots, in place.

@@ -23,8 +23,8 @@
  * @param bReset other than 0: all other cells of y become 0
  * @return 0
  */
-KORVEL_FLAT int VB_CopyMatrixColToMatrixCol(double* x, int rows, int cols, int col, double* y, int yRows,
-                                            int yCols, int colTo, short int bReset);
+KORVEL_FLAT int VB_CopyMatrixColToMatrixCol(const double* x, int rows, int cols, int col, double* y,
+                                            int yRows, int yCols, int colTo, short int bReset);
 
 /**
  * Copies a row of a table into a row of another.
@@ -40,8 +40,8 @@ KORVEL_FLAT int VB_CopyMatrixColToMatrixCol(double* x, int rows, int cols, int c
  * @param bReset other than 0: all other cells of y become 0
  * @return 0
  */
-KORVEL_FLAT int VB_CopyMatrixRowToMatrixRow(double* x, int rows, int cols, int row, double* y, int yRows,
-                                            int yCols, int rowTo, short int bReset);
+KORVEL_FLAT int VB_CopyMatrixRowToMatrixRow(const double* x, int rows, int cols, int row, double* y,
+                                            int yRows, int yCols, int rowTo, short int bReset);
 
 /**
  * Copies a column of a table into a vector.
@@ -53,7 +53,7 @@ KORVEL_FLAT int VB_CopyMatrixRowToMatrixRow(double* x, int rows, int cols, int r
  * @param y    [out] rows numbers
  * @return 0
  */
-KORVEL_FLAT int VB_CopyMatrixColToVector(double* x, int rows, int cols, int col, double* y);
+KORVEL_FLAT int VB_CopyMatrixColToVector(const double* x, int rows, int cols, int col, double* y);
 
 /**
  * Copies a column of a table of texts into a vector.
@@ -65,7 +65,7 @@ KORVEL_FLAT int VB_CopyMatrixColToVector(double* x, int rows, int cols, int col,
  * @param y    [out] rows texts
  * @return 0
  */
-KORVEL_FLAT int VB_CopyMatrixColToOneColMatStr(OLECHAR** x, int rows, int cols, int col, OLECHAR** y);
+KORVEL_FLAT int VB_CopyMatrixColToOneColMatStr(OLECHAR* const* x, int rows, int cols, int col, OLECHAR** y);
 
 /**
  * Moves a row of a table to another place, in place; the rows between the two move up or down by one.
@@ -95,7 +95,7 @@ KORVEL_FLAT int VB_M_MoveRow(double* x, int rows, int cols, int from, int to);
  * @param yCol  column of y
  * @return 0
  */
-KORVEL_FLAT int VB_V_DuplicateDbl(double* x, int rows, int cols, int col, int from, int to, double* y,
+KORVEL_FLAT int VB_V_DuplicateDbl(const double* x, int rows, int cols, int col, int from, int to, double* y,
                                   int yRows, int yCols, int row, int yCol);
 
 /**
@@ -114,8 +114,8 @@ KORVEL_FLAT int VB_V_DuplicateDbl(double* x, int rows, int cols, int col, int fr
  * @param yCol  column of y
  * @return 0
  */
-KORVEL_FLAT int VB_V_DuplicateLng(int* x, int rows, int cols, int col, int from, int to, int* y, int yRows,
-                                  int yCols, int row, int yCol);
+KORVEL_FLAT int VB_V_DuplicateLng(const int* x, int rows, int cols, int col, int from, int to, int* y,
+                                  int yRows, int yCols, int row, int yCol);
 
 /**
  * Copies a range of rows of a column of numbers to a place in a table of integers.
@@ -135,7 +135,7 @@ KORVEL_FLAT int VB_V_DuplicateLng(int* x, int rows, int cols, int col, int from,
  * @param yCol  column of y
  * @return 0
  */
-KORVEL_FLAT int VB_V_DuplicateDblToLng(double* x, int rows, int cols, int col, int from, int to, int* y,
+KORVEL_FLAT int VB_V_DuplicateDblToLng(const double* x, int rows, int cols, int col, int from, int to, int* y,
                                        int yRows, int yCols, int row, int yCol);
 
 /**
@@ -156,7 +156,7 @@ KORVEL_FLAT int VB_V_DuplicateDblToLng(double* x, int rows, int cols, int col, i
  * @param yCol  column of y
  * @return 0
  */
-KORVEL_FLAT int VB_V_DuplicateLngToDbl(int* x, int rows, int cols, int col, int from, int to, double* y,
+KORVEL_FLAT int VB_V_DuplicateLngToDbl(const int* x, int rows, int cols, int col, int from, int to, double* y,
                                        int yRows, int yCols, int row, int yCol);
 
 /**
@@ -175,8 +175,8 @@ KORVEL_FLAT int VB_V_DuplicateLngToDbl(int* x, int rows, int cols, int col, int 
  * @param yCol  column of y
  * @return 0
  */
-KORVEL_FLAT int VB_V_DuplicateStr(OLECHAR** x, int rows, int cols, int col, int from, int to, OLECHAR** y,
-                                  int yRows, int yCols, int row, int yCol);
+KORVEL_FLAT int VB_V_DuplicateStr(OLECHAR* const* x, int rows, int cols, int col, int from, int to,
+                                  OLECHAR** y, int yRows, int yCols, int row, int yCol);
 
 /**
  * Copies a range of rows of a column of flags to a place in a table.
@@ -194,8 +194,8 @@ KORVEL_FLAT int VB_V_DuplicateStr(OLECHAR** x, int rows, int cols, int col, int 
  * @param yCol  column of y
  * @return 0
  */
-KORVEL_FLAT int Cpp_V_DuplicateBool(short int* x, int rows, int cols, int col, int from, int to, short int* y,
-                                    int yRows, int yCols, int row, int yCol);
+KORVEL_FLAT int Cpp_V_DuplicateBool(const short int* x, int rows, int cols, int col, int from, int to,
+                                    short int* y, int yRows, int yCols, int row, int yCol);
 
 /**
  * Copies a range of rows of a column of numbers to a place in a table, both host arrays that come out of a

@@ -21,8 +21,8 @@
  * @param col   column of y for the first column of x
  * @return 0
  */
-KORVEL_FLAT int VB_M_DuplicateDbl(double* x, int rows, int cols, double* y, int yRows, int yCols, int row,
-                                  int col);
+KORVEL_FLAT int VB_M_DuplicateDbl(const double* x, int rows, int cols, double* y, int yRows, int yCols,
+                                  int row, int col);
 
 /**
  * Copies a table of integers into another.
@@ -37,7 +37,8 @@ KORVEL_FLAT int VB_M_DuplicateDbl(double* x, int rows, int cols, double* y, int 
  * @param col   column of y for the first column of x
  * @return 0
  */
-KORVEL_FLAT int VB_M_DuplicateLng(int* x, int rows, int cols, int* y, int yRows, int yCols, int row, int col);
+KORVEL_FLAT int VB_M_DuplicateLng(const int* x, int rows, int cols, int* y, int yRows, int yCols, int row,
+                                  int col);
 
 /**
  * Copies a table of texts into another.
@@ -52,8 +53,8 @@ KORVEL_FLAT int VB_M_DuplicateLng(int* x, int rows, int cols, int* y, int yRows,
  * @param col   column of y for the first column of x
  * @return 0
  */
-KORVEL_FLAT int VB_M_DuplicateStr(OLECHAR** x, int rows, int cols, OLECHAR** y, int yRows, int yCols, int row,
-                                  int col);
+KORVEL_FLAT int VB_M_DuplicateStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y, int yRows, int yCols,
+                                  int row, int col);
 
 /**
  * Copies a chunked table of texts into a dense one.
@@ -133,8 +134,8 @@ KORVEL_FLAT int Cpp_M_DuplicateDblSPV(Hostarray** x, int rows, int cols, double*
  * @param col   column of y for the first column of x
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_DuplicateDblSPV2(double* x, int rows, int cols, Hostarray** y, int yRows, int yCols,
-                                       int row, int col);
+KORVEL_FLAT int Cpp_M_DuplicateDblSPV2(const double* x, int rows, int cols, Hostarray** y, int yRows,
+                                       int yCols, int row, int col);
 
 /**
  * Copies a dense table into a triangle, of which each column is held from the diagonal down. What would fall
@@ -152,8 +153,8 @@ and of one less each next
  * @param col   column of y for the first column of x
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_DuplicateDblSPV2_T(double* x, int rows, int cols, Hostarray** y, int yRows, int yCols,
-                                         int row, int col);
+KORVEL_FLAT int Cpp_M_DuplicateDblSPV2_T(const double* x, int rows, int cols, Hostarray** y, int yRows,
+                                         int yCols, int row, int col);
 
 /**
  * Copies a chunked table into another.

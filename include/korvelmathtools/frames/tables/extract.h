@@ -19,7 +19,7 @@
  * @param out      [out] lastRow - firstRow + 1 by cols numbers
  * @return 0
  */
-KORVEL_FLAT int VB_M_ExtractMatToMatDbl(double* x, int rows, int cols, int firstRow, int lastRow,
+KORVEL_FLAT int VB_M_ExtractMatToMatDbl(const double* x, int rows, int cols, int firstRow, int lastRow,
                                         double* out);
 
 /**
@@ -33,7 +33,7 @@ KORVEL_FLAT int VB_M_ExtractMatToMatDbl(double* x, int rows, int cols, int first
  * @param out      [out] lastRow - firstRow + 1 by cols texts
  * @return 0
  */
-KORVEL_FLAT int VB_M_ExtractMatToMatStr(OLECHAR** x, int rows, int cols, int firstRow, int lastRow,
+KORVEL_FLAT int VB_M_ExtractMatToMatStr(OLECHAR* const* x, int rows, int cols, int firstRow, int lastRow,
                                         OLECHAR** out);
 
 /**
@@ -75,7 +75,7 @@ KORVEL_FLAT int VB_M_ExtractMatToMatStrSPV(Hostarray** x, int rows, int cols, in
  * @param out  [out] j - i + 1 by cols numbers
  * @return 0
  */
-KORVEL_FLAT int Cpp_Extractij(double* x, int rows, int cols, int i, int j, double* out);
+KORVEL_FLAT int Cpp_Extractij(const double* x, int rows, int cols, int i, int j, double* out);
 
 /**
  * Takes a range of columns of a table. A column that it does not have gives -1.
@@ -88,7 +88,7 @@ KORVEL_FLAT int Cpp_Extractij(double* x, int rows, int cols, int i, int j, doubl
  * @param out      [out] rows by lastCol - firstCol + 1 numbers
  * @return 0
  */
-KORVEL_FLAT int VB_M_ExtractMatToMatByColDbl(double* x, int rows, int cols, int firstCol, int lastCol,
+KORVEL_FLAT int VB_M_ExtractMatToMatByColDbl(const double* x, int rows, int cols, int firstCol, int lastCol,
                                              double* out);
 
 #endif

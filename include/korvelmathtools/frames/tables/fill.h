@@ -62,6 +62,6 @@ KORVEL_FLAT int VB_InitVectorToTrue(short int* flags, int n);
  * @param flags [out] rows by cols flags: -1 where the cell equals value, otherwise 0
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_SetBooleanIfLng(int* x, int rows, int cols, int value, short int* flags);
+KORVEL_FLAT int Cpp_M_SetBooleanIfLng(const int* x, int rows, int cols, int value, short int* flags);
 
 #endif

@@ -19,7 +19,7 @@
  * @param cols columns of a
  * @param name [in] base name of the file
  */
-KORVEL_FLAT void Cpp_WriteMatrixDbl(double* a, int rows, int cols, const char* name);
+KORVEL_FLAT void Cpp_WriteMatrixDbl(const double* a, int rows, int cols, const char* name);
 
 /**
  * Writes a table of integers to a text file.
@@ -29,7 +29,7 @@ KORVEL_FLAT void Cpp_WriteMatrixDbl(double* a, int rows, int cols, const char* n
  * @param cols columns of a
  * @param name [in] base name of the file
  */
-KORVEL_FLAT void Cpp_WriteMatrixLng(int* a, int rows, int cols, const char* name);
+KORVEL_FLAT void Cpp_WriteMatrixLng(const int* a, int rows, int cols, const char* name);
 
 /**
  * Writes a table of texts to a text file.
@@ -41,6 +41,6 @@ KORVEL_FLAT void Cpp_WriteMatrixLng(int* a, int rows, int cols, const char* name
  * @param name [in] base name of the file
  * @return 0
  */
-KORVEL_FLAT int Cpp_WriteMatrixStr(OLECHAR** a, int rows, int cols, const char* name);
+KORVEL_FLAT int Cpp_WriteMatrixStr(OLECHAR* const* a, int rows, int cols, const char* name);
 
 #endif

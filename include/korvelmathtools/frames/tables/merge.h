@@ -25,8 +25,8 @@
  * table, then those of the second
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTablesDbl(double* a, int rowsA, int colsA, double* b, int rowsB, int colsB,
-                                   double* out);
+KORVEL_FLAT int VB_HMergeTablesDbl(const double* a, int rowsA, int colsA, const double* b, int rowsB,
+                                   int colsB, double* out);
 
 /**
  * Puts two tables of flags side by side.
@@ -41,8 +41,8 @@ KORVEL_FLAT int VB_HMergeTablesDbl(double* a, int rowsA, int colsA, double* b, i
  * table, then those of the second
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTablesBool(short int* a, int rowsA, int colsA, short int* b, int rowsB, int colsB,
-                                    short int* out);
+KORVEL_FLAT int VB_HMergeTablesBool(const short int* a, int rowsA, int colsA, const short int* b, int rowsB,
+                                    int colsB, short int* out);
 
 /**
  * Puts two tables of texts side by side.
@@ -57,8 +57,8 @@ KORVEL_FLAT int VB_HMergeTablesBool(short int* a, int rowsA, int colsA, short in
  * table, then those of the second
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTablesStr(OLECHAR** a, int rowsA, int colsA, OLECHAR** b, int rowsB, int colsB,
-                                   OLECHAR** out);
+KORVEL_FLAT int VB_HMergeTablesStr(OLECHAR* const* a, int rowsA, int colsA, OLECHAR* const* b, int rowsB,
+                                   int colsB, OLECHAR** out);
 
 /**
  * Adds the columns of a table of numbers to the right of another, in place.
@@ -72,7 +72,7 @@ KORVEL_FLAT int VB_HMergeTablesStr(OLECHAR** a, int rowsA, int colsA, OLECHAR** 
  * @param colsB columns of the second table; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTablesDbl2(double* a, int rowsA, int colsA, double* b, int rowsB, int colsB);
+KORVEL_FLAT int VB_HMergeTablesDbl2(double* a, int rowsA, int colsA, const double* b, int rowsB, int colsB);
 
 /**
  * Adds the columns of a table of integers to the right of another, in place.
@@ -86,7 +86,7 @@ KORVEL_FLAT int VB_HMergeTablesDbl2(double* a, int rowsA, int colsA, double* b, 
  * @param colsB columns of the second table; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTablesLng2(int* a, int rowsA, int colsA, int* b, int rowsB, int colsB);
+KORVEL_FLAT int VB_HMergeTablesLng2(int* a, int rowsA, int colsA, const int* b, int rowsB, int colsB);
 
 /**
  * Adds the columns of a table of flags to the right of another, in place.
@@ -100,7 +100,8 @@ KORVEL_FLAT int VB_HMergeTablesLng2(int* a, int rowsA, int colsA, int* b, int ro
  * @param colsB columns of the second table; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTablesBool2(short int* a, int rowsA, int colsA, short int* b, int rowsB, int colsB);
+KORVEL_FLAT int VB_HMergeTablesBool2(short int* a, int rowsA, int colsA, const short int* b, int rowsB,
+                                     int colsB);
 
 /**
  * Adds the columns of a table of texts to the right of another, in place.
@@ -114,7 +115,8 @@ KORVEL_FLAT int VB_HMergeTablesBool2(short int* a, int rowsA, int colsA, short i
  * @param colsB columns of the second table; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTablesStr2(OLECHAR** a, int rowsA, int colsA, OLECHAR** b, int rowsB, int colsB);
+KORVEL_FLAT int VB_HMergeTablesStr2(OLECHAR** a, int rowsA, int colsA, OLECHAR* const* b, int rowsB,
+                                    int colsB);
 
 /**
  * Adds the columns of a table of numbers to a chunked one, in place.
@@ -128,7 +130,8 @@ KORVEL_FLAT int VB_HMergeTablesStr2(OLECHAR** a, int rowsA, int colsA, OLECHAR**
  * @param colsB columns of the second table; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTablesDbl2SPV(Hostarray** a, int rowsA, int colsA, double* b, int rowsB, int colsB);
+KORVEL_FLAT int VB_HMergeTablesDbl2SPV(Hostarray** a, int rowsA, int colsA, const double* b, int rowsB,
+                                       int colsB);
 
 /**
  * Adds the columns of a chunked table of numbers to another, in place.
@@ -156,7 +159,7 @@ KORVEL_FLAT int VB_HMergeTablesDbl2SPV2(Hostarray** a, int rowsA, int colsA, Hos
  * @param out [out] as many rows as the longer vector by 2 numbers
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeVectors(double* a, int nA, double* b, int nB, double* out);
+KORVEL_FLAT int VB_HMergeVectors(const double* a, int nA, const double* b, int nB, double* out);
 
 /**
  * Puts a vector to the right of a table.
@@ -171,8 +174,8 @@ KORVEL_FLAT int VB_HMergeVectors(double* a, int nA, double* b, int nB, double* o
  * @param outCols columns of the result; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTableVect(double* x, int rows, int cols, double* v, int n, double* out, int outRows,
-                                   int outCols);
+KORVEL_FLAT int VB_HMergeTableVect(const double* x, int rows, int cols, const double* v, int n, double* out,
+                                   int outRows, int outCols);
 
 /**
  * Adds a vector to the right of a table, in place.
@@ -185,7 +188,7 @@ KORVEL_FLAT int VB_HMergeTableVect(double* x, int rows, int cols, double* v, int
  * @param n    length of the vector
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeTableVect2(double* x, int rows, int cols, double* v, int n);
+KORVEL_FLAT int VB_HMergeTableVect2(double* x, int rows, int cols, const double* v, int n);
 
 /**
  * Puts a vector to the left of a table.
@@ -200,8 +203,8 @@ KORVEL_FLAT int VB_HMergeTableVect2(double* x, int rows, int cols, double* v, in
  * @param outCols columns of the result; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeVectTable(double* v, int n, double* x, int rows, int cols, double* out, int outRows,
-                                   int outCols);
+KORVEL_FLAT int VB_HMergeVectTable(const double* v, int n, const double* x, int rows, int cols, double* out,
+                                   int outRows, int outCols);
 
 /**
  * Puts a vector to the left of one column of a table.
@@ -216,8 +219,8 @@ KORVEL_FLAT int VB_HMergeVectTable(double* v, int n, double* x, int rows, int co
  * @param outRows rows of the result
  * @return 0
  */
-KORVEL_FLAT int VB_HMergeVectColDbl(double* v, int n, double* x, int rows, int cols, int col, double* out,
-                                    int outRows);
+KORVEL_FLAT int VB_HMergeVectColDbl(const double* v, int n, const double* x, int rows, int cols, int col,
+                                    double* out, int outRows);
 
 /**
  * Puts a vector of numbers behind another.
@@ -229,7 +232,7 @@ KORVEL_FLAT int VB_HMergeVectColDbl(double* v, int n, double* x, int rows, int c
  * @param out [out] nA + nB numbers
  * @return 0
  */
-KORVEL_FLAT int VB_VMergeVectorsDbl(double* a, int nA, double* b, int nB, double* out);
+KORVEL_FLAT int VB_VMergeVectorsDbl(const double* a, int nA, const double* b, int nB, double* out);
 
 /**
  * Puts a vector of texts behind another.
@@ -241,7 +244,7 @@ KORVEL_FLAT int VB_VMergeVectorsDbl(double* a, int nA, double* b, int nB, double
  * @param out [out] nA + nB texts
  * @return 0
  */
-KORVEL_FLAT int VB_VMergeVectorsStr(OLECHAR** a, int nA, OLECHAR** b, int nB, OLECHAR** out);
+KORVEL_FLAT int VB_VMergeVectorsStr(OLECHAR* const* a, int nA, OLECHAR* const* b, int nB, OLECHAR** out);
 
 /**
  * Adds a vector of numbers behind another, in place.
@@ -252,7 +255,7 @@ KORVEL_FLAT int VB_VMergeVectorsStr(OLECHAR** a, int nA, OLECHAR** b, int nB, OL
  * @param nB length of the second vector
  * @return 0
  */
-KORVEL_FLAT int VB_VMergeVectorsDbl2(double* a, int nA, double* b, int nB);
+KORVEL_FLAT int VB_VMergeVectorsDbl2(double* a, int nA, const double* b, int nB);
 
 /**
  * Adds a vector of flags behind another, in place.
@@ -263,7 +266,7 @@ KORVEL_FLAT int VB_VMergeVectorsDbl2(double* a, int nA, double* b, int nB);
  * @param nB length of the second vector
  * @return 0
  */
-KORVEL_FLAT int VB_VMergeVectorsBool2(short int* a, int nA, short int* b, int nB);
+KORVEL_FLAT int VB_VMergeVectorsBool2(short int* a, int nA, const short int* b, int nB);
 
 /**
  * Adds a vector of texts behind another, in place.
@@ -274,7 +277,7 @@ KORVEL_FLAT int VB_VMergeVectorsBool2(short int* a, int nA, short int* b, int nB
  * @param nB length of the second vector
  * @return 0
  */
-KORVEL_FLAT int VB_VMergeVectorsStr2(OLECHAR** a, int nA, OLECHAR** b, int nB);
+KORVEL_FLAT int VB_VMergeVectorsStr2(OLECHAR** a, int nA, OLECHAR* const* b, int nB);
 
 /**
  * Puts a table of numbers below another.
@@ -288,8 +291,8 @@ KORVEL_FLAT int VB_VMergeVectorsStr2(OLECHAR** a, int nA, OLECHAR** b, int nB);
  * @param out   [out] rowsA + rowsB rows by as many columns as the wider table numbers
  * @return 0
  */
-KORVEL_FLAT int VB_VMergeTablesDbl(double* a, int rowsA, int colsA, double* b, int rowsB, int colsB,
-                                   double* out);
+KORVEL_FLAT int VB_VMergeTablesDbl(const double* a, int rowsA, int colsA, const double* b, int rowsB,
+                                   int colsB, double* out);
 
 /**
  * Puts a table of numbers below a chunked one.
@@ -303,7 +306,7 @@ KORVEL_FLAT int VB_VMergeTablesDbl(double* a, int rowsA, int colsA, double* b, i
  * @param out   [out] rowsA + rowsB rows by as many columns as the wider table numbers
  * @return 0
  */
-KORVEL_FLAT int Cpp_VMergeTablesDblSPV(Hostarray** a, int rowsA, int colsA, double* b, int rowsB, int colsB,
-                                       double* out);
+KORVEL_FLAT int Cpp_VMergeTablesDblSPV(Hostarray** a, int rowsA, int colsA, const double* b, int rowsB,
+                                       int colsB, double* out);
 
 #endif

@@ -18,7 +18,7 @@
  * @return 1 for similarities; 2 for dissimilarities, also when all cells are 0; 0 for neither, and for a
  * table that is not square or has no rows
  */
-KORVEL_FLAT int VB_M_CheckIfSimOrDissim(double* x, int rows, int cols);
+KORVEL_FLAT int VB_M_CheckIfSimOrDissim(const double* x, int rows, int cols);
 
 /**
  * Tells similarities from dissimilarities. Dissimilarities have only zeros on the diagonal and no negative

@@ -20,7 +20,7 @@
  * @param out  [out] rows by cols - 1 numbers
  * @return 0
  */
-KORVEL_FLAT int VB_M_RemoveCol(double* x, int rows, int cols, int k, double* out);
+KORVEL_FLAT int VB_M_RemoveCol(const double* x, int rows, int cols, int k, double* out);
 
 /**
  * Copies a table without one row.
@@ -32,7 +32,7 @@ KORVEL_FLAT int VB_M_RemoveCol(double* x, int rows, int cols, int k, double* out
  * @param out  [out] rows - 1 by cols numbers
  * @return 0
  */
-KORVEL_FLAT int VB_M_RemoveRow(double* x, int rows, int cols, int k, double* out);
+KORVEL_FLAT int VB_M_RemoveRow(const double* x, int rows, int cols, int k, double* out);
 
 /**
  * Takes a run of columns out of a table in place: those behind it move left. The columns that become free at
@@ -85,7 +85,8 @@ KORVEL_FLAT int Cpp_M_RemoveRowsStr2(OLECHAR** x, int rows, int cols, int first,
  * @param out  [out] rows by as many columns as stay numbers
  * @return 0
  */
-KORVEL_FLAT int VB_M_RemoveColsInList(double* x, int rows, int cols, double* list, int n, double* out);
+KORVEL_FLAT int VB_M_RemoveColsInList(const double* x, int rows, int cols, const double* list, int n,
+                                      double* out);
 
 /**
  * Copies a table without the rows in a list.
@@ -99,6 +100,7 @@ KORVEL_FLAT int VB_M_RemoveColsInList(double* x, int rows, int cols, double* lis
  * @param out  [out] as many rows as stay by cols numbers
  * @return 0
  */
-KORVEL_FLAT int VB_M_RemoveRowsInList(double* x, int rows, int cols, int* list, int n, double* out);
+KORVEL_FLAT int VB_M_RemoveRowsInList(const double* x, int rows, int cols, const int* list, int n,
+                                      double* out);
 
 #endif

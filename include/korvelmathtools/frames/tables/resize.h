@@ -18,7 +18,7 @@
  * @param newCols columns of the result; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_M_CopyResize(double* x, int rows, int cols, double* y, int newRows, int newCols);
+KORVEL_FLAT int VB_M_CopyResize(const double* x, int rows, int cols, double* y, int newRows, int newCols);
 
 /**
  * Copies a table of flags into another shape. Cells that it does not have become 0.
@@ -31,7 +31,8 @@ KORVEL_FLAT int VB_M_CopyResize(double* x, int rows, int cols, double* y, int ne
  * @param newCols columns of the result; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_M_CopyResizeBool(short int* x, int rows, int cols, short int* y, int newRows, int newCols);
+KORVEL_FLAT int VB_M_CopyResizeBool(const short int* x, int rows, int cols, short int* y, int newRows,
+                                    int newCols);
 
 /**
  * Copies a table of texts into another shape. Cells that it does not have become the empty text.
@@ -44,7 +45,8 @@ KORVEL_FLAT int VB_M_CopyResizeBool(short int* x, int rows, int cols, short int*
  * @param newCols columns of the result; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_M_CopyResizeStr(OLECHAR** x, int rows, int cols, OLECHAR** y, int newRows, int newCols);
+KORVEL_FLAT int VB_M_CopyResizeStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y, int newRows,
+                                   int newCols);
 
 /**
  * Copies a table to the top left corner of a larger one, of which all other cells stay. What would fall
@@ -58,6 +60,6 @@ KORVEL_FLAT int VB_M_CopyResizeStr(OLECHAR** x, int rows, int cols, OLECHAR** y,
  * @param yCols columns of the larger table; 0 stands for 1
  * @return 0
  */
-KORVEL_FLAT int VB_M_CopyToBigger(double* x, int rows, int cols, double* y, int yRows, int yCols);
+KORVEL_FLAT int VB_M_CopyToBigger(const double* x, int rows, int cols, double* y, int yRows, int yCols);
 
 #endif

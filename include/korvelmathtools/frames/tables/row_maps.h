@@ -16,7 +16,7 @@
  * @param positions [out] rows column numbers from 1; of equal cells the first
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_MaxPosByRow(double* x, int rows, int cols, int* positions);
+KORVEL_FLAT int Cpp_M_MaxPosByRow(const double* x, int rows, int cols, int* positions);
 
 /**
  * A new variable as a weighted sum of those of a table.
@@ -29,7 +29,8 @@ KORVEL_FLAT int Cpp_M_MaxPosByRow(double* x, int rows, int cols, int* positions)
  * the cells or factors is
  * @return 0
  */
-KORVEL_FLAT int VB_ComputeNewVar(double* x, int rows, int cols, double* coefficients, double* out);
+KORVEL_FLAT int VB_ComputeNewVar(const double* x, int rows, int cols, const double* coefficients,
+                                 double* out);
 
 /**
  * Picks the rows that are not negligible.
@@ -41,6 +42,7 @@ KORVEL_FLAT int VB_ComputeNewVar(double* x, int rows, int cols, double* coeffici
  * @param kept      [out] rows flags: -1 for a row that is kept, otherwise 0
  * @return the number of rows kept
  */
-KORVEL_FLAT int Cpp_FilterOnSumOfSquares(double* x, int rows, int cols, double threshold, short int* kept);
+KORVEL_FLAT int Cpp_FilterOnSumOfSquares(const double* x, int rows, int cols, double threshold,
+                                         short int* kept);
 
 #endif

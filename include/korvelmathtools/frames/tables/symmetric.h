@@ -37,7 +37,7 @@ KORVEL_FLAT int VB_M_SymmetrizeSPV(Hostarray** x, int rows, int cols);
  * @param n order
  * @return -1 when the cells of every pair are exactly equal, missing ones too, and for n below 2; otherwise 0
  */
-KORVEL_FLAT short int VB_M_IsSymmetric(double* x, int n);
+KORVEL_FLAT short int VB_M_IsSymmetric(const double* x, int n);
 
 /**
  * Tells whether a square table is symmetric.
@@ -55,7 +55,7 @@ KORVEL_FLAT short int VB_M_IsSymmetricSPV(Hostarray** x, int n);
  * @param n order
  * @return -1 when all its cells exactly equal the first, and for n below 2; otherwise 0
  */
-KORVEL_FLAT short int VB_M_IsDiagConstant(double* x, int n);
+KORVEL_FLAT short int VB_M_IsDiagConstant(const double* x, int n);
 
 /**
  * Packs a symmetric table: its lower triangle row after row.
@@ -65,7 +65,7 @@ KORVEL_FLAT short int VB_M_IsDiagConstant(double* x, int n);
  * @param v [out] n(n + 1)/2 numbers: cell (i, j) with j <= i at place i(i - 1)/2 + j, from 1; may be x
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_CopySymMatToVector(double* x, int n, double* v);
+KORVEL_FLAT int Cpp_M_CopySymMatToVector(const double* x, int n, double* v);
 
 /**
  * Unpacks a vector that holds a triangle row after row into both halves of a table.
@@ -75,6 +75,6 @@ KORVEL_FLAT int Cpp_M_CopySymMatToVector(double* x, int n, double* v);
  * @param x [out] n by n numbers; may be v
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_CopyVectorToSymMat(double* v, int n, double* x);
+KORVEL_FLAT int Cpp_M_CopyVectorToSymMat(const double* v, int n, double* x);
 
 #endif

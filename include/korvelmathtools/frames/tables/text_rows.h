@@ -16,7 +16,7 @@
  * @param out  [inout] rows texts, replaced where they differ; may be x
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_MergeStringsByRow(OLECHAR** x, int rows, int cols, OLECHAR** out);
+KORVEL_FLAT int Cpp_M_MergeStringsByRow(OLECHAR* const* x, int rows, int cols, OLECHAR** out);
 
 /**
  * Tells whether two vectors have the same texts in the same order.
@@ -27,6 +27,6 @@ KORVEL_FLAT int Cpp_M_MergeStringsByRow(OLECHAR** x, int rows, int cols, OLECHAR
  * @param nB number of elements of b
  * @return -1 when the numbers are the same and so is every text, letter by letter; otherwise 0
  */
-KORVEL_FLAT short int Cpp_CheckSameVectorStr(OLECHAR** a, int nA, OLECHAR** b, int nB);
+KORVEL_FLAT short int Cpp_CheckSameVectorStr(OLECHAR* const* a, int nA, OLECHAR* const* b, int nB);
 
 #endif

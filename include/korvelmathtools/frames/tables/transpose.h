@@ -16,7 +16,7 @@
  * @param y    [out] cols by rows numbers; may be x. With rows 0, cols zeros are written
  * @return 0
  */
-KORVEL_FLAT int VB_M_Transpose(double* x, int rows, int cols, double* y);
+KORVEL_FLAT int VB_M_Transpose(const double* x, int rows, int cols, double* y);
 
 /**
  * Transposes a table of integers.
@@ -27,7 +27,7 @@ KORVEL_FLAT int VB_M_Transpose(double* x, int rows, int cols, double* y);
  * @param y    [out] cols by rows integers; may be x. With rows 0, cols zeros are written
  * @return 0
  */
-KORVEL_FLAT int VB_M_TransposeLng(int* x, int rows, int cols, int* y);
+KORVEL_FLAT int VB_M_TransposeLng(const int* x, int rows, int cols, int* y);
 
 /**
  * Transposes a table of texts.
@@ -39,7 +39,7 @@ KORVEL_FLAT int VB_M_TransposeLng(int* x, int rows, int cols, int* y);
  * emptied
  * @return 0
  */
-KORVEL_FLAT int VB_M_TransposeStr(OLECHAR** x, int rows, int cols, OLECHAR** y);
+KORVEL_FLAT int VB_M_TransposeStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y);
 
 /**
  * Transposes a table of numbers in place.

@@ -17,7 +17,7 @@
  * @param v    [out] rows * cols numbers; may be x
  * @return 0
  */
-KORVEL_FLAT int Cpp_MatToVect(double* x, int rows, int cols, double* v);
+KORVEL_FLAT int Cpp_MatToVect(const double* x, int rows, int cols, double* v);
 
 /**
  * A vector back in the shape of the table that Cpp_MatToVect laid it out from. What is missing in that table
@@ -30,7 +30,7 @@ KORVEL_FLAT int Cpp_MatToVect(double* x, int rows, int cols, double* v);
  * @param x       [out] rows by cols numbers; may be v or pattern
  * @return 0
  */
-KORVEL_FLAT int Cpp_VectToMat(double* v, double* pattern, int rows, int cols, double* x);
+KORVEL_FLAT int Cpp_VectToMat(const double* v, const double* pattern, int rows, int cols, double* x);
 
 /**
  * The rows of a table one after the other, as a vector.
@@ -41,7 +41,7 @@ KORVEL_FLAT int Cpp_VectToMat(double* v, double* pattern, int rows, int cols, do
  * @param v    [out] rows * cols numbers; may be x
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowDbl(double* x, int rows, int cols, double* v);
+KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowDbl(const double* x, int rows, int cols, double* v);
 
 /**
  * The rows of a table one after the other, as a vector.
@@ -52,7 +52,7 @@ KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowDbl(double* x, int rows, int cols, d
  * @param v    [inout] rows * cols texts, replaced where they differ; may be x
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowStr(OLECHAR** x, int rows, int cols, OLECHAR** v);
+KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowStr(OLECHAR* const* x, int rows, int cols, OLECHAR** v);
 
 /**
  * A vector cut into the rows of a table.
@@ -63,7 +63,7 @@ KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowStr(OLECHAR** x, int rows, int cols,
  * @param x    [out] rows by cols numbers; may be v
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_CopyVectortoTableByRowDbl(double* v, int rows, int cols, double* x);
+KORVEL_FLAT int Cpp_M_CopyVectortoTableByRowDbl(const double* v, int rows, int cols, double* x);
 
 /**
  * A vector cut into the rows of a table.
@@ -74,6 +74,6 @@ KORVEL_FLAT int Cpp_M_CopyVectortoTableByRowDbl(double* v, int rows, int cols, d
  * @param x    [inout] rows by cols texts, replaced where they differ; may be v
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_CopyVectortoTableByRowStr(OLECHAR** v, int rows, int cols, OLECHAR** x);
+KORVEL_FLAT int Cpp_M_CopyVectortoTableByRowStr(OLECHAR* const* v, int rows, int cols, OLECHAR** x);
 
 #endif

@@ -1,0 +1,6 @@
+#include "frames/platform/version.h"
+
+int KORVEL_Version(void)
+{
+    return KORVEL_VERSION_NUMBER;
+}
