@@ -15,7 +15,7 @@
 namespace
 {
 
-using product = int (*)(double* a, int n, int p, double* b, int q, double* c);
+using product = int (*)(const double* a, int n, int p, const double* b, int q, double* c);
 
 #ifdef _WIN32
 using library = HMODULE;

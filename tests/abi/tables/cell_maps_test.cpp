@@ -29,7 +29,7 @@ constexpr double missing = -1.79769313486231e308;
     return sameBits(actual, expected);
 }
 
-using flat_map = int (*)(double*, int, int, double*);
+using flat_map = int (*)(const double*, int, int, double*);
 
 struct map_case {
     const char* name;
