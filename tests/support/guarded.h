@@ -1,6 +1,8 @@
 #ifndef KORVEL_TESTS_SUPPORT_GUARDED_H
 #define KORVEL_TESTS_SUPPORT_GUARDED_H
 
+#include "support/bits.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <gtest/gtest.h>
@@ -43,6 +45,16 @@ std::vector<T> valuesOf(const guarded<T>& array)
 {
     EXPECT_TRUE(array.intact());
     return array.values();
+}
+
+/** Every cell of a guarded array, bit for bit, and that nothing round it was written. */
+inline void expectCells(const guarded<double>& actual, const std::vector<double>& expected)
+{
+    const auto cells = valuesOf(actual);
+    ASSERT_EQ(cells.size(), expected.size());
+    for (std::size_t k = 0; k < cells.size(); ++k) {
+        EXPECT_TRUE(sameBits(cells[k], expected[k])) << "cell " << k;
+    }
 }
 
 } // namespace korvel::test

@@ -1,14 +1,8 @@
-#include "containers/record_conversion.h"
-#include "containers/record_copies.h"
 #include "korvelmathtools/KORVELMathTools.h"
-#include "support/bits.h"
 #include "support/caller_memory.h"
 
 #include <boost/numeric/conversion/cast.hpp>
-
-#if !defined(_WIN32)
-#include "platform/automation/counters.h"
-#endif
+#include <gtest/gtest.h>
 
 using namespace korvel::test;
 
@@ -18,6 +12,10 @@ namespace
 using numbers = std::vector<double>;
 
 } // namespace
+
+#if !defined(_WIN32)
+#include "platform/automation/counters.h"
+#endif
 
 TEST(FlatRecords, CopyADenseTableIntoARecord)
 {
@@ -95,41 +93,7 @@ TEST(FlatRecords, LetTheOverflowOfADimensionPass)
     EXPECT_EQ(numbersIn<double>(columnOf(record, 0).Vect), numbers{5.0});
 }
 
-TEST(RecordsOfASibling, ShowChangedScalarsToTheCaller)
-{
-    caller_memory caller;
-    ST_MVect record = caller.table({caller.column(u"x", numbers{5.0})}, {u"a"});
-    {
-        cST_MVect<double> table(&record);
-        table.nbrowsmax = 12;
-    }
-    EXPECT_EQ(record.nbrowsmax, 12);
-}
-
-TEST(RecordsOfASibling, ConvertAndCopyThroughTheLibrary)
-{
-    cST_MVect<text> words(2, 1);
-    words.Vectors[0].Vect[0] = u"1,5e2";
-    cST_MVect<double> numeric(2, 1);
-    EXPECT_EQ(Convert_MVectStrToMVectDbl_ST(1, 2, 1, 1, 2, 1, 1, 1, words, u",", numeric), 0);
-    cST_MVect<double> copy(2, 1);
-    MV_DuplicateMVect(numeric, copy);
-    EXPECT_TRUE(sameBits(copy.Vectors[0].Vect[1], MISSING_DBL));
-    EXPECT_EQ(Convert_MVectDblToMVectStr_ST(1, 2, 1, 1, 2, 1, 1, 1, copy, words), 0);
-    EXPECT_EQ(words.Vectors[0].Vect[1], u"-2e+308");
-}
-
-TEST(RecordsOfASibling, WriteJsonThroughTheBase)
-{
-    cST_QualiInfo info;
-    info.CatFreq = new cST_MVect<double>(1, 1);
-    JsonMakerBase& base = info;
-    JsonMaker maker;
-    base.writeJson(maker, "");
-    const std::string json = maker.written();
-    EXPECT_NE(json.find("\"Vect\": [0.0]"), std::string::npos);
-    EXPECT_EQ(json.back(), '}');
-    maker.dispose();
+maker.dispose();
 }
 
 #if !defined(_WIN32)

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 #include <numeric>
 #include <vector>
@@ -228,86 +229,4 @@ TEST(FlatQuantiles, ThirteenTakeEqualNeighboursAsTheyAre)
     guarded<double> x{0.3, 2.8, 3.1};
     Cpp_V_Quantiles13(x.data(), 3, out.data());
     EXPECT_TRUE(sameBits(valuesOf(out)[6], 1.55));
-}
-
-TEST(FlatDeviations, MeanAbsolute)
-{
-    guarded<double> x{1, 3, MISSING_DBL, 8};
-    guarded<short int> flags{0, 0, 0, -1};
-    guarded<double> w{1, 3, 5, 7};
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), w.data()), 1.0));
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 1.0, flags.data(), w.data()), 1.5));
-    guarded<double> zeros{0, 0, 0, 0};
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), zeros.data()), MISSING_DBL));
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 0, 2.0, flags.data(), w.data()), MISSING_DBL));
-    // R 4.2.2: mean(abs(x - mean(x)))
-    guarded<double> y = sample;
-    guarded<short int> none{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
-    guarded<double> ones{1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};
-    const double mean = (3.7 - 1.25 + 8 + 0.5 + 3.7 + 12.125 - 4 + 0.5 + 0.5 + 7.75 + 2.2) / 11;
-    EXPECT_NEAR(Cpp_V_MeanAbsDev(y.data(), 11, mean, none.data(), ones.data()), 3.6264462809917357, 2e-15);
-    // R 4.2.2: mad(x, constant = 1)
-    EXPECT_NEAR(Cpp_V_MedianAbsDev(y.data(), 11, 2.2, none.data(), ones.data()), 1.7, 4e-16);
-}
-
-TEST(FlatDeviations, MedianAbsoluteIsWeightedUnlessTheWeightsAreConstant)
-{
-    guarded<double> x{1, 2, 4, 8};
-    guarded<short int> flags{0, 0, 0, 0};
-    guarded<double> constant{2, 2, 2, 2};
-    guarded<double> uneven{1, 1, 1, 7};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), constant.data()), 3.0));
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), uneven.data()), 8.0));
-    guarded<short int> one{0, 0, 0, 1};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, one.data(), constant.data()), 2.0));
-    guarded<double> holes{1, 2, 4, MISSING_DBL};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(holes.data(), 4, 0.0, flags.data(), constant.data()), 2.0));
-}
-
-TEST(FlatDeviations, ConstantWeightsOfZeroGiveThePlainMedian)
-{
-    guarded<double> x{1, 2, 4, 8};
-    guarded<short int> flags{0, 0, 0, -1};
-    guarded<double> w{0, 0, MISSING_DBL, 0};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), w.data()), 2.0));
-    guarded<double> onlyThere{0, 0, 0, 1};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), onlyThere.data()), MISSING_DBL))
-        << "the weight of an element that is left out makes them uneven";
-}
-
-TEST(FlatDeviations, AMissingCentreBecomesTheMedian)
-{
-    guarded<double> x{1, 2, 9};
-    double centre = MISSING_DBL;
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 1.0));
-    EXPECT_TRUE(sameBits(centre, 2.0));
-    centre = 9.0;
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 7.0));
-    EXPECT_TRUE(sameBits(centre, 9.0));
-    guarded<double> holes{MISSING_DBL, 2, 9};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(holes.data(), 3, &centre), 0.0));
-    guarded<double> mostlyHoles{MISSING_DBL, MISSING_DBL, 9};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(mostlyHoles.data(), 3, &centre), MISSING_DBL));
-}
-
-TEST(FlatDeviations, WinsorizingPullsInTheTails)
-{
-    guarded<double> x{1, 2, 3, 4, MISSING_DBL, 10};
-    EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.0, 1.0), 0);
-    EXPECT_EQ(valuesOf(x), (doubles{1, 2, 3, 4, MISSING_DBL, 10}));
-    EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.4, 0.8), 0);
-    EXPECT_EQ(valuesOf(x), (doubles{2, 2, 3, 4, MISSING_DBL, 4}));
-
-    // Both bounds come from the data as it was, and what was raised is not lowered again.
-    guarded<double> crossed{1, 2, 3, 4, 5};
-    EXPECT_EQ(Cpp_V_Winsorize2(crossed.data(), 5, 1.0, 0.0), 0);
-    EXPECT_EQ(valuesOf(crossed), (doubles{5, 5, 5, 5, 1}));
-}
-
-TEST(FlatDeviations, WinsorizingLeavesWhatIsNotAboveTheMissingValue)
-{
-    constexpr double infinite = std::numeric_limits<double>::infinity();
-    guarded<double> x{1, -infinite, 2, MISSING_DBL, 3};
-    Cpp_V_Winsorize2(x.data(), 5, 0.75, 1.0);
-    EXPECT_EQ(valuesOf(x), (doubles{2, -infinite, 2, MISSING_DBL, 3}));
 }

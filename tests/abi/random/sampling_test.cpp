@@ -1,6 +1,4 @@
 #include "korvelmathtools/KORVELMathTools.h"
-#include "random/indicator.h"
-#include "random/sampling.h"
 #include "reference/random_plain.h"
 #include "support/caller_memory.h"
 #include "support/guarded.h"
@@ -15,7 +13,6 @@ using korvel::test::blockOf;
 using korvel::test::caller_memory;
 using korvel::test::doubles;
 using korvel::test::guarded;
-using korvel::test::numbersIn;
 using korvel::test::plain_source;
 using korvel::test::texts;
 using korvel::test::textsIn;
@@ -66,57 +63,55 @@ protected:
     int next = 0;
 };
 
+/** Two text columns in the caller's memory, each in a record of a chunked table. */
+class FlatChunkedSampling : public FlatSampling
+{
+protected:
+    struct chunked_table {
+        SAFEARRAY* columns[2];
+        SAFEARRAY* records;
+
+        Hostarray** argument() { return reinterpret_cast<Hostarray**>(&records); }
+
+        [[nodiscard]] texts cells() const
+        {
+            texts all = textsIn(columns[0]);
+            for (const auto& value : textsIn(columns[1])) {
+                all.push_back(value);
+            }
+            return all;
+        }
+    };
+
+    chunked_table chunked(const texts& first, const texts& second)
+    {
+        chunked_table made{};
+        made.columns[0] = memory.texts(first);
+        made.columns[1] = memory.texts(second);
+        made.records =
+            memory.array(std::vector<Hostarray>{{nullptr, made.columns[0]}, {nullptr, made.columns[1]}});
+        return made;
+    }
+
+    chunked_table chunkedTable(int rows)
+    {
+        texts first;
+        texts second;
+        for (int row = 1; row <= rows; ++row) {
+            first.push_back(cell(u'a', row));
+            second.push_back(cell(u'b', row));
+        }
+        return chunked(first, second);
+    }
+
+    chunked_table chunkedSample(int k)
+    {
+        const texts old(static_cast<std::size_t>(k), u"old");
+        return chunked(old, old);
+    }
+};
+
 } // namespace
-
-TEST(FlatIndicator, MarksARange)
-{
-    guarded<double> out(doubles(5, 9.0));
-    EXPECT_EQ(VB_GenerateIndicator(out.data(), 5, 2, 3), 0);
-    EXPECT_EQ(valuesOf(out), (doubles{0, 1, 1, 0, 0}));
-    EXPECT_EQ(VB_GenerateIndicator(out.data(), 5, 0, 9), 0);
-    EXPECT_EQ(valuesOf(out), doubles(5, 1.0));
-
-    caller_memory memory;
-    SAFEARRAY* array = memory.array(doubles(5, 9.0));
-    EXPECT_EQ(Cpp_GenerateIndicator_ST(&array, 4, 2, 3), 0);
-    EXPECT_EQ(numbersIn<double>(array), (doubles{0, 1, 1, 0, 9}));
-    EXPECT_TRUE(memory.guardsIntact());
-}
-
-TEST(FlatIndicator, MarksARandomSubset)
-{
-    constexpr int n = 12;
-    constexpr int k = 5;
-    plain_source source(0, seedInUse);
-    doubles draws;
-    for (int i = 0; i < n; ++i) {
-        draws.push_back(source.uniform());
-    }
-    doubles sorted = draws;
-    std::sort(sorted.begin(), sorted.end());
-    doubles expected;
-    for (const double u : draws) {
-        expected.push_back(u <= sorted[k - 1] ? 1.0 : 0.0);
-    }
-
-    guarded<double> out(doubles(n, 9.0));
-    int seed = seedInUse;
-    int next = 0;
-    EXPECT_EQ(VB_GenerateRandomIndicator(out.data(), n, k, &seed, 1, &next), 0);
-    EXPECT_EQ(valuesOf(out), expected);
-    EXPECT_EQ(next, source.nextSeed());
-
-    caller_memory memory;
-    SAFEARRAY* array = memory.array(doubles(n, 9.0));
-    EXPECT_EQ(Cpp_GenerateRandomIndicator_ST(&array, n, k, &seed, 1, &next), 0);
-    EXPECT_EQ(numbersIn<double>(array), expected);
-    EXPECT_TRUE(memory.guardsIntact());
-
-    VB_GenerateRandomIndicator(out.data(), n, 0, &seed, 1, &next);
-    EXPECT_EQ(valuesOf(out), doubles(n, 0.0));
-    VB_GenerateRandomIndicator(out.data(), n, n, &seed, 1, &next);
-    EXPECT_EQ(valuesOf(out), doubles(n, 1.0));
-}
 
 TEST_F(FlatSampling, WithReplacement)
 {
@@ -238,59 +233,6 @@ TEST_F(FlatSampling, StratifiedWritesNothingBehindTheSample)
     source.raw();
     EXPECT_EQ(next, source.nextSeed());
 }
-
-namespace
-{
-
-/** Two text columns in the caller's memory, each in a record of a chunked table. */
-class FlatChunkedSampling : public FlatSampling
-{
-protected:
-    struct chunked_table {
-        SAFEARRAY* columns[2];
-        SAFEARRAY* records;
-
-        Hostarray** argument() { return reinterpret_cast<Hostarray**>(&records); }
-
-        [[nodiscard]] texts cells() const
-        {
-            texts all = textsIn(columns[0]);
-            for (const auto& value : textsIn(columns[1])) {
-                all.push_back(value);
-            }
-            return all;
-        }
-    };
-
-    chunked_table chunked(const texts& first, const texts& second)
-    {
-        chunked_table made{};
-        made.columns[0] = memory.texts(first);
-        made.columns[1] = memory.texts(second);
-        made.records =
-            memory.array(std::vector<Hostarray>{{nullptr, made.columns[0]}, {nullptr, made.columns[1]}});
-        return made;
-    }
-
-    chunked_table chunkedTable(int rows)
-    {
-        texts first;
-        texts second;
-        for (int row = 1; row <= rows; ++row) {
-            first.push_back(cell(u'a', row));
-            second.push_back(cell(u'b', row));
-        }
-        return chunked(first, second);
-    }
-
-    chunked_table chunkedSample(int k)
-    {
-        const texts old(static_cast<std::size_t>(k), u"old");
-        return chunked(old, old);
-    }
-};
-
-} // namespace
 
 TEST_F(FlatChunkedSampling, UserDefined)
 {

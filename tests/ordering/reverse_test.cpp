@@ -1,0 +1,41 @@
+#include "ordering/reverse.h"
+
+#include "support/random_cells.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+using namespace korvel::test;
+
+TEST(Reverse, TheResultMayBeTheVector)
+{
+    for (const int n : {0, 1, 2, 3, 4, 5}) {
+        std::vector<double> numbers{1, 2, 3, 4, 5};
+        std::vector<short int> flags{1, 2, 3, 4, 5};
+        std::vector<double> expected = numbers;
+        std::reverse(expected.begin(), expected.begin() + n);
+        matrix<double> x(5, 1, numbers.data(), true);
+        matrix<double> out(5, 1, numbers.data(), true);
+        V_Reverse(&x, n, &out);
+        EXPECT_EQ(numbers, expected) << n;
+        V_ReverseBool(flags.data(), n, flags.data());
+        EXPECT_EQ(std::vector<double>(flags.begin(), flags.end()), expected) << n;
+    }
+    short int untouched = 7;
+    V_ReverseBool(&untouched, -1, &untouched);
+    EXPECT_EQ(untouched, 7);
+}
+
+TEST(Reverse, OntoItselfLeavesAVectorThatDoesNotHoldTheCount)
+{
+    matrix<double> x = vectorOf<double>({1, 2, 3});
+    V_Reverse(&x, 4, &x);
+    EXPECT_EQ(std::vector<double>(x.data, x.data + 3), (std::vector<double>{1, 2, 3}));
+}
+
+TEST(Reverse, InPlaceLeavesAVectorThatDoesNotHoldTheCount)
+{
+    matrix<double> x = vectorOf<double>({1, 2, 3});
+    V_Reverse2(&x, 4);
+    EXPECT_EQ(std::vector<double>(x.data, x.data + 3), (std::vector<double>{1, 2, 3}));
+}
