@@ -10,7 +10,7 @@ namespace
 {
 
 template <class T>
-int applyOrder(T* x, int rows, int cols, double* order, T* out)
+int applyOrder(const T* x, int rows, int cols, const double* order, T* out)
 {
     auto result = frame::borrow(out, rows, cols);
     auto table = frame::besides(result, x, rows, cols);

@@ -9,14 +9,14 @@ double Cpp_V_MeanAbsDev(const double* x, int n, double centre, const short int* 
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_MeanAbsDev(&values, n, centre, iMissing, &weights);
+    return V_MeanAbsDev(&values, n, centre, frame::readOnly(iMissing), &weights);
 }
 
 double Cpp_V_MedianAbsDev(const double* x, int n, double centre, const short int* iMissing, const double* w)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_MedianAbsDev(&values, n, centre, iMissing, &weights);
+    return V_MedianAbsDev(&values, n, centre, frame::readOnly(iMissing), &weights);
 }
 
 double Cpp_V_MedianAbsDev2(const double* x, int n, double* centre)

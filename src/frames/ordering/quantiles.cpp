@@ -28,14 +28,14 @@ double Cpp_V_QuantileW2(const double* x, int n, const double* w, double q)
 double VB_V_QuantileM(const double* x, int n, const short int* iMissing, double q)
 {
     auto values = frame::borrow(x, n);
-    return V_QuantileM(&values, n, iMissing, q);
+    return V_QuantileM(&values, n, frame::readOnly(iMissing), q);
 }
 
 double VB_V_QuantileMW(const double* x, int n, const short int* iMissing, const double* w, double q)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_QuantileMW(&values, n, iMissing, &weights, q);
+    return V_QuantileMW(&values, n, frame::readOnly(iMissing), &weights, q);
 }
 
 int Cpp_V_Quantiles13(double* x, int n, double* out)

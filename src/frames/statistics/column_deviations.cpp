@@ -12,7 +12,8 @@ int VB_M_MeanStDev(const double* x, int rows, int cols, double* means, double* s
     auto foundMeans = frame::borrow(means, cols);
     auto foundSds = frame::borrow(sds, cols);
     auto weights = frame::borrow(w, rows);
-    M_MeanStDev(&table, rows, cols, &foundMeans, &foundSds, iMissing, &weights, bUnbiased, bFreq, flag);
+    M_MeanStDev(&table, rows, cols, &foundMeans, &foundSds, frame::readOnly(iMissing), &weights, bUnbiased,
+                bFreq, flag);
     return 0;
 }
 
@@ -24,8 +25,8 @@ int VB_M_MeanStDevVar(const double* x, int rows, int cols, double* means, double
     auto foundSds = frame::borrow(sds, cols);
     auto foundVars = frame::borrow(vars, cols);
     auto weights = frame::borrow(w, rows);
-    M_MeanStDevVar(&table, rows, cols, &foundMeans, &foundSds, &foundVars, iMissing, &weights, bUnbiased,
-                   bFreq);
+    M_MeanStDevVar(&table, rows, cols, &foundMeans, &foundSds, &foundVars, frame::readOnly(iMissing),
+                   &weights, bUnbiased, bFreq);
     return 0;
 }
 

@@ -9,7 +9,7 @@ using namespace korvel;
 double VB_V_Min(const double* x, int n, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
-    return V_Min(&values, n, iMissing);
+    return V_Min(&values, n, frame::readOnly(iMissing));
 }
 
 double VB_V_Min2(const double* x, int n)
@@ -26,7 +26,7 @@ double VB_V_Min2Lng(const int* x, int n)
 double VB_V_Max(const double* x, int n, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
-    return V_Max(&values, n, iMissing);
+    return V_Max(&values, n, frame::readOnly(iMissing));
 }
 
 double VB_V_Max2(const double* x, int n)
@@ -54,20 +54,20 @@ double Cpp_V_Max2Lng_ST(SAFEARRAY** sa, int n)
 int VB_V_MaxInt(const int* x, int n, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
-    return truncateToInt(V_Max(&values, n, iMissing));
+    return truncateToInt(V_Max(&values, n, frame::readOnly(iMissing)));
 }
 
 int VB_V_MinMax(const double* x, int n, double* min, double* max, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
-    V_MinMax(&values, n, min, max, iMissing);
+    V_MinMax(&values, n, min, max, frame::readOnly(iMissing));
     return 0;
 }
 
 int VB_V_MinMaxLng(const int* x, int n, double* min, double* max, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
-    V_MinMax(&values, n, min, max, iMissing);
+    V_MinMax(&values, n, min, max, frame::readOnly(iMissing));
     return 0;
 }
 

@@ -23,5 +23,5 @@ double VB_V_FreqStr(OLECHAR* const* labels, int n, const double* w, const OLECHA
 {
     auto texts = frame::readTexts(labels, n);
     auto weights = frame::borrow(w, n);
-    return V_FreqStr(&texts, n, &weights, readBstr(value));
+    return V_FreqStr(&texts, n, &weights, readBstr(frame::readOnly(value)));
 }

@@ -9,14 +9,14 @@ double VB_V_Mean(const double* x, int n, const short int* iMissing, const double
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_Mean(&values, n, iMissing, &weights);
+    return V_Mean(&values, n, frame::readOnly(iMissing), &weights);
 }
 
 double VB_V_MeanAbs(const double* x, int n, const short int* iMissing, const double* w)
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_MeanAbs(&values, n, iMissing, &weights);
+    return V_MeanAbs(&values, n, frame::readOnly(iMissing), &weights);
 }
 
 double VB_V_Mean2(const double* x, int n)
@@ -35,7 +35,7 @@ double Cpp_V_HarmonicMean(const double* x, int n, const short int* iMissing, con
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_HarmonicMean(&values, n, iMissing, &weights);
+    return V_HarmonicMean(&values, n, frame::readOnly(iMissing), &weights);
 }
 
 int Cpp_V_GMeanGSD(const double* x, int n, const short int* iMissing, const double* w, double* gmean,
@@ -43,5 +43,5 @@ int Cpp_V_GMeanGSD(const double* x, int n, const short int* iMissing, const doub
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_GMeanGSD(&values, n, iMissing, &weights, *gmean, *gsd);
+    return V_GMeanGSD(&values, n, frame::readOnly(iMissing), &weights, *gmean, *gsd);
 }

@@ -11,7 +11,7 @@ int VB_V_MeanVarSkewPKurtP(const double* x, int n, double* mean, double* var, do
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    V_MeanVarSkewPKurtP(&values, n, *mean, *var, *skewP, *kurtP, *skew, *kurt, *seSkew, *seKurt, iMissing,
-                        &weights, bUnbiased, bFreq);
+    V_MeanVarSkewPKurtP(&values, n, *mean, *var, *skewP, *kurtP, *skew, *kurt, *seSkew, *seKurt,
+                        frame::readOnly(iMissing), &weights, bUnbiased, bFreq);
     return 0;
 }

@@ -9,7 +9,7 @@ double VB_V_Sum(const double* x, int n, const short int* iMissing, const double*
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_Sum(&values, n, iMissing, &weights);
+    return V_Sum(&values, n, frame::readOnly(iMissing), &weights);
 }
 
 double Cpp_V_SumW(const double* x, int n, const double* w)
@@ -24,7 +24,7 @@ double VB_V_Sum2Dbl(const double* x, int n)
 
 double VB_V_Sum2Lng(const int* x, int n)
 {
-    return V_Sum2(x, n);
+    return V_Sum2(frame::readOnly(x), n);
 }
 
 double Cpp_V_Sum2Dbl_ST(SAFEARRAY** sa, int n)

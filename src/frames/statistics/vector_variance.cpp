@@ -10,7 +10,7 @@ double VB_V_Var(const double* x, int n, const short int* iMissing, const double*
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_Var(&values, n, iMissing, &weights, bUnbiased, bFreq);
+    return V_Var(&values, n, frame::readOnly(iMissing), &weights, bUnbiased, bFreq);
 }
 
 double Cpp_V_Var2(const double* x, int n, short int bUnbiased, short int bFreq)
@@ -23,7 +23,7 @@ double VB_V_Stdev(const double* x, int n, const short int* iMissing, const doubl
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    return V_Stdev(&values, n, iMissing, &weights, bUnbiased, bFreq);
+    return V_Stdev(&values, n, frame::readOnly(iMissing), &weights, bUnbiased, bFreq);
 }
 
 int VB_V_MeanVar(const double* x, int n, double* mean, double* var, const short int* iMissing,
@@ -31,7 +31,7 @@ int VB_V_MeanVar(const double* x, int n, double* mean, double* var, const short 
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    V_MeanVar(&values, n, mean, var, iMissing, &weights, bUnbiased, bFreq);
+    V_MeanVar(&values, n, mean, var, frame::readOnly(iMissing), &weights, bUnbiased, bFreq);
     return 0;
 }
 
@@ -49,7 +49,7 @@ int VB_V_MeanStdev(const double* x, int n, double* mean, double* sd, const short
 {
     auto values = frame::borrow(x, n);
     auto weights = frame::borrow(w, n);
-    V_MeanStdev(&values, n, mean, sd, iMissing, &weights, bUnbiased, bFreq);
+    V_MeanStdev(&values, n, mean, sd, frame::readOnly(iMissing), &weights, bUnbiased, bFreq);
     return 0;
 }
 
