@@ -153,7 +153,7 @@ TEST(JsonMaker, WritesANumberAsAPlainPrettyWriterDoes)
         EXPECT_NE(number.find_first_of(".e"), std::string::npos) << number;
         double readBack = 0.0;
         std::from_chars(number.data(), number.data() + number.size(), readBack);
-        EXPECT_TRUE(korvel::test::sameBits(readBack, value)) << number;
+        EXPECT_SAME_BITS(readBack, value) << number;
     };
     std::mt19937_64 random(30);
     for (int round = 0; round < 3000; ++round) {

@@ -77,47 +77,47 @@ TEST(Matrix3D, ReadsByColumnAndRow)
 {
     auto table = filled<matrix3D<matrix<double>>>(2);
     matrix3DBase<matrix<double>>& base = table;
-    EXPECT_TRUE(sameBits(base.getElement(1, 2), 12.0));
-    EXPECT_TRUE(sameBits(base.vbget(1, 2), 1.0));
+    EXPECT_SAME_BITS(base.getElement(1, 2), 12.0);
+    EXPECT_SAME_BITS(base.vbget(1, 2), 1.0);
     base.setElement(1, 0, 5.0);
     base.vbset(1, 3, 6.0);
-    EXPECT_TRUE(sameBits(table.chunks[1][0], 5.0));
-    EXPECT_TRUE(sameBits(table.chunks[0][2], 6.0));
+    EXPECT_SAME_BITS(table.chunks[1][0], 5.0);
+    EXPECT_SAME_BITS(table.chunks[0][2], 6.0);
 }
 
 TEST(Matrix3DVect, ReadsByRowAndColumn)
 {
     auto table = filled<matrix3DVect<matrix<double>>>(2);
     matrix3DBase<matrix<double>>& base = table;
-    EXPECT_TRUE(sameBits(base.getElement(2, 1), 12.0));
-    EXPECT_TRUE(sameBits(base.vbget(2, 1), 1.0));
+    EXPECT_SAME_BITS(base.getElement(2, 1), 12.0);
+    EXPECT_SAME_BITS(base.vbget(2, 1), 1.0);
     base.setElement(0, 1, 5.0);
     base.vbset(3, 1, 6.0);
-    EXPECT_TRUE(sameBits(table.chunks[1][0], 5.0));
-    EXPECT_TRUE(sameBits(table.chunks[0][2], 6.0));
+    EXPECT_SAME_BITS(table.chunks[1][0], 5.0);
+    EXPECT_SAME_BITS(table.chunks[0][2], 6.0);
 }
 
 TEST(Matrix3D, UsesTheSpareSlotOfTheChunk)
 {
     auto table = filled<matrix3D<matrix<double>>>(2);
-    EXPECT_TRUE(sameBits(table.getElement(1, 3), -1.0));
-    EXPECT_TRUE(sameBits(table.getElement(1, -1), -1.0)) << "the element number is unsigned";
+    EXPECT_SAME_BITS(table.getElement(1, 3), -1.0);
+    EXPECT_SAME_BITS(table.getElement(1, -1), -1.0) << "the element number is unsigned";
     table.setElement(1, 0, 4.0);
-    EXPECT_TRUE(sameBits(table.getElement(1, 3), 4.0)) << "a store inside reaches the slot too";
-    EXPECT_TRUE(sameBits(table.getElement(0, 3), -1.0)) << "of its own chunk only";
+    EXPECT_SAME_BITS(table.getElement(1, 3), 4.0) << "a store inside reaches the slot too";
+    EXPECT_SAME_BITS(table.getElement(0, 3), -1.0) << "of its own chunk only";
     table.setElement(1, 3, 8.0);
     table.setElement(0, -1, 9.0);
-    EXPECT_TRUE(sameBits(table.getElement(1, 7), 8.0));
-    EXPECT_TRUE(sameBits(table.getElement(0, 7), 9.0));
-    EXPECT_TRUE(sameBits(table.vbget(2, 4), 8.0));
+    EXPECT_SAME_BITS(table.getElement(1, 7), 8.0);
+    EXPECT_SAME_BITS(table.getElement(0, 7), 9.0);
+    EXPECT_SAME_BITS(table.vbget(2, 4), 8.0);
     for (int i = 0; i < 3; ++i) {
-        EXPECT_TRUE(sameBits(table.getElement(0, i), i));
+        EXPECT_SAME_BITS(table.getElement(0, i), i);
     }
 
     auto byRow = filled<matrix3DVect<matrix<double>>>(2);
     byRow.vbset(4, 2, 7.0);
-    EXPECT_TRUE(sameBits(byRow.getElement(-1, 1), 7.0));
-    EXPECT_TRUE(sameBits(byRow.getElement(3, 0), -1.0));
+    EXPECT_SAME_BITS(byRow.getElement(-1, 1), 7.0);
+    EXPECT_SAME_BITS(byRow.getElement(3, 0), -1.0);
 }
 
 TEST(Matrix3D, ATriangleHoldsItsColumnsFromTheDiagonalDown)
@@ -131,11 +131,11 @@ TEST(Matrix3D, ATriangleHoldsItsColumnsFromTheDiagonalDown)
             table.vbset(c, r, 10.0 * (c + r - 1) + c);
         }
     }
-    EXPECT_TRUE(sameBits(table.vbget(2, 1), 22.0)) << "the diagonal";
+    EXPECT_SAME_BITS(table.vbget(2, 1), 22.0) << "the diagonal";
     for (int i = 1; i <= order; ++i) {
         for (int j = 1; j <= i; ++j) {
-            EXPECT_TRUE(sameBits(table.vbget(j, i - j + 1), 10.0 * i + j));
-            EXPECT_TRUE(sameBits(korvel::reading(table).triangle(order).get(j - 1, i - 1), 10.0 * i + j));
+            EXPECT_SAME_BITS(table.vbget(j, i - j + 1), 10.0 * i + j);
+            EXPECT_SAME_BITS(korvel::reading(table).triangle(order).get(j - 1, i - 1), 10.0 * i + j);
         }
     }
 }
@@ -151,12 +151,12 @@ TEST(Matrix3D, MakesChunksOfItsOwn)
         EXPECT_EQ(chunk.nbrows, 2);
         EXPECT_EQ(chunk.nbcols, 1);
         EXPECT_TRUE(chunk.bOwner);
-        EXPECT_TRUE(sameBits(table.getElement(c, 1), 0.5));
-        EXPECT_TRUE(sameBits(withBuffers.getElement(c, 1), 0.5));
+        EXPECT_SAME_BITS(table.getElement(c, 1), 0.5);
+        EXPECT_SAME_BITS(withBuffers.getElement(c, 1), 0.5);
     }
     withBuffers.vbset(2, 1, 4.0);
-    EXPECT_TRUE(sameBits(withBuffers.getElement(1, 0), 4.0));
-    EXPECT_TRUE(sameBits(withBuffers.vbget(2, 3), 4.0));
+    EXPECT_SAME_BITS(withBuffers.getElement(1, 0), 4.0);
+    EXPECT_SAME_BITS(withBuffers.vbget(2, 3), 4.0);
     EXPECT_TRUE((matrix3D<matrix<double>>(0, 2, 0, 0.5).chunks.empty()));
 }
 
@@ -189,7 +189,7 @@ TEST(Matrix3D, AttachesToTheColumnsOfRecords)
         EXPECT_EQ(table.chunks[1].data, nullptr);
         EXPECT_EQ(table.chunks[1].nbElem, 0u);
         EXPECT_EQ(table.chunks[2].nbcols, 2);
-        EXPECT_TRUE(sameBits(table.getElement(2, 3), 6.0)) << "an element number is linear";
+        EXPECT_SAME_BITS(table.getElement(2, 3), 6.0) << "an element number is linear";
         table.setElement(0, 1, 7.0);
     }
     EXPECT_TRUE(watch.arrays(0, 0)) << "the caller's arrays live on";
@@ -205,7 +205,7 @@ TEST(Matrix3D, TakesABlockWithoutANullForPlainPointers)
     SAFEARRAY* array = caller.array(columns);
     matrix3D<matrix<double>> table(3, reference(array));
     for (int c = 0; c < 3; ++c) {
-        EXPECT_TRUE(sameBits(table.getElement(c, 0), c + 1.0));
+        EXPECT_SAME_BITS(table.getElement(c, 0), c + 1.0);
     }
 }
 
@@ -305,9 +305,9 @@ TEST(Matrix3DVect, AttachesToTheColumnsOfALabelledTable)
     EXPECT_EQ(allocationCount() - before, 1) << "the descriptors";
     ASSERT_EQ(table.chunks.size(), 2u);
     EXPECT_EQ(table.chunks[0].data, columnOf(record, 0).Vect->pvData);
-    EXPECT_TRUE(sameBits(table.getElement(1, 0), 2.0));
+    EXPECT_SAME_BITS(table.getElement(1, 0), 2.0);
     EXPECT_EQ(table.chunks[1].nbElem, 0u);
-    EXPECT_TRUE(sameBits(korvel::sumOfElements(table), 3.0));
+    EXPECT_SAME_BITS(korvel::sumOfElements(table), 3.0);
 }
 
 TEST(Matrix3DVect, TakesTheNumberOfRecordsFromTheLeftmostDimension)

@@ -12,7 +12,6 @@
 
 using korvel::parseNumber;
 using korvel::renderWhole;
-using korvel::test::sameBits;
 
 namespace
 {
@@ -86,7 +85,7 @@ TEST(NumberText, FoldsDigitsFromBothEnds)
     for (const auto& [number, value] : cases) {
         const auto parsed = parseNumber(number, u".");
         ASSERT_TRUE(parsed.has_value());
-        EXPECT_TRUE(sameBits(*parsed, value));
+        EXPECT_SAME_BITS(*parsed, value);
     }
 }
 
@@ -96,11 +95,11 @@ TEST(NumberText, NeedsNoDigits)
          {u"", u"+", u".", u"+.", u"e", u"E", u"e5", u".e5", u"+e5", u"e+5"}) {
         const auto parsed = parseNumber(number, u".");
         ASSERT_TRUE(parsed.has_value());
-        EXPECT_TRUE(sameBits(*parsed, 0.0));
+        EXPECT_SAME_BITS(*parsed, 0.0);
     }
-    EXPECT_TRUE(sameBits(*parseNumber(u"-", u"."), -0.0));
-    EXPECT_TRUE(sameBits(*parseNumber(u"-.", u"."), -0.0));
-    EXPECT_TRUE(sameBits(*parseNumber(u"-0", u"."), -0.0));
+    EXPECT_SAME_BITS(*parseNumber(u"-", u"."), -0.0);
+    EXPECT_SAME_BITS(*parseNumber(u"-.", u"."), -0.0);
+    EXPECT_SAME_BITS(*parseNumber(u"-0", u"."), -0.0);
 }
 
 TEST(NumberText, MultipliesByAPowerOfTen)
@@ -138,32 +137,32 @@ TEST(NumberText, MultipliesByAPowerOfTen)
 TEST(NumberText, WrapsAnExponentThatDoesNotFit)
 {
     // 2147483648 wraps to -2147483648, and so does its negative.
-    EXPECT_TRUE(sameBits(*parseNumber(u"1e2147483648", u"."), 0.0));
-    EXPECT_TRUE(sameBits(*parseNumber(u"1e-2147483648", u"."), 0.0));
-    EXPECT_TRUE(sameBits(*parseNumber(u"1e2147483647", u"."), infinity));
-    EXPECT_TRUE(sameBits(*parseNumber(u"1e4294967296", u"."), 1.0));
+    EXPECT_SAME_BITS(*parseNumber(u"1e2147483648", u"."), 0.0);
+    EXPECT_SAME_BITS(*parseNumber(u"1e-2147483648", u"."), 0.0);
+    EXPECT_SAME_BITS(*parseNumber(u"1e2147483647", u"."), infinity);
+    EXPECT_SAME_BITS(*parseNumber(u"1e4294967296", u"."), 1.0);
 }
 
 TEST(NumberText, RunsOutOfRangeAsItsProductsDo)
 {
-    EXPECT_TRUE(sameBits(*parseNumber(u"1e309", u"."), infinity));
-    EXPECT_TRUE(sameBits(*parseNumber(u"-1e309", u"."), -infinity));
-    EXPECT_TRUE(sameBits(*parseNumber(u"1e-400", u"."), 0.0));
-    EXPECT_TRUE(sameBits(*parseNumber(u"0e400", u"."), std::numeric_limits<double>::quiet_NaN()));
-    EXPECT_TRUE(sameBits(*parseNumber(std::u16string(400, u'9'), u"."), infinity));
+    EXPECT_SAME_BITS(*parseNumber(u"1e309", u"."), infinity);
+    EXPECT_SAME_BITS(*parseNumber(u"-1e309", u"."), -infinity);
+    EXPECT_SAME_BITS(*parseNumber(u"1e-400", u"."), 0.0);
+    EXPECT_SAME_BITS(*parseNumber(u"0e400", u"."), std::numeric_limits<double>::quiet_NaN());
+    EXPECT_SAME_BITS(*parseNumber(std::u16string(400, u'9'), u"."), infinity);
 }
 
 TEST(NumberText, AcceptsTheSeparatorOnce)
 {
-    EXPECT_TRUE(sameBits(*parseNumber(u"1,5", u","), 1.5));
-    EXPECT_TRUE(sameBits(*parseNumber(u"1,5", u",."), 1.5));
-    EXPECT_TRUE(sameBits(*parseNumber(u"1\u066B5", u"\u066B"), 1.5));
+    EXPECT_SAME_BITS(*parseNumber(u"1,5", u","), 1.5);
+    EXPECT_SAME_BITS(*parseNumber(u"1,5", u",."), 1.5);
+    EXPECT_SAME_BITS(*parseNumber(u"1\u066B5", u"\u066B"), 1.5);
     EXPECT_FALSE(parseNumber(u"1.5", u","));
     EXPECT_FALSE(parseNumber(u"1.5", u",."));
     EXPECT_FALSE(parseNumber(u"1,5,0", u","));
     EXPECT_FALSE(parseNumber(u"1,5e2,0", u","));
     EXPECT_FALSE(parseNumber(u"1.5", u""));
-    EXPECT_TRUE(sameBits(*parseNumber(u"15", u""), 15.0));
+    EXPECT_SAME_BITS(*parseNumber(u"15", u""), 15.0);
 }
 
 TEST(NumberText, AcceptsASignFirstAndAfterTheMark)
@@ -298,7 +297,7 @@ TEST(WholeNumberText, KnowsNoLocale)
     stream << std::fixed << 1234567.0;
     ASSERT_EQ(stream.str(), "1.234.567,000000");
     EXPECT_EQ(renderWhole(1234567.0), u"1234567");
-    EXPECT_TRUE(sameBits(*parseNumber(u"1234.5", u"."), 1234.5));
+    EXPECT_SAME_BITS(*parseNumber(u"1234.5", u"."), 1234.5);
 }
 
 TEST(WholeNumberText, IsWhatAWideStreamOfTheClassicLocaleWrites)

@@ -40,9 +40,9 @@ TEST(RecordCopies, DuplicatesTheRowsAndColumnsThatTheSourceCounts)
     src.Vectors[0].Vect[1] = std::numeric_limits<double>::quiet_NaN();
     src.Vectors[1].Vect[0] = MISSING_DBL;
     MV_DuplicateMVect(src, dst);
-    EXPECT_TRUE(sameBits(dst.Vectors[0].Vect[0], 1.0));
-    EXPECT_TRUE(sameBits(dst.Vectors[0].Vect[1], std::numeric_limits<double>::quiet_NaN()));
-    EXPECT_TRUE(sameBits(dst.Vectors[0].Vect[2], 102.0));
+    EXPECT_SAME_BITS(dst.Vectors[0].Vect[0], 1.0);
+    EXPECT_SAME_BITS(dst.Vectors[0].Vect[1], std::numeric_limits<double>::quiet_NaN());
+    EXPECT_SAME_BITS(dst.Vectors[0].Vect[2], 102.0);
     EXPECT_EQ(column(dst, 1), (numbers{MISSING_DBL, 5.0, 106.0, 107.0}));
     EXPECT_EQ(column(dst, 2), (numbers{108.0, 109.0, 110.0, 111.0}));
     EXPECT_EQ(dst.nbcols, 3);
@@ -89,7 +89,7 @@ TEST(RecordCopies, ReadAndWriteATriangleWithinBounds)
     EXPECT_EQ(column(dst, 0), (numbers{7.0, 101.0}));
     EXPECT_EQ(column(dst, 1), (numbers{8.0, -1.0}));
     EXPECT_EQ(column(dst, 2), (numbers{-1.0, -1.0}));
-    EXPECT_TRUE(sameBits(dst.Vectors[2].Vect.oobValue, -1.0));
+    EXPECT_SAME_BITS(dst.Vectors[2].Vect.oobValue, -1.0);
 }
 
 TEST(RecordCopies, FillColumnsFromADenseTable)
@@ -151,7 +151,7 @@ TEST(RecordCopies, DropElementsForWhichThereIsNoRoom)
     {
         cST_MVect<double> mv(&record);
         CopyDblToMV(m, 3, 2, mv);
-        EXPECT_TRUE(sameBits(mv.Vectors[0].Vect.oobValue, 3.0));
+        EXPECT_SAME_BITS(mv.Vectors[0].Vect.oobValue, 3.0);
     }
     EXPECT_EQ(numbersIn<double>(columnOf(record, 0).Vect), numbers{1.0});
     EXPECT_TRUE(caller.guardsIntact());

@@ -65,7 +65,7 @@ TEST(RecordTable, UsesTheRecordsArrays)
         EXPECT_EQ(column.Vect.data, columnOf(record, j).Vect->pvData);
     }
     EXPECT_EQ(contentOf(table.Vectors[1].Label), u"y");
-    EXPECT_TRUE(sameBits(table.Vectors[0].Vect[2], 3.0));
+    EXPECT_SAME_BITS(table.Vectors[0].Vect[2], 3.0);
 }
 
 TEST(RecordTable, WritesScalarsAndTextsBackWhenItDies)
@@ -153,7 +153,7 @@ TEST(RecordTable, OfItsOwnIsZeroFilled)
         EXPECT_EQ(column.Vect.nbcols, 1);
         EXPECT_TRUE(column.Vect.bOwner);
         for (int i = 0; i < 3; ++i) {
-            EXPECT_TRUE(sameBits(column.Vect[i], 0.0));
+            EXPECT_SAME_BITS(column.Vect[i], 0.0);
         }
     }
     const cST_MVect<text> ofTexts(1, 1);
@@ -188,14 +188,14 @@ TEST(RecordTable, CopiesAreDeepAndBelongToNoRecord)
         EXPECT_EQ(copy.Vectors[1].source, nullptr);
         EXPECT_EQ(copy.Vectors[1].Count, 1);
         EXPECT_EQ(copy.Vectors[1].Label, columnOf(record, 1).Label);
-        EXPECT_TRUE(sameBits(copy.Vectors[0].Vect[1], 2.0));
+        EXPECT_SAME_BITS(copy.Vectors[0].Vect[1], 2.0);
         copy.Vectors[0].Vect[1] = -1.0;
         copy.Vectors[0].Count = 99;
         copy.nbrows[1] = 99;
         copy.CLabels[0] = u"changed";
         copy.nbcols = 99;
     }
-    EXPECT_TRUE(sameBits(table.Vectors[0].Vect[1], 2.0));
+    EXPECT_SAME_BITS(table.Vectors[0].Vect[1], 2.0);
     EXPECT_EQ(numbersIn<int>(record.nbrows), (std::vector<int>{2, 1}));
     EXPECT_EQ(textsIn(record.CLabels), (texts{u"a", u"b"}));
     EXPECT_EQ(record.nbcols, 2);
@@ -211,7 +211,7 @@ TEST(RecordTable, CopiesColumnsWithoutABlock)
     const cST_MVect<double> table(&record);
     const cST_MVect<double> copy(table);
     EXPECT_EQ(copy.Vectors[0].Vect.nbElem, 2u);
-    EXPECT_TRUE(sameBits(copy.Vectors[0].Vect[1], 0.0));
+    EXPECT_SAME_BITS(copy.Vectors[0].Vect[1], 0.0);
 }
 
 TEST(RecordTable, ReleasesWhatItHasBuiltWhenAColumnIsTooLong)

@@ -44,10 +44,10 @@ void expectEmpty(const cST_QualiInfo& info)
 {
     EXPECT_EQ(info.source, nullptr);
     EXPECT_EQ(info.Count, 0);
-    EXPECT_TRUE(sameBits(info.SumW, 0.0));
+    EXPECT_SAME_BITS(info.SumW, 0.0);
     EXPECT_EQ(info.MaxNbCat, 0);
     EXPECT_EQ(info.NbCatTotal, 0);
-    EXPECT_TRUE(sameBits(info.FreqMax, 0.0));
+    EXPECT_SAME_BITS(info.FreqMax, 0.0);
     EXPECT_EQ(info.NbCat, nullptr);
     EXPECT_EQ(info.VarLabels, nullptr);
     EXPECT_EQ(info.CatNames, nullptr);
@@ -79,10 +79,10 @@ TEST(RecordCategories, TakeTheRecordsFields)
     const cST_QualiInfo info(&record);
     EXPECT_EQ(info.source, &record);
     EXPECT_EQ(info.Count, 2);
-    EXPECT_TRUE(sameBits(info.SumW, 2.5));
+    EXPECT_SAME_BITS(info.SumW, 2.5);
     EXPECT_EQ(info.MaxNbCat, 3);
     EXPECT_EQ(info.NbCatTotal, 4);
-    EXPECT_TRUE(sameBits(info.FreqMax, 6.5));
+    EXPECT_SAME_BITS(info.FreqMax, 6.5);
     EXPECT_EQ(info.IgnoreNewCategoryInPred, 7);
     EXPECT_EQ(info.withRecode, 8);
     EXPECT_EQ(info.codeStart, 9);
@@ -139,10 +139,10 @@ TEST(RecordCategories, WriteScalarsLabelsAndPartsBackWhenTheyDie)
         EXPECT_EQ(record.CheckType, 14);
     }
     EXPECT_EQ(record.Count, 102);
-    EXPECT_TRUE(sameBits(record.SumW, 102.5));
+    EXPECT_SAME_BITS(record.SumW, 102.5);
     EXPECT_EQ(record.MaxNbCat, 103);
     EXPECT_EQ(record.NbCatTotal, 104);
-    EXPECT_TRUE(sameBits(record.FreqMax, 106.5));
+    EXPECT_SAME_BITS(record.FreqMax, 106.5);
     EXPECT_EQ(record.IgnoreNewCategoryInPred, 107);
     EXPECT_EQ(record.withRecode, 108);
     EXPECT_EQ(record.codeStart, 109);

@@ -151,7 +151,7 @@ TEST(RecordColumn, EachRecordHasOneWriterAfterAVectorHasGrown)
         }
         for (int j = 0; j < columns; ++j) {
             EXPECT_EQ(held[std::size_t(j)].source, &records[std::size_t(j)]);
-            EXPECT_TRUE(sameBits(held[std::size_t(j)].Vect[0], double(j)));
+            EXPECT_SAME_BITS(held[std::size_t(j)].Vect[0], double(j));
         }
     }
     for (const ST_Vect& record : records) {

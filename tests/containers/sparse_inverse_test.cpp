@@ -8,7 +8,6 @@
 #include <limits>
 #include <new>
 
-using korvel::test::sameBits;
 using korvel::test::sameStorage;
 using korvel::test::tableOf;
 
@@ -233,8 +232,8 @@ TEST(SparseInverse, TakesTheLastOfEqualPivots)
     // Row 1 becomes the first: factor 1/3, second pivot 0.1 - (1/3) * 3.
     const double second = 0.1 - (1.0 / 3.0) * 3.0;
     const double x10 = 1.0 / second;
-    EXPECT_TRUE(sameBits(outcome.result.getElement(1, 0), x10));
-    EXPECT_TRUE(sameBits(outcome.result.getElement(0, 0), (0.0 - 3.0 * x10) / 3.0));
+    EXPECT_SAME_BITS(outcome.result.getElement(1, 0), x10);
+    EXPECT_SAME_BITS(outcome.result.getElement(0, 0), (0.0 - 3.0 * x10) / 3.0);
 }
 
 TEST(SparseInverse, WritesInColumnOrderByTheSetter)

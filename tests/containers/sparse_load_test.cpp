@@ -9,7 +9,6 @@
 #include <limits>
 #include <new>
 
-using korvel::test::sameBits;
 using korvel::test::sameStorage;
 using korvel::test::tableOf;
 
@@ -148,8 +147,8 @@ TEST(SparseLoad, ComesBackAsItWasButForRowZeroAlone)
                 const double expected = !onlyRowZero ? dense.getElement(i, j)
                                         : i == 1     ? dense.getElement(0, j)
                                                      : 0.0;
-                ASSERT_TRUE(sameBits(back.getElement(i, j), expected)) << i << ", " << j;
-                ASSERT_TRUE(sameBits(m.getElement(i, j), expected)) << i << ", " << j;
+                ASSERT_SAME_BITS(back.getElement(i, j), expected) << i << ", " << j;
+                ASSERT_SAME_BITS(m.getElement(i, j), expected) << i << ", " << j;
             }
         }
     }

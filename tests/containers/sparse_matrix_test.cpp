@@ -11,7 +11,6 @@
 #include <type_traits>
 #include <utility>
 
-using korvel::test::sameBits;
 using korvel::test::sameStorage;
 
 namespace
@@ -164,7 +163,7 @@ TEST(SparseMatrix, SetterStoresTheThresholdAndDropsWhatIsBelow)
         matrixSparse m(1, 1, 0.0, false);
         m.setElement(0, 0, stored);
         EXPECT_EQ(m.nnz, 1) << stored;
-        EXPECT_TRUE(sameBits(m.getElement(0, 0), stored));
+        EXPECT_SAME_BITS(m.getElement(0, 0), stored);
         m.setElement(0, 0, 2.0 * stored);
         EXPECT_EQ(m.nnz, 1) << "an element at the threshold is overwritten, not doubled";
         EXPECT_EQ(m.values.size(), 1u);
@@ -230,10 +229,10 @@ TEST(SparseMatrix, LinearAccessorsDoNothing)
     m.setElement(0, 0, 4.0);
     const matrixSparse before(m);
     for (const int k : {-1, 0, 1, 100}) {
-        EXPECT_TRUE(sameBits(m.getElement(k), 0.0));
-        EXPECT_TRUE(sameBits(m.vbget(k), 0.0));
-        EXPECT_TRUE(sameBits(m.setElement(k, 5.0), 0.0));
-        EXPECT_TRUE(sameBits(m.vbset(k, 5.0), 0.0));
+        EXPECT_SAME_BITS(m.getElement(k), 0.0);
+        EXPECT_SAME_BITS(m.vbget(k), 0.0);
+        EXPECT_SAME_BITS(m.setElement(k, 5.0), 0.0);
+        EXPECT_SAME_BITS(m.vbset(k, 5.0), 0.0);
     }
     EXPECT_TRUE(sameStorage(m, before));
 }
@@ -275,8 +274,8 @@ TEST(SparseMatrix, FollowsAMapThroughRandomWrites)
         }
         for (int i = -1; i < rows + 3; ++i) {
             for (int j = -1; j < cols + 3; ++j) {
-                ASSERT_TRUE(sameBits(m.getElement(i, j), expected(i, j))) << i << ", " << j;
-                ASSERT_TRUE(sameBits(m.vbget(i + 1, j + 1), expected(i, j))) << i << ", " << j;
+                ASSERT_SAME_BITS(m.getElement(i, j), expected(i, j)) << i << ", " << j;
+                ASSERT_SAME_BITS(m.vbget(i + 1, j + 1), expected(i, j)) << i << ", " << j;
             }
         }
         EXPECT_EQ(static_cast<std::size_t>(m.nnz), model.size());
@@ -316,7 +315,7 @@ TEST(SparseMatrix, AFillValueWithoutAnIntegerGivesTheSmallestColumn)
     for (const double value : {notANumber, infinity, -infinity, 1e300, 2147483648.0, -2147483649.0}) {
         const matrixSparse m(1, 1, value, false);
         EXPECT_EQ(m.colIndex, (positions{smallest})) << value;
-        EXPECT_TRUE(sameBits(m.values.at(0), value));
+        EXPECT_SAME_BITS(m.values.at(0), value);
     }
     EXPECT_EQ(matrixSparse(1, 1, 2147483647.5, false).colIndex, (positions{2147483647}));
     EXPECT_EQ(matrixSparse(1, 1, -2000000000.5, false).colIndex, (positions{-2000000000}));

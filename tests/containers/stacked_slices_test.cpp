@@ -61,7 +61,7 @@ TEST(StackedSlices, StartAsZeros)
         EXPECT_EQ(made[k].nbrows, 2);
         EXPECT_EQ(made[k].nbcols, 3);
         EXPECT_EQ(elementsOf(made[k]), numbers(6, 0.0));
-        EXPECT_TRUE(sameBits(made[k].oobValue, -1.0));
+        EXPECT_SAME_BITS(made[k].oobValue, -1.0);
     }
     slices<double, 1> narrow;
     iniSuperMat(narrow.m.data(), 1, 2, 0);
@@ -88,10 +88,10 @@ TEST(StackedSlices, AreLoadedRowBeforeColumnAndKeepTheLastValueInTheSpareSlot)
         EXPECT_EQ(slice.nbrows, 2);
         for (int i = 0; i < 2; ++i) {
             for (int j = 0; j < 3; ++j) {
-                EXPECT_TRUE(sameBits(slice.getElement(i, j), 100.0 * k + 10.0 * i + j));
+                EXPECT_SAME_BITS(slice.getElement(i, j), 100.0 * k + 10.0 * i + j);
             }
         }
-        EXPECT_TRUE(sameBits(slice.oobValue, 100.0 * k + 12.0));
+        EXPECT_SAME_BITS(slice.oobValue, 100.0 * k + 12.0);
     }
 }
 
@@ -100,7 +100,7 @@ TEST(StackedSlices, WithoutColumnsAreMadeButNotFilled)
     slices<double, 1> made;
     loadSuperMat(made.m.data(), static_cast<double*>(nullptr), 1, 2, 0);
     EXPECT_EQ(elementsOf(made[0]), numbers(2, 0.0));
-    EXPECT_TRUE(sameBits(made[0].oobValue, -1.0));
+    EXPECT_SAME_BITS(made[0].oobValue, -1.0);
 }
 
 TEST(StackedSlices, OfTextsAreCopied)
@@ -131,7 +131,7 @@ TEST(StackedSlices, OfIntegersAreConvertedAsTheyAre)
     std::array<int, 3> flat{1, MISSING_LNG, -3};
     loadSuperMatLng(made.m.data(), flat.data(), 1, 3, 1);
     EXPECT_EQ(elementsOf(made[0]), (numbers{1.0, -2147483648.0, -3.0}));
-    EXPECT_TRUE(sameBits(made[0].oobValue, -3.0));
+    EXPECT_SAME_BITS(made[0].oobValue, -3.0);
 }
 
 TEST(StackedSlices, GoBackToTheFlatBlock)
@@ -193,7 +193,7 @@ TEST(SuperMatSetToValue, ResizesASliceThatIsTooSmall)
         EXPECT_EQ(made[k].nbrows, 2);
         EXPECT_EQ(made[k].nbcols, 2);
         EXPECT_EQ(elementsOf(made[k]), numbers(4, 5.0));
-        EXPECT_TRUE(sameBits(made[k].oobValue, -1.0));
+        EXPECT_SAME_BITS(made[k].oobValue, -1.0);
     }
 }
 
@@ -227,7 +227,7 @@ TEST(CopyCol, CopiesAChunkIntoAColumn)
     matrix<double> out(3, 2, 0.0);
     CopyCol(made.m.data(), 2, 1, 1, &out);
     EXPECT_EQ(elementsOf(out), (numbers{0.0, 0.0, 0.0, 2.0, 3.0, 0.0}));
-    EXPECT_TRUE(sameBits(out.oobValue, 3.0));
+    EXPECT_SAME_BITS(out.oobValue, 3.0);
 }
 
 TEST(CopyCol, LeavesWhatHasNoRoomInTheSpareSlot)
@@ -238,7 +238,7 @@ TEST(CopyCol, LeavesWhatHasNoRoomInTheSpareSlot)
     matrix<double> out(2, 2, 0.0);
     CopyCol(made.m.data(), 1, 0, 0, &out);
     EXPECT_EQ(elementsOf(out), (numbers{1.0, 1.0, 0.0, 0.0}));
-    EXPECT_TRUE(sameBits(out.oobValue, 9.0));
+    EXPECT_SAME_BITS(out.oobValue, 9.0);
 }
 
 TEST(CopyCol, DoesNothingOutside)
@@ -252,5 +252,5 @@ TEST(CopyCol, DoesNothingOutside)
     CopyCol(made.m.data(), 1, 0, 2, &out);
     CopyCol(nullptr, 0, 0, 0, &out);
     EXPECT_EQ(elementsOf(out), numbers(4, 0.0));
-    EXPECT_TRUE(sameBits(out.oobValue, -1.0));
+    EXPECT_SAME_BITS(out.oobValue, -1.0);
 }

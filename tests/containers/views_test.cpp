@@ -11,7 +11,6 @@ using korvel::readVector;
 using korvel::withCells;
 using korvel::writeVector;
 using korvel::writing;
-using korvel::test::sameBits;
 
 namespace
 {
@@ -128,7 +127,7 @@ TEST_F(Forms, AColumnInsideIsAPlainPointer)
     forEachRead([](int form, auto view) {
         SCOPED_TRACE(form);
         const auto [sum, raw] = sumOf(view.column(1, 3), 3);
-        EXPECT_TRUE(sameBits(sum, 33.0));
+        EXPECT_SAME_BITS(sum, 33.0);
         EXPECT_TRUE(raw);
     });
 }
@@ -142,7 +141,7 @@ TEST_F(Forms, AColumnThatIsTooShortIsReadWithItsSpareSlot)
     forEachRead([](int form, auto view) {
         SCOPED_TRACE(form);
         const auto [sum, raw] = sumOf(view.column(1, 5), 5);
-        EXPECT_TRUE(sameBits(sum, 233.0));
+        EXPECT_SAME_BITS(sum, 233.0);
         EXPECT_FALSE(raw);
     });
 }
@@ -151,13 +150,13 @@ TEST_F(Forms, CheckedReadsAreThoseOfTheForm)
 {
     forEachRead([](int form, auto view) {
         SCOPED_TRACE(form);
-        EXPECT_TRUE(sameBits(view.get(2, 1), 12.0));
-        EXPECT_TRUE(sameBits(view.get(3, 0), -1.0));
+        EXPECT_SAME_BITS(view.get(2, 1), 12.0);
+        EXPECT_SAME_BITS(view.get(3, 0), -1.0);
     });
     // Only the dense form tests the column, and only a chunk tests an element number from below.
-    EXPECT_TRUE(sameBits(reading(dense).get(0, 2), -1.0));
-    EXPECT_TRUE(sameBits(reading(dense).get(-1, 1), 2.0));
-    EXPECT_TRUE(sameBits(reading(pointers.data()).get(-1, 1), -1.0));
+    EXPECT_SAME_BITS(reading(dense).get(0, 2), -1.0);
+    EXPECT_SAME_BITS(reading(dense).get(-1, 1), 2.0);
+    EXPECT_SAME_BITS(reading(pointers.data()).get(-1, 1), -1.0);
     EXPECT_FALSE(reading(dense).column(2, 3).inside());
     EXPECT_FALSE(reading(dense).column(-1, 3).inside());
     EXPECT_FALSE(reading(dense).table(3, 3).inside());
@@ -178,11 +177,11 @@ TEST_F(Forms, CheckedStoresReachTheSpareSlotInEveryCase)
     forEachWritten([this](int form, auto view) {
         SCOPED_TRACE(form);
         view.set(1, 1, 5.0);
-        EXPECT_TRUE(sameBits(view.get(1, 1), 5.0));
-        EXPECT_TRUE(sameBits(spareOf(form, 1), 5.0));
+        EXPECT_SAME_BITS(view.get(1, 1), 5.0);
+        EXPECT_SAME_BITS(spareOf(form, 1), 5.0);
         view.set(3, 1, 6.0);
-        EXPECT_TRUE(sameBits(spareOf(form, 1), 6.0));
-        EXPECT_TRUE(sameBits(view.get(0, 0), 0.0));
+        EXPECT_SAME_BITS(spareOf(form, 1), 6.0);
+        EXPECT_SAME_BITS(view.get(0, 0), 0.0);
     });
 }
 
@@ -217,9 +216,9 @@ TEST_F(Forms, ARawLoopLeavesTheSpareSlotAsTheCheckedLoopWould)
                               writing(one.data()).column(0, rows));
                 }
                 for (int i = 0; i < 4; ++i) {
-                    EXPECT_TRUE(sameBits(out[i], expected[i]));
+                    EXPECT_SAME_BITS(out[i], expected[i]);
                 }
-                EXPECT_TRUE(sameBits(out.oobValue, expected.oobValue));
+                EXPECT_SAME_BITS(out.oobValue, expected.oobValue);
             }
         }
     }
@@ -252,13 +251,13 @@ TEST_F(Forms, TablesAreReachedInAnyOrder)
             SCOPED_TRACE(testing::Message() << "form " << form << ", " << rows << " rows");
             matrix<double> out(storedCols, storedRows + 1, 0.0);
             transpose(rows, storedCols, view, writing(out));
-            EXPECT_TRUE(sameBits(out.getElement(0, storedRows), rows == storedRows ? 0.0 : -1.0));
+            EXPECT_SAME_BITS(out.getElement(0, storedRows), rows == storedRows ? 0.0 : -1.0);
             for (int r = 0; r < storedRows; ++r) {
                 for (int c = 0; c < storedCols; ++c) {
-                    EXPECT_TRUE(sameBits(out.getElement(c, r), cellValue(r, c)));
+                    EXPECT_SAME_BITS(out.getElement(c, r), cellValue(r, c));
                 }
             }
-            EXPECT_TRUE(sameBits(out.oobValue, rows == storedRows ? 12.0 : -1.0));
+            EXPECT_SAME_BITS(out.oobValue, rows == storedRows ? 12.0 : -1.0);
         });
     }
     forEachWritten([&](int form, auto view) {
@@ -268,15 +267,15 @@ TEST_F(Forms, TablesAreReachedInAnyOrder)
             in[k] = k;
         }
         transpose(storedCols, storedRows, reading(in), view);
-        EXPECT_TRUE(sameBits(view.get(2, 1), 5.0));
-        EXPECT_TRUE(sameBits(view.get(2, 0), 4.0));
-        EXPECT_TRUE(sameBits(spareOf(form, 1), 5.0));
-        EXPECT_TRUE(sameBits(spareOf(form, 0), form == 0 ? 5.0 : 4.0));
+        EXPECT_SAME_BITS(view.get(2, 1), 5.0);
+        EXPECT_SAME_BITS(view.get(2, 0), 4.0);
+        EXPECT_SAME_BITS(spareOf(form, 1), 5.0);
+        EXPECT_SAME_BITS(spareOf(form, 0), form == 0 ? 5.0 : 4.0);
         // A row more than the table has goes to the spare slot alone.
         transpose(storedCols, storedRows + 1, reading(in), view);
-        EXPECT_TRUE(sameBits(view.get(0, 1), 1.0));
-        EXPECT_TRUE(sameBits(view.get(2, 1), 5.0));
-        EXPECT_TRUE(sameBits(spareOf(form, 1), 7.0));
+        EXPECT_SAME_BITS(view.get(0, 1), 1.0);
+        EXPECT_SAME_BITS(view.get(2, 1), 5.0);
+        EXPECT_SAME_BITS(spareOf(form, 1), 7.0);
     });
 }
 
@@ -303,23 +302,23 @@ TEST(Triangle, IsReadAndWrittenOnBothSidesOfTheDiagonal)
                     }
                 },
                 writing(table).triangle(seen));
-            EXPECT_TRUE(sameBits(table.chunks[1][1], sign * 21.0));
-            EXPECT_TRUE(sameBits(table.chunks[0][2], sign * 20.0));
-            EXPECT_TRUE(sameBits(table.chunks[0].oobValue, sign * 20.0));
-            EXPECT_TRUE(sameBits(table.chunks[2].oobValue, sign * 22.0));
+            EXPECT_SAME_BITS(table.chunks[1][1], sign * 21.0);
+            EXPECT_SAME_BITS(table.chunks[0][2], sign * 20.0);
+            EXPECT_SAME_BITS(table.chunks[0].oobValue, sign * 20.0);
+            EXPECT_SAME_BITS(table.chunks[2].oobValue, sign * 22.0);
         }
         withCells(
             [](auto stored) {
                 for (int i = 0; i < order; ++i) {
                     for (int j = 0; j < order; ++j) {
-                        EXPECT_TRUE(sameBits(stored.get(i, j), 10.0 * std::max(i, j) + std::min(i, j)));
+                        EXPECT_SAME_BITS(stored.get(i, j), 10.0 * std::max(i, j) + std::min(i, j));
                     }
                 }
             },
             reading(table).triangle(seen));
     }
     EXPECT_FALSE(reading(table).triangle(order + 1).inside());
-    EXPECT_TRUE(sameBits(reading(table).triangle(order + 1).get(3, 0), 20.0)) << "the spare slot of chunk 0";
+    EXPECT_SAME_BITS(reading(table).triangle(order + 1).get(3, 0), 20.0) << "the spare slot of chunk 0";
 }
 
 TEST(SparseView, GoesThroughTheElementsAlone)
@@ -332,11 +331,11 @@ TEST(SparseView, GoesThroughTheElementsAlone)
         },
         writing(table).column(1, 6));
     const auto [sum, raw] = sumOf(reading(table).column(1, 3), 3);
-    EXPECT_TRUE(sameBits(sum, 2.0)) << "3, 0 and the -1 of an index outside";
+    EXPECT_SAME_BITS(sum, 2.0) << "3, 0 and the -1 of an index outside";
     EXPECT_FALSE(raw);
     EXPECT_FALSE(reading(table).table(1, 1).inside());
     writing(table).table(2, 2).set(1, 0, 8.0);
-    EXPECT_TRUE(sameBits(reading(table).get(1, 0), 8.0));
+    EXPECT_SAME_BITS(reading(table).get(1, 0), 8.0);
 }
 
 TEST(Vectors, AreReachedByLinearIndex)
@@ -349,14 +348,14 @@ TEST(Vectors, AreReachedByLinearIndex)
             }
         },
         writeVector(y, 4));
-    EXPECT_TRUE(sameBits(y[3], 3.0));
-    EXPECT_TRUE(sameBits(y.oobValue, 3.0));
+    EXPECT_SAME_BITS(y[3], 3.0);
+    EXPECT_SAME_BITS(y.oobValue, 3.0);
     const auto outside = writeVector(y, 5);
     EXPECT_FALSE(outside.inside());
     outside.set(4, 9.0);
     outside.set(-1, 8.0);
-    EXPECT_TRUE(sameBits(y[3], 3.0));
-    EXPECT_TRUE(sameBits(y.oobValue, 8.0));
+    EXPECT_SAME_BITS(y[3], 3.0);
+    EXPECT_SAME_BITS(y.oobValue, 8.0);
 }
 
 TEST(Vectors, OfTextsKeepTheLastTextInTheSpareSlot)

@@ -102,8 +102,8 @@ TYPED_TEST(ChunkedDiagonalScaling, IsThatOfTheDenseTable)
         const auto expect = [&](const matrix3D<TypeParam>& actual, const matrix<double>& expected) {
             for (int j = 0; j < s.p; ++j) {
                 for (int i = 0; i < s.n; ++i) {
-                    EXPECT_TRUE(sameBits(actual.chunks[static_cast<std::size_t>(j)].data[i],
-                                         expected.getElement(i, j)));
+                    EXPECT_SAME_BITS(actual.chunks[static_cast<std::size_t>(j)].data[i],
+                                     expected.getElement(i, j));
                 }
             }
         };
@@ -128,13 +128,13 @@ TEST(DiagonalScaling, AMissingFactorMakesItsRowOrColumnMissing)
     auto factors = vectorOf<double>({2.0, MISSING_DBL});
     matrix<double> c(2, 2, 0.0);
     M_ProductADiagV(&a, 2, 2, &factors, &c);
-    EXPECT_TRUE(sameBits(c.getElement(1, 0), 6.0));
-    EXPECT_TRUE(sameBits(c.getElement(0, 1), MISSING_DBL));
-    EXPECT_TRUE(sameBits(c.getElement(1, 1), MISSING_DBL));
+    EXPECT_SAME_BITS(c.getElement(1, 0), 6.0);
+    EXPECT_SAME_BITS(c.getElement(0, 1), MISSING_DBL);
+    EXPECT_SAME_BITS(c.getElement(1, 1), MISSING_DBL);
     M_ProductDiagVA(&factors, 2, &a, 2, &c);
-    EXPECT_TRUE(sameBits(c.getElement(0, 1), 6.0));
-    EXPECT_TRUE(sameBits(c.getElement(1, 0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(c.getElement(1, 1), MISSING_DBL));
+    EXPECT_SAME_BITS(c.getElement(0, 1), 6.0);
+    EXPECT_SAME_BITS(c.getElement(1, 0), MISSING_DBL);
+    EXPECT_SAME_BITS(c.getElement(1, 1), MISSING_DBL);
 }
 
 TEST(DiagonalScaling, ALargerResultKeepsItsShapeAndOnlyItsFirstElementsBecomeZero)
@@ -144,14 +144,14 @@ TEST(DiagonalScaling, ALargerResultKeepsItsShapeAndOnlyItsFirstElementsBecomeZer
     matrix<double> c(3, 2, 9.0);
     M_ProductADiag(&a, 2, 2, &d, &c);
     EXPECT_EQ(c.nbrows, 3);
-    EXPECT_TRUE(sameBits(c.getElement(1, 1), 6.0));
-    EXPECT_TRUE(sameBits(c.getElement(2, 0), 0.0));
-    EXPECT_TRUE(sameBits(c.getElement(2, 1), 9.0));
+    EXPECT_SAME_BITS(c.getElement(1, 1), 6.0);
+    EXPECT_SAME_BITS(c.getElement(2, 0), 0.0);
+    EXPECT_SAME_BITS(c.getElement(2, 1), 9.0);
     matrix<double> transposed(3, 2, 9.0);
     M_ProductTrADiag(&a, 2, 2, &d, &transposed);
     EXPECT_EQ(transposed.nbrows, 3);
-    EXPECT_TRUE(sameBits(transposed.getElement(2, 0), 0.0));
-    EXPECT_TRUE(sameBits(transposed.getElement(2, 1), 9.0));
+    EXPECT_SAME_BITS(transposed.getElement(2, 0), 0.0);
+    EXPECT_SAME_BITS(transposed.getElement(2, 1), 9.0);
 }
 
 TEST(DiagonalScaling, ByVectorsTakesTheResultAsItIs)
@@ -173,7 +173,7 @@ TYPED_TEST(ChunkedDiagonalScaling, TakesTheChunksOfTheResultAsTheyAre)
         c.chunks.emplace_back(3, 1, 9.0);
         c.chunks.emplace_back(1, 1, 9.0);
         call(&c);
-        EXPECT_TRUE(sameBits(c.chunks[0].data[2], 9.0));
+        EXPECT_SAME_BITS(c.chunks[0].data[2], 9.0);
         EXPECT_NE(c.chunks[0].data[1], 9.0);
         EXPECT_EQ(c.chunks[1].nbrows, 1);
     };

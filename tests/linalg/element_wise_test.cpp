@@ -80,10 +80,10 @@ TEST(ElementWise, IntegersPlusANumberLoseTheFraction)
     a.data[3] = 2147483647;
     matrix<double> exact(2, 2, 0.0);
     M_APlusVal(&a, 2, 2, 1.75, &exact);
-    EXPECT_TRUE(sameBits(exact.data[0], 2.75));
-    EXPECT_TRUE(sameBits(exact.data[1], -2.25));
-    EXPECT_TRUE(sameBits(exact.data[2], -2147483646.25));
-    EXPECT_TRUE(sameBits(exact.data[3], 2147483648.75));
+    EXPECT_SAME_BITS(exact.data[0], 2.75);
+    EXPECT_SAME_BITS(exact.data[1], -2.25);
+    EXPECT_SAME_BITS(exact.data[2], -2147483646.25);
+    EXPECT_SAME_BITS(exact.data[3], 2147483648.75);
 
     matrix<int> whole(2, 2);
     M_APlusVal(&a, 2, 2, 1.75, &whole);
@@ -108,7 +108,7 @@ TEST(ElementWise, AMissingCellPlusANumberIsNoLongerMissing)
 {
     matrix<double> a(1, 1, MISSING_DBL);
     M_APlusVal2(&a, 1, 1, 1e300);
-    EXPECT_TRUE(sameBits(a.data[0], MISSING_DBL + 1e300));
+    EXPECT_SAME_BITS(a.data[0], MISSING_DBL + 1e300);
     EXPECT_NE(a.data[0], MISSING_DBL);
 }
 
@@ -151,8 +151,8 @@ TEST(ElementWise, TimesANumberInPlaceWithoutMissingCells)
     matrix<double> a(2, 1, MISSING_DBL);
     a.data[1] = 3.0;
     multiplyByValue(a, 2, 1, 0.5);
-    EXPECT_TRUE(sameBits(a.data[0], MISSING_DBL * 0.5));
-    EXPECT_TRUE(sameBits(a.data[1], 1.5));
+    EXPECT_SAME_BITS(a.data[0], MISSING_DBL * 0.5);
+    EXPECT_SAME_BITS(a.data[1], 1.5);
 }
 
 TEST(ElementWise, ALargerResultKeepsItsShapeAndOnlyItsFirstElementsBecomeZero)
@@ -166,8 +166,8 @@ TEST(ElementWise, ALargerResultKeepsItsShapeAndOnlyItsFirstElementsBecomeZero)
         return expected;
     }()));
     M_ScalarsTrA(&a, 2, 2, 4.0, &c);
-    EXPECT_TRUE(sameBits(c.getElement(2, 0), 0.0)) << "the third element, below the block";
-    EXPECT_TRUE(sameBits(c.getElement(2, 1), 9.0));
+    EXPECT_SAME_BITS(c.getElement(2, 0), 0.0) << "the third element, below the block";
+    EXPECT_SAME_BITS(c.getElement(2, 1), 9.0);
 }
 
 TEST(ElementWise, ASparseTableStaysWhenACountIsBelowNone)
@@ -190,9 +190,9 @@ TEST(ElementWise, SparseTablesTimesANumber)
     matrixSparse c(2, 3, 0.0, false);
     c.setElement(0, 1, 7.0);
     M_ScalarsA(&a, 2, 3, 1e-9, &c);
-    EXPECT_TRUE(sameBits(c.getElement(0, 0), 1e-9));
-    EXPECT_TRUE(sameBits(c.getElement(0, 2), MISSING_DBL));
-    EXPECT_TRUE(sameBits(c.getElement(1, 1), 1e-9 * 2.0));
+    EXPECT_SAME_BITS(c.getElement(0, 0), 1e-9);
+    EXPECT_SAME_BITS(c.getElement(0, 2), MISSING_DBL);
+    EXPECT_SAME_BITS(c.getElement(1, 1), 1e-9 * 2.0);
     EXPECT_EQ(c.nnz, 3) << "zeros take entries out, and so does a product that is too small";
     EXPECT_EQ(c.colIndex, (std::vector<int>{2, 0, 1})) << "new entries go to the front of their row";
 
@@ -200,8 +200,8 @@ TEST(ElementWise, SparseTablesTimesANumber)
     EXPECT_EQ(a.nbrows, 2);
     EXPECT_EQ(a.nbcols, 2);
     EXPECT_EQ(a.nnz, 2);
-    EXPECT_TRUE(sameBits(a.getElement(0, 0), 3.0));
-    EXPECT_TRUE(sameBits(a.getElement(1, 1), 6.0));
+    EXPECT_SAME_BITS(a.getElement(0, 0), 3.0);
+    EXPECT_SAME_BITS(a.getElement(1, 1), 6.0);
 }
 
 TEST(ElementWise, OtherResultsAreTakenAsTheyAre)

@@ -143,7 +143,7 @@ inline void expectTwins(const product_member& member, counts sizes, operands& ta
     ASSERT_TRUE(sameTables(actual, expected))
         << sizes.n << ", " << sizes.p << ", " << sizes.q << ", " << sizes.r;
     if (!member.inTeam) {
-        ASSERT_TRUE(sameBits(actual.oobValue, expected.oobValue))
+        ASSERT_SAME_BITS(actual.oobValue, expected.oobValue)
             << "spare slot of " << sizes.n << ", " << sizes.p << ", " << sizes.q << ", " << sizes.r;
     }
 }

@@ -125,11 +125,11 @@ TEST(IntegerProducts, WithThemselvesWrapEachProductAndSumInDoublePrecision)
     matrix<int> A = integersOf(3, 1, {largestInt, largestInt, 1 << 16});
     matrix<double> sums;
     M_ProductTrAA(&A, 3, 1, &sums);
-    EXPECT_TRUE(sameBits(sums.data[0], 2.0)) << "each square of the largest wraps to 1, of 2^16 to 0";
+    EXPECT_SAME_BITS(sums.data[0], 2.0) << "each square of the largest wraps to 1, of 2^16 to 0";
     matrix<int> big = integersOf(2, 1, {46340, 46340});
     matrix<double> beyond;
     M_ProductTrAA(&big, 2, 1, &beyond);
-    EXPECT_TRUE(sameBits(beyond.data[0], 2.0 * 46340.0 * 46340.0)) << "the sum does not wrap";
+    EXPECT_SAME_BITS(beyond.data[0], 2.0 * 46340.0 * 46340.0) << "the sum does not wrap";
     matrix<int> cut;
     M_ProductTrAA(&big, 2, 1, &cut);
     EXPECT_TRUE(sameIntegers(cut, integersOf(1, 1, {smallestInt}))) << "what no integer holds";

@@ -69,10 +69,10 @@ TEST(MissingProducts, OneMissingCellBlanksARowOrAColumn)
     matrix<double> one = tableOf({{1.0}});
     matrix<double> E;
     M_ProductABMissing(&below, 1, 1, &one, 1, &E);
-    EXPECT_TRUE(sameBits(E.data[0], belowSentinel)) << "only the sentinel itself is missing";
+    EXPECT_SAME_BITS(E.data[0], belowSentinel) << "only the sentinel itself is missing";
     matrix<double> F(1, 1, 9.0);
     M_ProductABMissing(&A, 1, 0, &B, 1, &F);
-    EXPECT_TRUE(sameBits(F.data[0], 0.0));
+    EXPECT_SAME_BITS(F.data[0], 0.0);
 }
 
 TEST(MissingProducts, ClearTheColumnsOfAResultInChunks)

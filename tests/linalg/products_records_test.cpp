@@ -103,14 +103,14 @@ TEST(RecordProducts, ReachNoColumnThatIsNotThere)
     cST_MVect<double> C(1, 1);
     M_ProductATrB_ST(A, 2, 2, A, 2, C);
     // The second column of A reads -1, and of C there is one element.
-    EXPECT_TRUE(sameBits(C.Vectors[0].Vect.data[0], 10.0));
-    EXPECT_TRUE(sameBits(C.Vectors[0].Vect.oobValue, 16.0));
+    EXPECT_SAME_BITS(C.Vectors[0].Vect.data[0], 10.0);
+    EXPECT_SAME_BITS(C.Vectors[0].Vect.oobValue, 16.0);
     EXPECT_EQ(C.nbcols, 2);
     EXPECT_EQ(C.nbrowsmax, 2);
     cST_MVect<double> D(2, 1);
     M_ProductABTrA_ST(A, 2, 1, C, 0, D);
-    EXPECT_TRUE(sameBits(D.Vectors[0].Vect.data[0], 90.0));
-    EXPECT_TRUE(sameBits(D.Vectors[0].Vect.data[1], 150.0));
+    EXPECT_SAME_BITS(D.Vectors[0].Vect.data[0], 90.0);
+    EXPECT_SAME_BITS(D.Vectors[0].Vect.data[1], 150.0);
 }
 
 TEST(RecordProducts, TakeCountsBelowNone)

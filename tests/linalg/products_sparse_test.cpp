@@ -200,7 +200,7 @@ TEST(SparseProducts, WithVectorsSumEntriesAsTheyAreStored)
         EXPECT_EQ(M_ProductBV(&B, n, p, &v, &y), 0);
         ASSERT_TRUE(sameTables(y, product(B, v)));
         if (n > 0) {
-            ASSERT_TRUE(sameBits(y.oobValue, y.data[n - 1]));
+            ASSERT_SAME_BITS(y.oobValue, y.data[n - 1]);
         }
         matrix<double> down(p, 1, 9.0);
         M_ProductTrBV(&B, n, p, &u, &down);
@@ -217,7 +217,7 @@ TEST(SparseProducts, WithVectorsSumEntriesAsTheyAreStored)
         for (int i = 0; i < n; ++i) {
             form += u.data[i] * byTable.data[i];
         }
-        ASSERT_TRUE(sameBits(M_ProductTrVBV(&u, n, &square), form));
+        ASSERT_SAME_BITS(M_ProductTrVBV(&u, n, &square), form);
     });
 }
 
@@ -288,9 +288,9 @@ TEST(SparseProducts, ReachNothingOutside)
     matrix<double> v = vectorOf<double>({2.0});
     matrix<double> y(1, 1, 0.0);
     M_ProductBV(&B, 1, 1, &v, &y);
-    EXPECT_TRUE(sameBits(y.data[0], -9.0)) << "elements outside read -1";
+    EXPECT_SAME_BITS(y.data[0], -9.0) << "elements outside read -1";
     matrix<double> none;
-    EXPECT_TRUE(sameBits(M_ProductTrVBV(&none, -1, &B), 0.0));
+    EXPECT_SAME_BITS(M_ProductTrVBV(&none, -1, &B), 0.0);
     matrix<double> threes(3, 1, 3.0);
     matrixSparse one = tableOfRows(1, {{{0, 2.0}}});
     M_ProductBV(&one, 3, 1, &threes, &threes);

@@ -52,8 +52,8 @@ TEST(SymmetricProducts, TermsRunFromLeftToRight)
     for (const auto member : {M_ProductADTrA, M_ProductTrADA, M_ProductADiagVTrA, M_ProductTrADiagVA}) {
         matrix<double> C(1, 1, 9.0);
         member(&small, 1, 1, &big, &C);
-        EXPECT_TRUE(sameBits(C.data[0], 1e-200 * 1e200 * 1e-200));
+        EXPECT_SAME_BITS(C.data[0], 1e-200 * 1e200 * 1e-200);
         member(&big, 1, 1, &big, &C);
-        EXPECT_TRUE(sameBits(C.data[0], infinite));
+        EXPECT_SAME_BITS(C.data[0], infinite);
     }
 }

@@ -93,9 +93,9 @@ TEST(TableVectorProducts, QuadraticFormGoesByWayOfTableTimesVector)
     matrix<double> B = tableOf({{2, 1}, {0, 3}});
     matrix<double> v = vectorOf<double>({1, -1});
     matrix<double> w = vectorOf<double>({4, 5});
-    EXPECT_TRUE(sameBits(M_ProductTrVBV(&v, 2, &B), 4.0));
-    EXPECT_TRUE(sameBits(M_ProductTrVBV(std::as_const(v), 2, std::as_const(B)), 4.0));
-    EXPECT_TRUE(sameBits(M_ProductTrV1BV2(&w, 2, &B, &v), -11.0));
+    EXPECT_SAME_BITS(M_ProductTrVBV(&v, 2, &B), 4.0);
+    EXPECT_SAME_BITS(M_ProductTrVBV(std::as_const(v), 2, std::as_const(B)), 4.0);
+    EXPECT_SAME_BITS(M_ProductTrV1BV2(&w, 2, &B, &v), -11.0);
 }
 
 TEST(TableVectorProducts, FormsSumTheTableTimesTheLastVectorFirst)
@@ -114,8 +114,8 @@ TEST(TableVectorProducts, FormsSumTheTableTimesTheLastVectorFirst)
             }
             return sum;
         };
-        EXPECT_TRUE(sameBits(M_ProductTrV1BV2(&x1, n, &B, &x2), form(x1, x2)));
-        EXPECT_TRUE(sameBits(M_ProductTrVBV(&x1, n, &B), form(x1, x1)));
-        EXPECT_TRUE(sameBits(M_ProductTrVBV(std::as_const(x2), n, std::as_const(B)), form(x2, x2)));
+        EXPECT_SAME_BITS(M_ProductTrV1BV2(&x1, n, &B, &x2), form(x1, x2));
+        EXPECT_SAME_BITS(M_ProductTrVBV(&x1, n, &B), form(x1, x1));
+        EXPECT_SAME_BITS(M_ProductTrVBV(std::as_const(x2), n, std::as_const(B)), form(x2, x2));
     }
 }

@@ -114,7 +114,7 @@ TEST(Products, MultiplyFirstAndThenAdd)
     matrix<double> B = tableOf({{1.0}, {x}});
     matrix<double> C;
     M_ProductAB(A, 1, 2, B, 1, C);
-    EXPECT_TRUE(sameBits(C.data[0], 0.0));
+    EXPECT_SAME_BITS(C.data[0], 0.0);
 }
 
 TEST(Products, ClearWhatIsLargeEnoughInStorageOrder)
@@ -154,9 +154,9 @@ TEST(Products, OfNothingAreClearedResults)
     matrix<double> fresh;
     M_ProductATrA(&none, 2, -1, &fresh);
     EXPECT_TRUE(sameTables(fresh, matrix<double>(2, 2, 0.0)));
-    EXPECT_TRUE(sameBits(M_ProductTrVBV(&none, 0, &none), 0.0));
-    EXPECT_TRUE(sameBits(M_ProductTrVBV(&none, -2, &none), 0.0));
-    EXPECT_TRUE(sameBits(M_ProductTrV1BV2(&none, 0, &none, &none), 0.0));
+    EXPECT_SAME_BITS(M_ProductTrVBV(&none, 0, &none), 0.0);
+    EXPECT_SAME_BITS(M_ProductTrVBV(&none, -2, &none), 0.0);
+    EXPECT_SAME_BITS(M_ProductTrV1BV2(&none, 0, &none, &none), 0.0);
 }
 
 TEST(Products, LeaveABorrowedResultThatIsTooSmall)
@@ -167,7 +167,7 @@ TEST(Products, LeaveABorrowedResultThatIsTooSmall)
     M_ProductATrB(&A, 2, 2, &A, 2, &C);
     EXPECT_EQ(C.nbrows, 1);
     EXPECT_EQ(block, (std::vector<double>{5, 11}));
-    EXPECT_TRUE(sameBits(C.oobValue, 25.0));
+    EXPECT_SAME_BITS(C.oobValue, 25.0);
 }
 
 TEST(Products, IntoChunksTakeThemAsTheyAre)
@@ -178,7 +178,7 @@ TEST(Products, IntoChunksTakeThemAsTheyAre)
     C.chunks.emplace_back(3, 1, 9.0);
     M_ProductATrBSPV(&A, 2, 2, &A, 2, &C);
     EXPECT_TRUE(sameTables(C.chunks[0], vectorOf<double>({5})));
-    EXPECT_TRUE(sameBits(C.chunks[0].oobValue, 11.0));
+    EXPECT_SAME_BITS(C.chunks[0].oobValue, 11.0);
     EXPECT_TRUE(sameTables(C.chunks[1], vectorOf<double>({11, 25, 9})));
     matrix<double> one(1, 1, 9.0);
     matrix<double> three(3, 1, 9.0);

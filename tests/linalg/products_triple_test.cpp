@@ -103,13 +103,13 @@ TEST(TripleProducts, SumTheFirstTwoFirst)
     matrix<double> small = tableOf({{1e-200}});
     matrix<double> D(1, 1, 0.0);
     M_ProductABC(&big, 1, 1, &big, 1, &small, 1, &D);
-    EXPECT_TRUE(sameBits(D.data[0], infinite));
+    EXPECT_SAME_BITS(D.data[0], infinite);
     M_ProductTrABC(&big, 1, 1, &big, 1, &small, 1, &D);
-    EXPECT_TRUE(sameBits(D.data[0], infinite));
+    EXPECT_SAME_BITS(D.data[0], infinite);
     M_ProductATrBC(&big, 1, 1, &big, 1, &small, 1, &D);
-    EXPECT_TRUE(sameBits(D.data[0], infinite));
+    EXPECT_SAME_BITS(D.data[0], infinite);
     M_ProductTrABV(&big, 1, 1, &big, 1, &small, &D);
-    EXPECT_TRUE(sameBits(D.data[0], infinite));
+    EXPECT_SAME_BITS(D.data[0], infinite);
 }
 
 TEST(TripleProducts, KeepTheirResultsShape)

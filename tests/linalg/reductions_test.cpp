@@ -21,14 +21,14 @@ TEST(Reductions, TracesOfSquareTables)
             trace += a.getElement(i, i);
             traceSq += a.getElement(i, i) * a.getElement(i, i);
         }
-        EXPECT_TRUE(sameBits(M_Trace(&a, n), trace));
-        EXPECT_TRUE(sameBits(M_TraceSq(&a, n), traceSq));
-        EXPECT_TRUE(sameBits(M_TraceProductAA(&a, n), reference::sumRows(n, n, [&](int i, int j) {
-                                 return a.getElement(i, j) * a.getElement(i, j);
-                             })));
-        EXPECT_TRUE(sameBits(M_TraceProductAB(&a, n, &b), reference::sumRows(n, n, [&](int i, int j) {
-                                 return a.getElement(i, j) * b.getElement(i, j);
-                             })));
+        EXPECT_SAME_BITS(M_Trace(&a, n), trace);
+        EXPECT_SAME_BITS(M_TraceSq(&a, n), traceSq);
+        EXPECT_SAME_BITS(M_TraceProductAA(&a, n), reference::sumRows(n, n, [&](int i, int j) {
+                             return a.getElement(i, j) * a.getElement(i, j);
+                         }));
+        EXPECT_SAME_BITS(M_TraceProductAB(&a, n, &b), reference::sumRows(n, n, [&](int i, int j) {
+                             return a.getElement(i, j) * b.getElement(i, j);
+                         }));
     });
 }
 
@@ -36,9 +36,9 @@ TEST(Reductions, SparseTrace)
 {
     auto dense = tableOf({{1.0, 5.0}, {7.0, 2.5}});
     matrixSparse a(&dense);
-    EXPECT_TRUE(sameBits(M_Trace(&a, 2), 3.5));
-    EXPECT_TRUE(sameBits(M_Trace(&a, 0), 0.0));
-    EXPECT_TRUE(sameBits(M_Trace(&a, 4), 2.5)) << "row 2 is past the end and reads 0, row 3 reads -1";
+    EXPECT_SAME_BITS(M_Trace(&a, 2), 3.5);
+    EXPECT_SAME_BITS(M_Trace(&a, 0), 0.0);
+    EXPECT_SAME_BITS(M_Trace(&a, 4), 2.5) << "row 2 is past the end and reads 0, row 3 reads -1";
 }
 
 TEST(Reductions, FrobeniusNormIsATraceWithoutARoot)
@@ -54,10 +54,10 @@ TEST(Reductions, FrobeniusNormIsATraceWithoutARoot)
             }
             trace += product;
         }
-        EXPECT_TRUE(sameBits(M_FrobeniusNorm(&a, s.n, s.p, &b), trace));
+        EXPECT_SAME_BITS(M_FrobeniusNorm(&a, s.n, s.p, &b), trace);
     });
     matrix<double> three(1, 1, 3.0);
-    EXPECT_TRUE(sameBits(M_FrobeniusNorm(&three, 1, 1, &three), 9.0));
+    EXPECT_SAME_BITS(M_FrobeniusNorm(&three, 1, 1, &three), 9.0);
 }
 
 TEST(Reductions, RowSumNorms)
@@ -66,17 +66,17 @@ TEST(Reductions, RowSumNorms)
         auto a = randomTable(cells, s.n - s.rowsShort, s.p);
         const double expected =
             reference::rowSumNorm(s.n, s.p, [&](int i, int j) { return a.getElement(i, j); });
-        EXPECT_TRUE(sameBits(M_RowSumNorm(&a, s.n, s.p), expected));
+        EXPECT_SAME_BITS(M_RowSumNorm(&a, s.n, s.p), expected);
 
         auto chunks = chunksOf<matrix<double>>(a);
         std::vector<matrix<double>*> list;
         for (auto& chunk : chunks.chunks) {
             list.push_back(&chunk);
         }
-        EXPECT_TRUE(sameBits(M_RowSumNormSPV(list.data(), s.n, s.p),
-                             reference::rowSumNorm(s.n, s.p, [&](int i, int j) {
-                                 return std::as_const(*list[static_cast<std::size_t>(j)])[i];
-                             })));
+        EXPECT_SAME_BITS(M_RowSumNormSPV(list.data(), s.n, s.p),
+                         reference::rowSumNorm(s.n, s.p, [&](int i, int j) {
+                             return std::as_const(*list[static_cast<std::size_t>(j)])[i];
+                         }));
     });
 }
 
@@ -90,7 +90,7 @@ TEST(Reductions, RowSumNormOfATriangle)
         const auto cell = [&](int i, int j) {
             return i >= j ? triangle.getElement(j, i - j) : triangle.getElement(i, j - i);
         };
-        EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, s.n, s.n), reference::rowSumNorm(s.n, s.n, cell)));
+        EXPECT_SAME_BITS(M_RowSumNormSPV_T(&triangle, s.n, s.n), reference::rowSumNorm(s.n, s.n, cell));
     });
 }
 
@@ -100,26 +100,26 @@ TEST(Reductions, RowSumNormOfABlockOfATriangle)
     matrix3D<matrix<double>> triangle;
     triangle.chunks.push_back(vectorOf<double>({1, 2, 4}));
     triangle.chunks.push_back(vectorOf<double>({8, 16}));
-    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 3, 2), 20.0));
-    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 2, 3), 26.0));
-    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 2, 2), 10.0));
+    EXPECT_SAME_BITS(M_RowSumNormSPV_T(&triangle, 3, 2), 20.0);
+    EXPECT_SAME_BITS(M_RowSumNormSPV_T(&triangle, 2, 3), 26.0);
+    EXPECT_SAME_BITS(M_RowSumNormSPV_T(&triangle, 2, 2), 10.0);
     std::vector<double> block{1, 2, 100};
     matrix3D<matrix<double>> shortColumn;
     shortColumn.chunks.emplace_back(2, 1, block.data(), true);
     shortColumn.chunks.push_back(vectorOf<double>({8, 16}));
-    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&shortColumn, 2, 3), 26.0)) << "column 0 has no third element";
-    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&shortColumn, 1, 3), 4.0)) << "its spare slot reads -1";
+    EXPECT_SAME_BITS(M_RowSumNormSPV_T(&shortColumn, 2, 3), 26.0) << "column 0 has no third element";
+    EXPECT_SAME_BITS(M_RowSumNormSPV_T(&shortColumn, 1, 3), 4.0) << "its spare slot reads -1";
     triangle.chunks[1].data[1] = MISSING_DBL;
-    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 2, 3), 10.0));
+    EXPECT_SAME_BITS(M_RowSumNormSPV_T(&triangle, 2, 3), 10.0);
     triangle.chunks[0].oobValue = -50.0;
-    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 4, 2), 51.0)) << "row 3 lies past the end of both";
-    EXPECT_TRUE(sameBits(M_RowSumNormSPV_T(&triangle, 0, 2), 0.0));
+    EXPECT_SAME_BITS(M_RowSumNormSPV_T(&triangle, 4, 2), 51.0) << "row 3 lies past the end of both";
+    EXPECT_SAME_BITS(M_RowSumNormSPV_T(&triangle, 0, 2), 0.0);
 }
 
 TEST(Reductions, RowSumNormLeavesOutWhatIsNotAboveTheMissingValue)
 {
     auto a = tableOf({{1.0, MISSING_DBL, -2.0}, {notANumber, -infinite, 2.5}, {belowSentinel, 0.0, 1.0}});
-    EXPECT_TRUE(sameBits(M_RowSumNorm(&a, 3, 3), 3.0));
-    EXPECT_TRUE(sameBits(M_RowSumNorm(&a, 0, 3), 0.0));
-    EXPECT_TRUE(sameBits(M_RowSumNorm(&a, 3, 0), 0.0));
+    EXPECT_SAME_BITS(M_RowSumNorm(&a, 3, 3), 3.0);
+    EXPECT_SAME_BITS(M_RowSumNorm(&a, 0, 3), 0.0);
+    EXPECT_SAME_BITS(M_RowSumNorm(&a, 3, 0), 0.0);
 }

@@ -20,7 +20,7 @@ void expectResultTakenAsItIs(Call call)
 {
     matrix<double> larger(3, 2, 9.0);
     call(&larger);
-    EXPECT_TRUE(sameBits(larger.getElement(2, 0), 9.0)) << "below the block";
+    EXPECT_SAME_BITS(larger.getElement(2, 0), 9.0) << "below the block";
     EXPECT_NE(larger.getElement(1, 1), 9.0);
     matrix<double> smaller(1, 2, 9.0);
     call(&smaller);

@@ -26,8 +26,8 @@ TEST(VectorProducts, InnerProducts)
                 total += w[i];
             }
         }
-        EXPECT_TRUE(sameBits(V_ProductTrV1V2(&x, n, &y), sum));
-        EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, n, &y, &w), total > 0.0 ? weighted / total : weighted));
+        EXPECT_SAME_BITS(V_ProductTrV1V2(&x, n, &y), sum);
+        EXPECT_SAME_BITS(V_ProductWTrV1V2(&x, n, &y, &w), total > 0.0 ? weighted / total : weighted);
     });
 }
 
@@ -36,12 +36,12 @@ TEST(VectorProducts, WeightOfAnElementThatIsLeftOutCounts)
     auto x = vectorOf<double>({2.0, MISSING_DBL, 5.0});
     auto y = vectorOf<double>({3.0, 1.0, 7.0});
     auto w = vectorOf<double>({1.0, 2.0, MISSING_DBL});
-    EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, 2, &y, &w), 6.0 / 3.0));
-    EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, 3, &y, &w), (6.0 + 35.0 * MISSING_DBL) / 3.0));
+    EXPECT_SAME_BITS(V_ProductWTrV1V2(&x, 2, &y, &w), 6.0 / 3.0);
+    EXPECT_SAME_BITS(V_ProductWTrV1V2(&x, 3, &y, &w), (6.0 + 35.0 * MISSING_DBL) / 3.0);
     matrix<double> none(3, 1, 0.0);
-    EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, 2, &y, &none), 0.0)) << "without weight the sum is not divided";
+    EXPECT_SAME_BITS(V_ProductWTrV1V2(&x, 2, &y, &none), 0.0) << "without weight the sum is not divided";
     auto cancelling = vectorOf<double>({3.0, -3.0});
-    EXPECT_TRUE(sameBits(V_ProductWTrV1V2(&x, 2, &y, &cancelling), 18.0));
+    EXPECT_SAME_BITS(V_ProductWTrV1V2(&x, 2, &y, &cancelling), 18.0);
 }
 
 TEST(VectorProducts, ElementByElement)
@@ -78,9 +78,9 @@ TEST(VectorProducts, OuterProduct)
     matrix<double> larger(3, 2, 9.0);
     V_ProductV1TrV2(&x, 2, &x, &larger);
     EXPECT_EQ(larger.nbrows, 3);
-    EXPECT_TRUE(sameBits(larger.getElement(1, 1), 4.0));
-    EXPECT_TRUE(sameBits(larger.getElement(2, 0), 0.0));
-    EXPECT_TRUE(sameBits(larger.getElement(2, 1), 9.0));
+    EXPECT_SAME_BITS(larger.getElement(1, 1), 4.0);
+    EXPECT_SAME_BITS(larger.getElement(2, 0), 0.0);
+    EXPECT_SAME_BITS(larger.getElement(2, 1), 9.0);
 }
 
 TEST(VectorProducts, ProductOfAllElements)
@@ -94,11 +94,11 @@ TEST(VectorProducts, ProductOfAllElements)
             product *= x[i];
             ofIntegers *= k[i];
         }
-        EXPECT_TRUE(sameBits(V_Product1toN(&x, n), product));
-        EXPECT_TRUE(sameBits(V_Product1toN(&k, n), ofIntegers));
+        EXPECT_SAME_BITS(V_Product1toN(&x, n), product);
+        EXPECT_SAME_BITS(V_Product1toN(&k, n), ofIntegers);
     });
     auto thirteen = vectorOf<int>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13});
-    EXPECT_TRUE(sameBits(V_Product1toN(&thirteen, 13), 6227020800.0)) << "13!, past what an int holds";
+    EXPECT_SAME_BITS(V_Product1toN(&thirteen, 13), 6227020800.0) << "13!, past what an int holds";
 }
 
 TEST(VectorProducts, ElementByElementTakeTheResultAsItIs)
@@ -107,10 +107,10 @@ TEST(VectorProducts, ElementByElementTakeTheResultAsItIs)
     matrix<double> row(1, 3, 9.0);
     V_ProductV1V2(&x, 2, &x, &row);
     EXPECT_EQ(row.nbcols, 3);
-    EXPECT_TRUE(sameBits(row.data[0], 4.0));
-    EXPECT_TRUE(sameBits(row.data[1], 9.0));
+    EXPECT_SAME_BITS(row.data[0], 4.0);
+    EXPECT_SAME_BITS(row.data[1], 9.0);
     matrix<double> one(1, 1, 8.0);
     V_ProductV1V2(&x, 2, &x, &one);
     EXPECT_EQ(one.nbrows, 1);
-    EXPECT_TRUE(sameBits(one.data[0], 4.0));
+    EXPECT_SAME_BITS(one.data[0], 4.0);
 }

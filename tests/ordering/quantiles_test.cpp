@@ -10,8 +10,8 @@ using namespace korvel::test;
 TEST(Quantile, OfAShortVectorReadsTheSpareSlot)
 {
     matrix<double> x(2, 1, 3.0);
-    EXPECT_TRUE(sameBits(V_Quantile(&x, 3, 0.0), -1.0));
-    EXPECT_TRUE(sameBits(V_Quantile(&x, 3, 0.5), 3.0));
+    EXPECT_SAME_BITS(V_Quantile(&x, 3, 0.0), -1.0);
+    EXPECT_SAME_BITS(V_Quantile(&x, 3, 0.5), 3.0);
 }
 
 TEST(Quantile, OfAColumn)
@@ -22,6 +22,6 @@ TEST(Quantile, OfAColumn)
     }
     matrix<double> w(3, 1, 1.0);
     short int flags[] = {0, 0, -1};
-    EXPECT_TRUE(sameBits(M_QuantileMW(&table, 3, 2, flags, &w, 0.5), 15.0));
-    EXPECT_TRUE(sameBits(M_QuantileMW(&table, 3, 1, flags, &w, 0.5), 0.0));
+    EXPECT_SAME_BITS(M_QuantileMW(&table, 3, 2, flags, &w, 0.5), 15.0);
+    EXPECT_SAME_BITS(M_QuantileMW(&table, 3, 1, flags, &w, 0.5), 0.0);
 }

@@ -27,7 +27,7 @@ TEST(RankedValues, SelectWhatASortWouldPutThere)
             korvel::ranked_values ranked(values);
             for (int question = 0; question < 20; ++question) {
                 const auto k = static_cast<std::int64_t>(random() % static_cast<std::uint64_t>(n));
-                ASSERT_TRUE(sameBits(ranked[k], sorted[k])) << "rank " << k << " of " << n;
+                ASSERT_SAME_BITS(ranked[k], sorted[k]) << "rank " << k << " of " << n;
             }
         }
     }
@@ -44,6 +44,6 @@ TEST(RankedValues, WithANaNAreThoseOfTheSort)
     SortQVector(&sorted, 200, 1, 200, false);
     korvel::ranked_values ranked(values);
     for (int k = 0; k < 200; ++k) {
-        ASSERT_TRUE(sameBits(ranked[k], sorted[k]));
+        ASSERT_SAME_BITS(ranked[k], sorted[k]);
     }
 }

@@ -11,8 +11,6 @@
 #include <random>
 #include <vector>
 
-using korvel::test::sameBits;
-
 namespace
 {
 
@@ -188,11 +186,11 @@ TEST(SortQ, MissingSortsFirstAscendingAndLastDescending)
     key[1] = MISSING_DBL;
     key[2] = 1.0;
     SortQ(&table, 3, 1, 1, 3, &key, nullptr, 0, false, true);
-    EXPECT_TRUE(sameBits(key[0], MISSING_DBL));
+    EXPECT_SAME_BITS(key[0], MISSING_DBL);
     EXPECT_EQ(key[1], 1.0);
     SortQ(&table, 3, 1, 1, 3, &key, nullptr, 0, true, true);
     EXPECT_EQ(key[0], 2.0);
-    EXPECT_TRUE(sameBits(key[2], MISSING_DBL));
+    EXPECT_SAME_BITS(key[2], MISSING_DBL);
 }
 
 TEST(SortQ, ARangeOutsideTheTableChangesNothing)
@@ -289,8 +287,8 @@ TEST(SortQVector, SortsItsRangeOnly)
     std::copy(start, start + 5, x.data);
     SortQVector(&x, 5, 2, 4, false);
     EXPECT_EQ(x[0], 5.0);
-    EXPECT_TRUE(sameBits(x[1], -0.0));
-    EXPECT_TRUE(sameBits(x[2], 0.0));
+    EXPECT_SAME_BITS(x[1], -0.0);
+    EXPECT_SAME_BITS(x[2], 0.0);
     EXPECT_EQ(x[3], 4.0);
     EXPECT_EQ(x[4], 1.0);
 }

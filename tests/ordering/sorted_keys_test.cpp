@@ -9,8 +9,6 @@
 #include <string>
 #include <vector>
 
-using korvel::test::sameBits;
-
 namespace
 {
 
@@ -44,7 +42,7 @@ void expectSortsLikeTheStandardLibrary(const std::vector<Key>& keys, bool descen
         ASSERT_EQ(sorted.position(k), expected[k]) << "rank " << k << " of " << keys.size();
         ASSERT_EQ(order.position(k), expected[k]) << "rank " << k << " of " << keys.size();
         if constexpr (std::same_as<Key, double>) {
-            ASSERT_TRUE(sameBits(sorted.key(k), keys[static_cast<std::size_t>(expected[k])]));
+            ASSERT_SAME_BITS(sorted.key(k), keys[static_cast<std::size_t>(expected[k])]);
         } else {
             ASSERT_EQ(sorted.key(k), keys[static_cast<std::size_t>(expected[k])]);
         }
@@ -215,7 +213,7 @@ TEST(SortedKeysWithNaN, KeepEveryKeyAndTheSameOrderOnAnyNumberOfThreads)
         const auto position = static_cast<std::size_t>(one.position(k));
         ASSERT_FALSE(seen[position]);
         seen[position] = true;
-        ASSERT_TRUE(sameBits(one.key(k), keys[position]));
+        ASSERT_SAME_BITS(one.key(k), keys[position]);
     }
 }
 

@@ -4,8 +4,6 @@
 #include <utility>
 #include <vector>
 
-using korvel::test::sameBits;
-
 namespace
 {
 
@@ -62,7 +60,7 @@ TEST(Calendar, KnownMomentsHaveTheirDate)
         SYSTEMTIME clock = known.clock;
         double date = -99.0;
         ASSERT_EQ(SystemTimeToVariantTime(&clock, &date), 1);
-        EXPECT_TRUE(sameBits(date, known.date));
+        EXPECT_SAME_BITS(date, known.date);
     }
 }
 
@@ -81,11 +79,11 @@ TEST(Calendar, EveryUnitOfTheClockHasItsFraction)
     SYSTEMTIME clock = moment(2026, 11, 21, 13, 45, 59);
     double date = 0.0;
     ASSERT_EQ(SystemTimeToVariantTime(&clock, &date), 1);
-    EXPECT_TRUE(sameBits(date, 46347.573599537034));
+    EXPECT_SAME_BITS(date, 46347.573599537034);
 
     clock = moment(1899, 12, 1, 13, 45, 59);
     ASSERT_EQ(SystemTimeToVariantTime(&clock, &date), 1);
-    EXPECT_TRUE(sameBits(date, -29.0 - 13.0 / 24.0 - 45.0 / 1440.0 - 59.0 / 86400.0));
+    EXPECT_SAME_BITS(date, -29.0 - 13.0 / 24.0 - 45.0 / 1440.0 - 59.0 / 86400.0);
 }
 
 TEST(Calendar, MillisecondsAreNotRead)
@@ -93,7 +91,7 @@ TEST(Calendar, MillisecondsAreNotRead)
     SYSTEMTIME clock = moment(2000, 12, 31, 0, 0, 0, 999);
     double date = 0.0;
     ASSERT_EQ(SystemTimeToVariantTime(&clock, &date), 1);
-    EXPECT_TRUE(sameBits(date, 36891.0));
+    EXPECT_SAME_BITS(date, 36891.0);
 }
 
 TEST(Calendar, ShortYearsBelongToTheCenturiesAround2000)
@@ -104,7 +102,7 @@ TEST(Calendar, ShortYearsBelongToTheCenturiesAround2000)
         SYSTEMTIME clock = moment(year, 1, 1);
         double date = 0.0;
         ASSERT_EQ(SystemTimeToVariantTime(&clock, &date), 1);
-        EXPECT_TRUE(sameBits(date, expected)) << year;
+        EXPECT_SAME_BITS(date, expected) << year;
     }
 }
 
@@ -123,7 +121,7 @@ TEST(Calendar, DaysThatAMonthDoesNotHaveRoll)
         SYSTEMTIME clock = each.clock;
         double date = 0.0;
         ASSERT_EQ(SystemTimeToVariantTime(&clock, &date), 1);
-        EXPECT_TRUE(sameBits(date, each.date));
+        EXPECT_SAME_BITS(date, each.date);
     }
 }
 
@@ -133,7 +131,7 @@ TEST(Calendar, ImpossibleMomentsAreRefused)
                              moment(2001, 12, 32), moment(2001, 1, 65535)}) {
         double date = -99.0;
         EXPECT_EQ(SystemTimeToVariantTime(&clock, &date), 0);
-        EXPECT_TRUE(sameBits(date, -99.0));
+        EXPECT_SAME_BITS(date, -99.0);
     }
 }
 

@@ -17,7 +17,6 @@ using korvel::test::lane_results;
 using korvel::test::laneCells;
 using korvel::test::odd_cells;
 using korvel::test::random_cells;
-using korvel::test::sameBits;
 
 namespace
 {
@@ -55,9 +54,9 @@ void compareWithPlain(lane_operations runLanes, int width)
             const double a = in.a[k + 1];
             const double b = in.b[k + 1];
             const bool clear = in.flags[k + 1] == 0;
-            ASSERT_TRUE(sameBits(out.sum[k], a + b));
-            ASSERT_TRUE(sameBits(out.scaled[k], in.factor * a - 1.0));
-            ASSERT_TRUE(sameBits(out.fromIntegers[k], in.integers[k + 1]));
+            ASSERT_SAME_BITS(out.sum[k], a + b);
+            ASSERT_SAME_BITS(out.scaled[k], in.factor * a - 1.0);
+            ASSERT_SAME_BITS(out.fromIntegers[k], in.integers[k + 1]);
             ASSERT_TRUE(identical(out.whereClear[k], clear ? a : 0.0));
             ASSERT_TRUE(identical(out.repeated[k], in.a[k / width * width + 1]));
             ASSERT_TRUE(identical(out.kept[k], a != b ? a : 0.0));

@@ -117,9 +117,9 @@ TEST_F(CombinedGenerator, UniformDrawsLieInsideZeroToOne)
 {
     // Equal states after the step give the largest output, 2147483562.
     setStates(0, 0, 2147483399);
-    EXPECT_TRUE(sameBits(Random01(), 2147483562.0 / 2147483647.0));
+    EXPECT_SAME_BITS(Random01(), 2147483562.0 / 2147483647.0);
     seedWith(12345);
-    EXPECT_TRUE(sameBits(Random01(), 443758902 * 4.656612875245797e-10));
+    EXPECT_SAME_BITS(Random01(), 443758902 * 4.656612875245797e-10);
     for (int k = 0; k < 100000; ++k) {
         const double u = Random01();
         ASSERT_GT(u, 0.0);
@@ -159,7 +159,7 @@ TEST_F(CombinedGenerator, UniformBlocksHoldWhatSingleDrawsGive)
         draw01Block(processSource, block.data(), 1);
         draw01Block(processSource, block.data() + 1, 2999);
         for (std::size_t k = 0; k < single.size(); ++k) {
-            ASSERT_TRUE(sameBits(block[k], single[k])) << "algorithm " << algorithm << ", draw " << k;
+            ASSERT_SAME_BITS(block[k], single[k]) << "algorithm " << algorithm << ", draw " << k;
         }
     }
 }

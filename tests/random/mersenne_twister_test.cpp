@@ -126,7 +126,7 @@ TEST_F(MersenneTwisterSource, UniformDrawsAreSigned)
     int negative = 0;
     for (int k = 0; k < 10000; ++k) {
         const auto raw = static_cast<std::int32_t>(published());
-        ASSERT_TRUE(sameBits(Random01(), raw * 4.656612875245797e-10));
+        ASSERT_SAME_BITS(Random01(), raw * 4.656612875245797e-10);
         negative += raw < 0 ? 1 : 0;
     }
     EXPECT_GT(negative, 4800);
@@ -140,8 +140,8 @@ TEST_F(MersenneTwisterSource, UniformDrawsReachTheEndsOfTheRange)
     engine.next();
     engine.words[engine.index] = untemper(0x80000000U);
     engine.words[engine.index + 1] = untemper(0x7FFFFFFFU);
-    EXPECT_TRUE(sameBits(Random01(), -1.0000000004656613));
-    EXPECT_TRUE(sameBits(Random01(), 1.0));
+    EXPECT_SAME_BITS(Random01(), -1.0000000004656613);
+    EXPECT_SAME_BITS(Random01(), 1.0);
 }
 
 } // namespace korvel::test

@@ -293,7 +293,7 @@ TEST_F(RandomSeeds, OneDrawSeedsDrawsAndHandsBackTheNextSeed)
 {
     int seed = 12345;
     int next = 0;
-    EXPECT_TRUE(sameBits(GenerateRandom01(&seed, 1, &next), 443758902 * 4.656612875245797e-10));
+    EXPECT_SAME_BITS(GenerateRandom01(&seed, 1, &next), 443758902 * 4.656612875245797e-10);
     EXPECT_EQ(seed, 12345);
     EXPECT_EQ(next, 493972830);
 
@@ -301,7 +301,7 @@ TEST_F(RandomSeeds, OneDrawSeedsDrawsAndHandsBackTheNextSeed)
     const std::int64_t s1 = 40014LL * 493972830 % 2147483563;
     const std::int64_t s2 = 40692LL * 49397283 % 2147483399;
     const std::int64_t z = s1 - s2 < 1 ? s1 - s2 + 2147483562 : s1 - s2;
-    EXPECT_TRUE(sameBits(GenerateRandom01(&seed, 0, &next), static_cast<double>(z) * 4.656612875245797e-10));
+    EXPECT_SAME_BITS(GenerateRandom01(&seed, 0, &next), static_cast<double>(z) * 4.656612875245797e-10);
     EXPECT_EQ(seed, 493972830);
     EXPECT_EQ(next, s1);
 }

@@ -38,10 +38,10 @@ TEST_F(RandomTable, FillsRowByRow)
         M_GenerateRandom01(table, 2, 3, &seed, -1, &next);
         for (int i = 0; i < 2; ++i) {
             for (int j = 0; j < 3; ++j) {
-                EXPECT_TRUE(sameBits(table.getElement(i, j), u[static_cast<std::size_t>(3 * i + j)]));
+                EXPECT_SAME_BITS(table.getElement(i, j), u[static_cast<std::size_t>(3 * i + j)]);
             }
         }
-        EXPECT_TRUE(sameBits(table.oobValue, u[5]));
+        EXPECT_SAME_BITS(table.oobValue, u[5]);
         EXPECT_EQ(seed, 12345);
     }
 }
@@ -55,12 +55,12 @@ TEST_F(RandomTable, PutsTheSameDrawsInOtherCellsThanTheArray)
     M_GenerateRandom01(table, 2, 3, &seed, -1, &next);
     generateRandom01(array.data(), 2, 3, &seed, -1, &next);
     const auto u = draws(12345, 3);
-    EXPECT_TRUE(sameBits(table.data[0], u[0]));
-    EXPECT_TRUE(sameBits(table.data[2], u[1]));
-    EXPECT_TRUE(sameBits(table.data[4], u[2]));
-    EXPECT_TRUE(sameBits(array[0], u[0]));
-    EXPECT_TRUE(sameBits(array[1], u[1]));
-    EXPECT_TRUE(sameBits(array[2], u[2]));
+    EXPECT_SAME_BITS(table.data[0], u[0]);
+    EXPECT_SAME_BITS(table.data[2], u[1]);
+    EXPECT_SAME_BITS(table.data[4], u[2]);
+    EXPECT_SAME_BITS(array[0], u[0]);
+    EXPECT_SAME_BITS(array[1], u[1]);
+    EXPECT_SAME_BITS(array[2], u[2]);
 }
 
 TEST_F(RandomTable, HoldsOneDrawAfterAnotherInEveryShape)
@@ -82,9 +82,9 @@ TEST_F(RandomTable, HoldsOneDrawAfterAnotherInEveryShape)
         M_GenerateRandom01(table, rows, cols, &seed, -1, &next);
         for (int i = 0; i < rows; ++i) {
             for (int j = 0; j < cols; ++j) {
-                ASSERT_TRUE(sameBits(table.getElement(i, j),
-                                     u[static_cast<std::size_t>(i) * static_cast<std::size_t>(cols) +
-                                       static_cast<std::size_t>(j)]));
+                ASSERT_SAME_BITS(table.getElement(i, j),
+                                 u[static_cast<std::size_t>(i) * static_cast<std::size_t>(cols) +
+                                   static_cast<std::size_t>(j)]);
             }
         }
         for (int j = 0; j < cols; ++j) {
@@ -92,7 +92,7 @@ TEST_F(RandomTable, HoldsOneDrawAfterAnotherInEveryShape)
             ASSERT_EQ(table.getElement(rows + 1, j), 9.0);
         }
         ASSERT_EQ(table.getElement(0, cols), 9.0);
-        EXPECT_TRUE(sameBits(table.oobValue, u.back()));
+        EXPECT_SAME_BITS(table.oobValue, u.back());
         EXPECT_EQ(next, stateAfter);
     }
 }
@@ -106,10 +106,10 @@ TEST_F(RandomTable, CellsOutsideAreDrawnAndGoToTheSpareSlot)
     M_GenerateRandom01(table, 3, 4, &seed, -1, &next);
     for (int i = 0; i < 2; ++i) {
         for (int j = 0; j < 3; ++j) {
-            EXPECT_TRUE(sameBits(table.getElement(i, j), u[static_cast<std::size_t>(4 * i + j)]));
+            EXPECT_SAME_BITS(table.getElement(i, j), u[static_cast<std::size_t>(4 * i + j)]);
         }
     }
-    EXPECT_TRUE(sameBits(table.oobValue, u[11]));
+    EXPECT_SAME_BITS(table.oobValue, u[11]);
 }
 
 TEST_F(RandomTable, OfNothingSeedsAllTheSame)

@@ -61,13 +61,13 @@ TEST(ColumnDeviations, EachColumnHasItsOwnRows)
     const std::array cells{1.0, 2.0, 3.0, 6.0, 0.0, MISSING_DBL, 2.0, MISSING_DBL};
     std::copy(cells.begin(), cells.end(), s.x.data);
     s.meanStDevVar({-1, -1});
-    EXPECT_TRUE(sameBits(s.means.data[0], 3.0));
-    EXPECT_TRUE(sameBits(s.means.data[1], 1.0));
-    EXPECT_TRUE(sameBits(s.vars.data[0], 14.0 / 3.0));
-    EXPECT_TRUE(sameBits(s.vars.data[1], 2.0));
-    EXPECT_TRUE(sameBits(s.sds.data[0], std::sqrt(14.0 / 3.0)));
-    EXPECT_TRUE(sameBits(s.sds.data[1], std::sqrt(2.0)));
-    EXPECT_TRUE(sameBits(s.vars.oobValue, 2.0)) << "stored through the checked access";
+    EXPECT_SAME_BITS(s.means.data[0], 3.0);
+    EXPECT_SAME_BITS(s.means.data[1], 1.0);
+    EXPECT_SAME_BITS(s.vars.data[0], 14.0 / 3.0);
+    EXPECT_SAME_BITS(s.vars.data[1], 2.0);
+    EXPECT_SAME_BITS(s.sds.data[0], std::sqrt(14.0 / 3.0));
+    EXPECT_SAME_BITS(s.sds.data[1], std::sqrt(2.0));
+    EXPECT_SAME_BITS(s.vars.oobValue, 2.0) << "stored through the checked access";
 }
 
 TEST(ColumnDeviations, TheLastFlagChoosesTheRows)
@@ -85,24 +85,24 @@ TEST(ColumnDeviations, TheLastFlagChoosesTheRows)
         sample s = columnOf({1, 2, 3, 6});
         s.flags = {0, 0, -1, 3};
         s.meanStDev({0, 0}, expected.flag);
-        EXPECT_TRUE(sameBits(s.means.data[0], expected.mean)) << expected.flag;
-        EXPECT_TRUE(sameBits(s.sds.data[0], expected.sd)) << expected.flag;
+        EXPECT_SAME_BITS(s.means.data[0], expected.mean) << expected.flag;
+        EXPECT_SAME_BITS(s.sds.data[0], expected.sd) << expected.flag;
     }
     sample s = columnOf({1, 2, 3, 6});
     M_MeanStDev(&s.x, 4, 1, &s.means, &s.sds, nullptr, &s.w, 0, 0, -1);
-    EXPECT_TRUE(sameBits(s.means.data[0], 3.0)) << "the flags are not read";
+    EXPECT_SAME_BITS(s.means.data[0], 3.0) << "the flags are not read";
     M_MeanStDev(&s.x, 2, 1, &s.means, &s.sds, nullptr, &s.w, 0, 0, 0);
-    EXPECT_TRUE(sameBits(s.means.data[0], 1.5)) << "none is set";
+    EXPECT_SAME_BITS(s.means.data[0], 1.5) << "none is set";
 }
 
 TEST(ColumnDeviations, AWeightOfZeroIsNotCounted)
 {
     sample s = columnOf({0, 100, 2, 100}, {2, 0, 2, -0.0}); // S 4, m 2
     s.meanStDevVar({-1, 0});
-    EXPECT_TRUE(sameBits(s.means.data[0], 1.0));
-    EXPECT_TRUE(sameBits(s.vars.data[0], 4.0 / 2.0)) << "not 4/3, as the variance of a vector";
+    EXPECT_SAME_BITS(s.means.data[0], 1.0);
+    EXPECT_SAME_BITS(s.vars.data[0], 4.0 / 2.0) << "not 4/3, as the variance of a vector";
     s.meanStDev({-1, 0}, -1);
-    EXPECT_TRUE(sameBits(s.sds.data[0], std::sqrt(2.0)));
+    EXPECT_SAME_BITS(s.sds.data[0], std::sqrt(2.0));
 }
 
 TEST(ColumnDeviations, Denominators)
@@ -115,8 +115,8 @@ TEST(ColumnDeviations, Denominators)
     for (const auto& expected : cases) {
         sample s = columnOf({0, 2}, {2, 2});
         s.meanStDevVar(expected.how);
-        EXPECT_TRUE(sameBits(s.vars.data[0], expected.variance));
-        EXPECT_TRUE(sameBits(s.sds.data[0], std::sqrt(expected.variance)));
+        EXPECT_SAME_BITS(s.vars.data[0], expected.variance);
+        EXPECT_SAME_BITS(s.sds.data[0], std::sqrt(expected.variance));
     }
 }
 
@@ -135,9 +135,9 @@ TEST(ColumnDeviations, NothingKept)
         sample weightless = columnOf({1, 2}, {0, 0});
         for (sample* s : {&flagged, &missing, &weightless}) {
             s->meanStDevVar(expected.how);
-            EXPECT_TRUE(sameBits(s->means.data[0], 0.0));
-            EXPECT_TRUE(sameBits(s->vars.data[0], expected.variance));
-            EXPECT_TRUE(sameBits(s->sds.data[0], expected.deviation));
+            EXPECT_SAME_BITS(s->means.data[0], 0.0);
+            EXPECT_SAME_BITS(s->vars.data[0], expected.variance);
+            EXPECT_SAME_BITS(s->sds.data[0], expected.deviation);
         }
     }
 }
@@ -146,16 +146,16 @@ TEST(ColumnDeviations, NegativeVariancesHaveNoDeviation)
 {
     sample s = columnOf({0, 2}, {0.25, 0.25}); // sum of squares 0.5, S - 1 = -0.5
     s.meanStDevVar({-1, -1});
-    EXPECT_TRUE(sameBits(s.vars.data[0], -1.0));
-    EXPECT_TRUE(sameBits(s.sds.data[0], MISSING_DBL));
+    EXPECT_SAME_BITS(s.vars.data[0], -1.0);
+    EXPECT_SAME_BITS(s.sds.data[0], MISSING_DBL);
     sample one = columnOf({5});
     one.meanStDevVar({-1, -1});
-    EXPECT_TRUE(sameBits(one.means.data[0], 5.0));
-    EXPECT_TRUE(sameBits(one.vars.data[0], MISSING_DBL));
-    EXPECT_TRUE(sameBits(one.sds.data[0], MISSING_DBL));
+    EXPECT_SAME_BITS(one.means.data[0], 5.0);
+    EXPECT_SAME_BITS(one.vars.data[0], MISSING_DBL);
+    EXPECT_SAME_BITS(one.sds.data[0], MISSING_DBL);
     sample constant = columnOf({5, 5, 5});
     constant.meanStDevVar({-1, -1});
-    EXPECT_TRUE(sameBits(constant.sds.data[0], 0.0));
+    EXPECT_SAME_BITS(constant.sds.data[0], 0.0);
 }
 
 TEST(ColumnDeviations, OnlyTheSentinelIsMissing)
@@ -182,10 +182,10 @@ TEST(ColumnDeviations, ByRow)
     M_MeanStDevByRow(&s.x, 2, 3, toMeans, toSds, &s.w, -1, 0);
     ASSERT_EQ(means.nbrows, 2);
     ASSERT_EQ(sds.nbrows, 2);
-    EXPECT_TRUE(sameBits(means.data[0], 1.0));
-    EXPECT_TRUE(sameBits(sds.data[0], std::sqrt(2.0)));
-    EXPECT_TRUE(sameBits(means.data[1], 4.0));
-    EXPECT_TRUE(sameBits(sds.data[1], MISSING_DBL)) << "2 - 2/1";
+    EXPECT_SAME_BITS(means.data[0], 1.0);
+    EXPECT_SAME_BITS(sds.data[0], std::sqrt(2.0));
+    EXPECT_SAME_BITS(means.data[1], 4.0);
+    EXPECT_SAME_BITS(sds.data[1], MISSING_DBL) << "2 - 2/1";
 }
 
 TEST(ColumnDeviations, AllCellsAsOneSample)
@@ -200,11 +200,11 @@ TEST(ColumnDeviations, AllCellsAsOneSample)
     M_MeanStDevVarOneInMat(&x, 2, 2, &mean, &sd, &var, &w, 0, 0); // 0, 2, 2, 5, 5 has the mean 14/5
     EXPECT_DOUBLE_EQ(mean, 2.8);
     EXPECT_DOUBLE_EQ(var, (2.8 * 2.8 + 2 * 0.8 * 0.8 + 2 * 2.2 * 2.2) / 5.0);
-    EXPECT_TRUE(sameBits(sd, std::sqrt(var)));
+    EXPECT_SAME_BITS(sd, std::sqrt(var));
     M_MeanStDevVarOneInMat(&x, 0, 2, &mean, &sd, &var, &w, 0, 0);
-    EXPECT_TRUE(sameBits(mean, 0.0));
-    EXPECT_TRUE(sameBits(var, MISSING_DBL));
-    EXPECT_TRUE(sameBits(sd, MISSING_DBL));
+    EXPECT_SAME_BITS(mean, 0.0);
+    EXPECT_SAME_BITS(var, MISSING_DBL);
+    EXPECT_SAME_BITS(sd, MISSING_DBL);
 }
 
 TEST(ColumnDeviations, EqualToThePlainLoops)
@@ -225,10 +225,10 @@ TEST(ColumnDeviations, EqualToThePlainLoops)
             for (int j = 0; j < sizes.p; ++j) {
                 moments_of_column plain;
                 plain.add([&](int i) { return x.getElement(i, j); }, sizes.n, kept, &w);
-                ASSERT_TRUE(sameBits(means.data[j], plain.mean())) << j;
-                ASSERT_TRUE(sameBits(sds.data[j], plain.deviation(how))) << j;
+                ASSERT_SAME_BITS(means.data[j], plain.mean()) << j;
+                ASSERT_SAME_BITS(sds.data[j], plain.deviation(how)) << j;
                 if (withVariances) {
-                    ASSERT_TRUE(sameBits(vars.data[j], plain.variance(how))) << j;
+                    ASSERT_SAME_BITS(vars.data[j], plain.variance(how)) << j;
                 }
             }
         };
@@ -247,9 +247,9 @@ TEST(ColumnDeviations, EqualToThePlainLoops)
         double sd = 0.0;
         double var = 0.0;
         M_MeanStDevVarOneInMat(&x, sizes.n, sizes.p, &mean, &sd, &var, &w, how.unbiased, how.freq);
-        ASSERT_TRUE(sameBits(mean, whole.mean()));
-        ASSERT_TRUE(sameBits(var, whole.variance(how)));
-        ASSERT_TRUE(sameBits(sd, whole.deviation(how)));
+        ASSERT_SAME_BITS(mean, whole.mean());
+        ASSERT_SAME_BITS(var, whole.variance(how));
+        ASSERT_SAME_BITS(sd, whole.deviation(how));
 
         auto* toMeans = &means;
         auto* toSds = &sds;
@@ -257,8 +257,8 @@ TEST(ColumnDeviations, EqualToThePlainLoops)
         for (int i = 0; i < sizes.n; ++i) {
             moments_of_column plain;
             plain.add([&](int j) { return x.getElement(i, j); }, sizes.p, nullptr, &across);
-            ASSERT_TRUE(sameBits(means.data[i], plain.mean())) << i;
-            ASSERT_TRUE(sameBits(sds.data[i], plain.deviation(how))) << i;
+            ASSERT_SAME_BITS(means.data[i], plain.mean()) << i;
+            ASSERT_SAME_BITS(sds.data[i], plain.deviation(how)) << i;
         }
     });
 }
@@ -277,9 +277,9 @@ TEST(ColumnDeviations, ChunksAsTheDenseTable)
             moments_of_column plain;
             const matrix<double>& chunk = chunks[j];
             plain.add([&](int i) { return chunk[i]; }, rows, flags.data(), &w);
-            ASSERT_TRUE(sameBits(means.data[j], plain.mean()));
-            ASSERT_TRUE(sameBits(sds.data[j], plain.deviation({-1, 0})));
-            ASSERT_TRUE(sameBits(vars.data[j], plain.variance({-1, 0})));
+            ASSERT_SAME_BITS(means.data[j], plain.mean());
+            ASSERT_SAME_BITS(sds.data[j], plain.deviation({-1, 0}));
+            ASSERT_SAME_BITS(vars.data[j], plain.variance({-1, 0}));
         }
     });
 }

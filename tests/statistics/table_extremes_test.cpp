@@ -6,8 +6,6 @@
 
 #include <vector>
 
-using korvel::test::sameBits;
-
 namespace
 {
 
@@ -29,27 +27,27 @@ TEST(SmallestOfChunks, LooksAtKeptElements)
 {
     auto table = twoChunks();
     short int none[] = {0, 0, 0, 0};
-    EXPECT_TRUE(sameBits(V_Min_ST(&table, 2, 2, none), 2.0));
+    EXPECT_SAME_BITS(V_Min_ST(&table, 2, 2, none), 2.0);
     short int third[] = {0, 0, 7, 0};
-    EXPECT_TRUE(sameBits(V_Min_ST(&table, 2, 2, third), 3.0));
+    EXPECT_SAME_BITS(V_Min_ST(&table, 2, 2, third), 3.0);
 }
 
 TEST(SmallestOfChunks, TheFirstElementTakesPartWhateverItIs)
 {
     auto table = twoChunks();
     short int onlyLast[] = {-1, -1, -1, 0};
-    EXPECT_TRUE(sameBits(V_Min_ST(&table, 2, 2, onlyLast), 3.0));
+    EXPECT_SAME_BITS(V_Min_ST(&table, 2, 2, onlyLast), 3.0);
     table.setElement(0, 0, MISSING_DBL);
     short int none[] = {0, 0, 0, 0};
-    EXPECT_TRUE(sameBits(V_Min_ST(&table, 2, 2, none), MISSING_DBL));
+    EXPECT_SAME_BITS(V_Min_ST(&table, 2, 2, none), MISSING_DBL);
 }
 
 TEST(SmallestOfChunks, OfNothingIsMissing)
 {
     auto table = twoChunks();
     short int all[] = {-1, 1, 2, -1};
-    EXPECT_TRUE(sameBits(V_Min_ST(&table, 2, 2, all), MISSING_DBL));
-    EXPECT_TRUE(sameBits(V_Min_ST(&table, 0, 2, all), MISSING_DBL));
+    EXPECT_SAME_BITS(V_Min_ST(&table, 2, 2, all), MISSING_DBL);
+    EXPECT_SAME_BITS(V_Min_ST(&table, 0, 2, all), MISSING_DBL);
 }
 
 TEST(SmallestOfChunks, EqualToThePlainLoop)
@@ -63,6 +61,6 @@ TEST(SmallestOfChunks, EqualToThePlainLoop)
         }
         auto flags = cells.flags(n * chunks);
         const double expected = korvel::reference::smallestOfChunks(table.chunks, chunks, n, flags.data());
-        ASSERT_TRUE(sameBits(V_Min_ST(&table, chunks, n, flags.data()), expected));
+        ASSERT_SAME_BITS(V_Min_ST(&table, chunks, n, flags.data()), expected);
     });
 }

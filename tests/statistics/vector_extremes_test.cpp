@@ -76,14 +76,14 @@ TEST(VectorExtremes, FlaggedAndMissingElementsAreLeftOut)
 {
     auto x = vectorOf<double>({-9, 5, MISSING_DBL, 7, 2, 90, -80});
     std::vector<short int> flags{-1, 0, 0, 0, 0, 1, 7};
-    EXPECT_TRUE(sameBits(V_Min(&x, 7, flags.data()), 2.0));
-    EXPECT_TRUE(sameBits(V_Max(&x, 7, flags.data()), 7.0));
+    EXPECT_SAME_BITS(V_Min(&x, 7, flags.data()), 2.0);
+    EXPECT_SAME_BITS(V_Max(&x, 7, flags.data()), 7.0);
     EXPECT_TRUE(same(minMax(x, flags), {2.0, 7.0}));
-    EXPECT_TRUE(sameBits(V_Max(&x, 7, nullptr), 90.0));
-    EXPECT_TRUE(sameBits(V_Min2(x, 7), -80.0));
-    EXPECT_TRUE(sameBits(V_Min2(&x, 5), -9.0));
-    EXPECT_TRUE(sameBits(V_Max2(x, 5), 7.0));
-    EXPECT_TRUE(sameBits(V_Max2(&x, 7), 90.0));
+    EXPECT_SAME_BITS(V_Max(&x, 7, nullptr), 90.0);
+    EXPECT_SAME_BITS(V_Min2(x, 7), -80.0);
+    EXPECT_SAME_BITS(V_Min2(&x, 5), -9.0);
+    EXPECT_SAME_BITS(V_Max2(x, 5), 7.0);
+    EXPECT_SAME_BITS(V_Max2(&x, 7), 90.0);
 }
 
 TEST(VectorExtremes, NothingKeptIsMissing)
@@ -91,19 +91,19 @@ TEST(VectorExtremes, NothingKeptIsMissing)
     auto x = vectorOf<double>({1, MISSING_DBL});
     std::vector<short int> flags{7, 0};
     for (const int n : {2, 0, -1}) {
-        EXPECT_TRUE(sameBits(V_Min(&x, n, flags.data()), MISSING_DBL));
-        EXPECT_TRUE(sameBits(V_Max(&x, n, flags.data()), MISSING_DBL));
+        EXPECT_SAME_BITS(V_Min(&x, n, flags.data()), MISSING_DBL);
+        EXPECT_SAME_BITS(V_Max(&x, n, flags.data()), MISSING_DBL);
     }
     EXPECT_TRUE(same(minMax(x, flags), {MISSING_DBL, MISSING_DBL}));
     auto missing = vectorOf<double>({MISSING_DBL});
     matrix<int> none;
     for (const int n : {1, 0, -1}) {
-        EXPECT_TRUE(sameBits(V_Min2(missing, n), MISSING_DBL));
-        EXPECT_TRUE(sameBits(V_Max2(missing, n), MISSING_DBL));
-        EXPECT_TRUE(sameBits(V_Max(&missing, n, nullptr), MISSING_DBL));
+        EXPECT_SAME_BITS(V_Min2(missing, n), MISSING_DBL);
+        EXPECT_SAME_BITS(V_Max2(missing, n), MISSING_DBL);
+        EXPECT_SAME_BITS(V_Max(&missing, n, nullptr), MISSING_DBL);
     }
-    EXPECT_TRUE(sameBits(V_Min2(&none, 0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(V_Max(&none, 0, nullptr), MISSING_DBL));
+    EXPECT_SAME_BITS(V_Min2(&none, 0), MISSING_DBL);
+    EXPECT_SAME_BITS(V_Max(&none, 0, nullptr), MISSING_DBL);
     EXPECT_EQ(V_Max2(&none, 0), MISSING_LNG);
     EXPECT_EQ(V_Max2(&none, -1), MISSING_LNG);
 }
@@ -111,19 +111,19 @@ TEST(VectorExtremes, NothingKeptIsMissing)
 TEST(VectorExtremes, OnlyTheSentinelItselfIsMissing)
 {
     auto x = vectorOf<double>({1, belowSentinel});
-    EXPECT_TRUE(sameBits(V_Min2(x, 2), belowSentinel));
+    EXPECT_SAME_BITS(V_Min2(x, 2), belowSentinel);
     x.data[1] = -infinite;
-    EXPECT_TRUE(sameBits(V_Min2(x, 2), -infinite));
+    EXPECT_SAME_BITS(V_Min2(x, 2), -infinite);
 }
 
 TEST(VectorExtremes, ANanStaysWhenItIsFirstAndNeverWinsLater)
 {
     auto first = vectorOf<double>({MISSING_DBL, notANumber, 1, 2, 3, 4, 5, 6, 7});
-    EXPECT_TRUE(sameBits(V_Min2(first, 9), notANumber));
-    EXPECT_TRUE(sameBits(V_Max2(first, 9), notANumber));
+    EXPECT_SAME_BITS(V_Min2(first, 9), notANumber);
+    EXPECT_SAME_BITS(V_Max2(first, 9), notANumber);
     auto later = vectorOf<double>({3, notANumber, 1, notANumber, 7, notANumber, notANumber});
-    EXPECT_TRUE(sameBits(V_Min2(later, 7), 1.0));
-    EXPECT_TRUE(sameBits(V_Max2(later, 7), 7.0));
+    EXPECT_SAME_BITS(V_Min2(later, 7), 1.0);
+    EXPECT_SAME_BITS(V_Max2(later, 7), 7.0);
 }
 
 TEST(VectorExtremes, OfTwoZerosTheFirstStays)
@@ -131,10 +131,10 @@ TEST(VectorExtremes, OfTwoZerosTheFirstStays)
     for (const double zero : {0.0, -0.0}) {
         auto low = vectorOf<double>({3, -zero, 5, zero, 6, -zero, -zero, zero, 2, -zero});
         std::vector<short int> flags{0, 1, 0, 0, 0, 0, 0, 0, 0, 0};
-        EXPECT_TRUE(sameBits(V_Min(&low, 10, flags.data()), zero));
-        EXPECT_TRUE(sameBits(V_Min2(low, 10), -zero));
+        EXPECT_SAME_BITS(V_Min(&low, 10, flags.data()), zero);
+        EXPECT_SAME_BITS(V_Min2(low, 10), -zero);
         auto high = vectorOf<double>({-3, zero, -5, -zero, -6, -zero, -zero, -zero, -2});
-        EXPECT_TRUE(sameBits(V_Max2(high, 9), zero));
+        EXPECT_SAME_BITS(V_Max2(high, 9), zero);
     }
 }
 
@@ -142,17 +142,17 @@ TEST(VectorExtremes, NoIntegerIsMissing)
 {
     auto x = vectorOf<int>({3, MISSING_LNG, 8, -2});
     std::vector<short int> none(4);
-    EXPECT_TRUE(sameBits(V_Min(&x, 4, none.data()), -2147483648.0));
-    EXPECT_TRUE(sameBits(V_Min2(&x, 4), -2147483648.0));
-    EXPECT_TRUE(sameBits(V_Max(&x, 4, none.data()), 8.0));
-    EXPECT_TRUE(sameBits(V_Max(&x, 2, nullptr), 3.0));
+    EXPECT_SAME_BITS(V_Min(&x, 4, none.data()), -2147483648.0);
+    EXPECT_SAME_BITS(V_Min2(&x, 4), -2147483648.0);
+    EXPECT_SAME_BITS(V_Max(&x, 4, none.data()), 8.0);
+    EXPECT_SAME_BITS(V_Max(&x, 2, nullptr), 3.0);
     EXPECT_TRUE(same(minMax(x, none), {-2147483648.0, 8.0}));
     EXPECT_EQ(V_Max2(&x, 4), 8);
     auto low = vectorOf<int>({MISSING_LNG});
     EXPECT_EQ(V_Max2(&low, 1), MISSING_LNG);
     std::vector<short int> flags{0, 1, -1, 7};
-    EXPECT_TRUE(sameBits(V_Min(&x, 4, flags.data()), 3.0));
-    EXPECT_TRUE(sameBits(V_Max(&x, 4, flags.data()), 3.0));
+    EXPECT_SAME_BITS(V_Min(&x, 4, flags.data()), 3.0);
+    EXPECT_SAME_BITS(V_Max(&x, 4, flags.data()), 3.0);
 }
 
 TEST(VectorExtremes, MissingElementsArePassedOverOnlyInFront)
@@ -189,11 +189,11 @@ TEST(VectorExtremes, ShortVectorReadsTheSpareSlot)
 {
     auto x = vectorOf<double>({5, 7});
     auto counts = vectorOf<int>({5, 7});
-    EXPECT_TRUE(sameBits(V_Min2(x, 3), -1.0));
-    EXPECT_TRUE(sameBits(V_Min2(&counts, 3), -1.0));
+    EXPECT_SAME_BITS(V_Min2(x, 3), -1.0);
+    EXPECT_SAME_BITS(V_Min2(&counts, 3), -1.0);
     EXPECT_TRUE(same(minMax2(x, 5, 0), {-1.0, 7.0}));
     int pos = 0;
-    EXPECT_TRUE(sameBits(V_MinAndMinPos(&x, 4, &pos, false), -1.0));
+    EXPECT_SAME_BITS(V_MinAndMinPos(&x, 4, &pos, false), -1.0);
     EXPECT_EQ(pos, 3);
 }
 
@@ -207,11 +207,11 @@ TEST(VectorExtremes, PositionOfTheSmallest)
     EXPECT_EQ(smallestOf({4, notANumber, 5}, true), (found_position{4.0, 1}));
     for (const bool last : {false, true}) {
         const auto found = smallestOf({notANumber, 4, notANumber}, last);
-        EXPECT_TRUE(sameBits(found.value, notANumber));
+        EXPECT_SAME_BITS(found.value, notANumber);
         EXPECT_EQ(found.pos, 1);
     }
-    EXPECT_TRUE(sameBits(smallestOf({2, -0.0, 0.0, 3}, false).value, -0.0));
-    EXPECT_TRUE(sameBits(smallestOf({2, -0.0, 0.0, 3}, true).value, 0.0));
+    EXPECT_SAME_BITS(smallestOf({2, -0.0, 0.0, 3}, false).value, -0.0);
+    EXPECT_SAME_BITS(smallestOf({2, -0.0, 0.0, 3}, true).value, 0.0);
 }
 
 TEST(VectorExtremes, PositionOfTheLargest)
@@ -229,15 +229,15 @@ TEST(VectorExtremes, PositionsInFewerThanTwoElements)
     matrix<double> none;
     for (const int n : {1, 0, -3}) {
         int pos = -9;
-        EXPECT_TRUE(sameBits(V_MinAndMinPos(&x, n, &pos, false), 8.0));
+        EXPECT_SAME_BITS(V_MinAndMinPos(&x, n, &pos, false), 8.0);
         EXPECT_EQ(pos, 1);
         pos = -9;
-        EXPECT_TRUE(sameBits(V_MaxAndMaxPos(&x, n, &pos), 8.0));
+        EXPECT_SAME_BITS(V_MaxAndMaxPos(&x, n, &pos), 8.0);
         EXPECT_EQ(pos, 1);
         pos = -9;
-        EXPECT_TRUE(sameBits(V_MaxAndMaxPos(&counts, n, &pos), 8.0));
+        EXPECT_SAME_BITS(V_MaxAndMaxPos(&counts, n, &pos), 8.0);
         EXPECT_EQ(pos, 1);
-        EXPECT_TRUE(sameBits(V_MinAndMinPos(&none, n, &pos, true), -1.0)) << "the spare slot";
+        EXPECT_SAME_BITS(V_MinAndMinPos(&none, n, &pos, true), -1.0) << "the spare slot";
     }
 }
 
@@ -251,21 +251,21 @@ void compareAll(matrix<double>& x, matrix<int>& counts, int n, const std::vector
     for (short int* mask : {flags.data(), static_cast<short int*>(nullptr)}) {
         const extremes kept = reference::keptExtremes(x, n, mask);
         const extremes keptCounts = reference::keptExtremes(counts, n, mask);
-        ASSERT_TRUE(sameBits(V_Max(&x, n, mask), kept.largest));
-        ASSERT_TRUE(sameBits(V_Max(&counts, n, mask), keptCounts.largest));
+        ASSERT_SAME_BITS(V_Max(&x, n, mask), kept.largest);
+        ASSERT_SAME_BITS(V_Max(&counts, n, mask), keptCounts.largest);
         if (mask != nullptr) {
-            ASSERT_TRUE(sameBits(V_Min(&x, n, mask), kept.smallest));
-            ASSERT_TRUE(sameBits(V_Min(&counts, n, mask), keptCounts.smallest));
+            ASSERT_SAME_BITS(V_Min(&x, n, mask), kept.smallest);
+            ASSERT_SAME_BITS(V_Min(&counts, n, mask), keptCounts.smallest);
             ASSERT_TRUE(same(minMax(x, flags), kept));
             ASSERT_TRUE(same(minMax(counts, flags), keptCounts));
         } else {
-            ASSERT_TRUE(sameBits(V_Min2(x, n), kept.smallest));
-            ASSERT_TRUE(sameBits(V_Min2(&counts, n), keptCounts.smallest));
-            ASSERT_TRUE(sameBits(V_Max2(x, n), kept.largest));
+            ASSERT_SAME_BITS(V_Min2(x, n), kept.smallest);
+            ASSERT_SAME_BITS(V_Min2(&counts, n), keptCounts.smallest);
+            ASSERT_SAME_BITS(V_Max2(x, n), kept.largest);
         }
     }
     const auto expectPosition = [](double value, int pos, reference::extreme_position expected) {
-        EXPECT_TRUE(sameBits(value, expected.value));
+        EXPECT_SAME_BITS(value, expected.value);
         EXPECT_EQ(pos, expected.pos);
     };
     int pos = 0;

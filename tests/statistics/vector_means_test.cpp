@@ -53,9 +53,9 @@ TEST(VectorMeans, MeanWeighsAndLeavesOut)
     auto x = vectorOf<double>({1, 2, MISSING_DBL, 4, 100, 1000});
     auto w = vectorOf<double>({1, 3, 5, 4, 1, 1});
     std::vector<short int> flags{0, 0, 0, 0, 1, 7};
-    EXPECT_TRUE(sameBits(V_Mean(&x, 6, flags.data(), &w), 23.0 / 8.0));
+    EXPECT_SAME_BITS(V_Mean(&x, 6, flags.data(), &w), 23.0 / 8.0);
     flags = {-1, 0, 0, 0, 1, -1};
-    EXPECT_TRUE(sameBits(V_Mean(&x, 6, flags.data(), &w), 22.0 / 7.0));
+    EXPECT_SAME_BITS(V_Mean(&x, 6, flags.data(), &w), 22.0 / 7.0);
 }
 
 TEST(VectorMeans, AMissingWeightIsANumberToTheMeans)
@@ -63,9 +63,9 @@ TEST(VectorMeans, AMissingWeightIsANumberToTheMeans)
     auto x = vectorOf<double>({1, 2});
     auto w = vectorOf<double>({MISSING_DBL, 1});
     auto flags = noFlags(2);
-    EXPECT_TRUE(sameBits(V_Mean(&x, 2, flags.data(), &w), (MISSING_DBL + 2.0) / (MISSING_DBL + 1.0)));
-    EXPECT_TRUE(sameBits(V_MeanAbs(&x, 2, flags.data(), &w), (MISSING_DBL + 2.0) / (MISSING_DBL + 1.0)));
-    EXPECT_TRUE(sameBits(V_MeanW2(&x, 2, &w), MISSING_DBL)) << "the total weight is not above 0";
+    EXPECT_SAME_BITS(V_Mean(&x, 2, flags.data(), &w), (MISSING_DBL + 2.0) / (MISSING_DBL + 1.0));
+    EXPECT_SAME_BITS(V_MeanAbs(&x, 2, flags.data(), &w), (MISSING_DBL + 2.0) / (MISSING_DBL + 1.0));
+    EXPECT_SAME_BITS(V_MeanW2(&x, 2, &w), MISSING_DBL) << "the total weight is not above 0";
 }
 
 TEST(VectorMeans, MeanOfNothingIsMissing)
@@ -74,15 +74,15 @@ TEST(VectorMeans, MeanOfNothingIsMissing)
     auto w = vectorOf<double>({1, 1});
     std::vector<short int> flags{1, 0};
     for (const int n : {2, 0, -1}) {
-        EXPECT_TRUE(sameBits(V_Mean(&x, n, flags.data(), &w), MISSING_DBL));
-        EXPECT_TRUE(sameBits(V_MeanAbs(&x, n, flags.data(), &w), MISSING_DBL));
-        EXPECT_TRUE(sameBits(V_HarmonicMean(&x, n, flags.data(), &w), MISSING_DBL));
+        EXPECT_SAME_BITS(V_Mean(&x, n, flags.data(), &w), MISSING_DBL);
+        EXPECT_SAME_BITS(V_MeanAbs(&x, n, flags.data(), &w), MISSING_DBL);
+        EXPECT_SAME_BITS(V_HarmonicMean(&x, n, flags.data(), &w), MISSING_DBL);
     }
     auto missing = vectorOf<double>({MISSING_DBL, MISSING_DBL});
     for (const int n : {2, 0, -1}) {
-        EXPECT_TRUE(sameBits(V_Mean2(missing, n), MISSING_DBL));
-        EXPECT_TRUE(sameBits(V_Mean2(&missing, n), MISSING_DBL));
-        EXPECT_TRUE(sameBits(V_MeanW2(&missing, n, &w), MISSING_DBL));
+        EXPECT_SAME_BITS(V_Mean2(missing, n), MISSING_DBL);
+        EXPECT_SAME_BITS(V_Mean2(&missing, n), MISSING_DBL);
+        EXPECT_SAME_BITS(V_MeanW2(&missing, n, &w), MISSING_DBL);
     }
 }
 
@@ -91,15 +91,15 @@ TEST(VectorMeans, ATotalWeightOfZeroGivesMissingAndANegativeOneOnlyWhereItMustBe
     auto x = vectorOf<double>({1, 3});
     auto flags = noFlags(2);
     auto cancelling = vectorOf<double>({1, -1});
-    EXPECT_TRUE(sameBits(V_Mean(&x, 2, flags.data(), &cancelling), MISSING_DBL));
-    EXPECT_TRUE(sameBits(V_MeanAbs(&x, 2, flags.data(), &cancelling), MISSING_DBL));
-    EXPECT_TRUE(sameBits(V_MeanW2(&x, 2, &cancelling), MISSING_DBL));
+    EXPECT_SAME_BITS(V_Mean(&x, 2, flags.data(), &cancelling), MISSING_DBL);
+    EXPECT_SAME_BITS(V_MeanAbs(&x, 2, flags.data(), &cancelling), MISSING_DBL);
+    EXPECT_SAME_BITS(V_MeanW2(&x, 2, &cancelling), MISSING_DBL);
     auto negative = vectorOf<double>({1, -2});
-    EXPECT_TRUE(sameBits(V_Mean(&x, 2, flags.data(), &negative), 5.0));
-    EXPECT_TRUE(sameBits(V_MeanW2(&x, 2, &negative), MISSING_DBL));
+    EXPECT_SAME_BITS(V_Mean(&x, 2, flags.data(), &negative), 5.0);
+    EXPECT_SAME_BITS(V_MeanW2(&x, 2, &negative), MISSING_DBL);
     auto unknown = vectorOf<double>({1, notANumber});
-    EXPECT_TRUE(sameBits(V_Mean(&x, 2, flags.data(), &unknown), notANumber));
-    EXPECT_TRUE(sameBits(V_MeanW2(&x, 2, &unknown), MISSING_DBL));
+    EXPECT_SAME_BITS(V_Mean(&x, 2, flags.data(), &unknown), notANumber);
+    EXPECT_SAME_BITS(V_MeanW2(&x, 2, &unknown), MISSING_DBL);
 }
 
 TEST(VectorMeans, MeanOfAbsoluteValues)
@@ -107,19 +107,19 @@ TEST(VectorMeans, MeanOfAbsoluteValues)
     auto x = vectorOf<double>({-1, 2, -4, MISSING_DBL});
     auto w = vectorOf<double>({1, 2, 1, 1});
     auto flags = noFlags(4);
-    EXPECT_TRUE(sameBits(V_MeanAbs(&x, 4, flags.data(), &w), 9.0 / 4.0));
+    EXPECT_SAME_BITS(V_MeanAbs(&x, 4, flags.data(), &w), 9.0 / 4.0);
     x.data[0] = notANumber;
-    EXPECT_TRUE(sameBits(V_MeanAbs(&x, 4, flags.data(), &w), notANumber));
+    EXPECT_SAME_BITS(V_MeanAbs(&x, 4, flags.data(), &w), notANumber);
 }
 
 TEST(VectorMeans, MeanOfPresentElements)
 {
     auto x = vectorOf<double>({1, MISSING_DBL, 2, 4});
     auto w = vectorOf<double>({2, 7, 1, 1});
-    EXPECT_TRUE(sameBits(V_Mean2(x, 4), 7.0 / 3.0));
-    EXPECT_TRUE(sameBits(V_Mean2(&x, 2), 1.0));
-    EXPECT_TRUE(sameBits(V_MeanW2(&x, 4, &w), 2.0));
-    EXPECT_TRUE(sameBits(V_Mean2(x, 6), 5.0 / 5.0)) << "two elements read the spare slot, -1";
+    EXPECT_SAME_BITS(V_Mean2(x, 4), 7.0 / 3.0);
+    EXPECT_SAME_BITS(V_Mean2(&x, 2), 1.0);
+    EXPECT_SAME_BITS(V_MeanW2(&x, 4, &w), 2.0);
+    EXPECT_SAME_BITS(V_Mean2(x, 6), 5.0 / 5.0) << "two elements read the spare slot, -1";
 }
 
 TEST(VectorMeans, HarmonicMean)
@@ -127,9 +127,9 @@ TEST(VectorMeans, HarmonicMean)
     auto x = vectorOf<double>({1, 2, 4, MISSING_DBL, 0});
     auto w = vectorOf<double>({1, 1, 2, 9, 9});
     std::vector<short int> flags{0, 0, 0, 0, 1};
-    EXPECT_TRUE(sameBits(V_HarmonicMean(&x, 5, flags.data(), &w), 4.0 / 2.0)) << "the zero is left out";
+    EXPECT_SAME_BITS(V_HarmonicMean(&x, 5, flags.data(), &w), 4.0 / 2.0) << "the zero is left out";
     flags[4] = 0;
-    EXPECT_TRUE(sameBits(V_HarmonicMean(&x, 5, flags.data(), &w), MISSING_DBL));
+    EXPECT_SAME_BITS(V_HarmonicMean(&x, 5, flags.data(), &w), MISSING_DBL);
 }
 
 TEST(VectorMeans, HarmonicMeanStopsAtAZeroOfEitherSignAndWeight)
@@ -139,11 +139,11 @@ TEST(VectorMeans, HarmonicMeanStopsAtAZeroOfEitherSignAndWeight)
     auto noWeight = vectorOf<double>({0, 1, 1});
     for (const double zero : {0.0, -0.0}) {
         auto x = vectorOf<double>({zero, 5, 7});
-        EXPECT_TRUE(sameBits(V_HarmonicMean(&x, 3, flags.data(), &ones), MISSING_DBL));
-        EXPECT_TRUE(sameBits(V_HarmonicMean(&x, 3, flags.data(), &noWeight), MISSING_DBL));
+        EXPECT_SAME_BITS(V_HarmonicMean(&x, 3, flags.data(), &ones), MISSING_DBL);
+        EXPECT_SAME_BITS(V_HarmonicMean(&x, 3, flags.data(), &noWeight), MISSING_DBL);
     }
     auto cancelling = vectorOf<double>({-2, 2, MISSING_DBL});
-    EXPECT_TRUE(sameBits(V_HarmonicMean(&cancelling, 3, flags.data(), &ones), MISSING_DBL));
+    EXPECT_SAME_BITS(V_HarmonicMean(&cancelling, 3, flags.data(), &ones), MISSING_DBL);
 }
 
 TEST(VectorMeans, GeometricMeanAndDeviation)
@@ -169,8 +169,8 @@ TEST(VectorMeans, GeometricMeanOfWhatHasNoLogarithmIsMissing)
         const auto found =
             geometricOf(vectorOf<double>({2, bad, 8}), noFlags(3), vectorOf<double>({1, 0, 1}));
         EXPECT_EQ(found.status, 0);
-        EXPECT_TRUE(sameBits(found.mean, MISSING_DBL)) << bad;
-        EXPECT_TRUE(sameBits(found.deviation, MISSING_DBL)) << bad;
+        EXPECT_SAME_BITS(found.mean, MISSING_DBL) << bad;
+        EXPECT_SAME_BITS(found.deviation, MISSING_DBL) << bad;
     }
 }
 
@@ -180,21 +180,21 @@ TEST(VectorMeans, GeometricMeanOfNothingIsMissing)
          {geometricOf(matrix<double>(), {}, matrix<double>()),
           geometricOf(vectorOf<double>({2, MISSING_DBL}), {-1, 0}, vectorOf<double>({1, 1}))}) {
         EXPECT_EQ(found.status, 0);
-        EXPECT_TRUE(sameBits(found.mean, MISSING_DBL));
-        EXPECT_TRUE(sameBits(found.deviation, MISSING_DBL));
+        EXPECT_SAME_BITS(found.mean, MISSING_DBL);
+        EXPECT_SAME_BITS(found.deviation, MISSING_DBL);
     }
 }
 
 TEST(VectorMeans, GeometricDeviationOverADenominatorThatIsZeroOrNegative)
 {
     const auto one = geometricOf(vectorOf<double>({1}), noFlags(1), vectorOf<double>({3}));
-    EXPECT_TRUE(sameBits(one.mean, 1.0));
-    EXPECT_TRUE(sameBits(one.deviation, MISSING_DBL)) << "3 - 3/1 is 0";
+    EXPECT_SAME_BITS(one.mean, 1.0);
+    EXPECT_SAME_BITS(one.deviation, MISSING_DBL) << "3 - 3/1 is 0";
 
     // Weights 4 and -1: the second share is -1/3, so the sum of squares is negative over a denominator
     // of 1.5.
     const auto negative = geometricOf(vectorOf<double>({1, 2}), noFlags(2), vectorOf<double>({4, -1}));
-    EXPECT_TRUE(sameBits(negative.deviation, 0.0));
+    EXPECT_SAME_BITS(negative.deviation, 0.0);
 
     // An element of weight 0 counts in the mean weight: 2 - 2/3 and not 2 - 2/2.
     const auto zero = geometricOf(vectorOf<double>({2, 8, 64}), noFlags(3), vectorOf<double>({1, 1, 0}));
@@ -220,15 +220,14 @@ TEST(VectorMeans, EqualToThePlainLoops)
         auto flags = cells.flags(n);
         const auto itself = [](double value) { return value; };
         const auto absolute = [](double value) { return std::abs(value); };
-        ASSERT_TRUE(
-            sameBits(V_Mean(&x, n, flags.data(), &w), reference::meanOf(x, n, flags.data(), &w, itself)));
-        ASSERT_TRUE(sameBits(V_MeanAbs(&x, n, flags.data(), &w),
-                             reference::meanOf(x, n, flags.data(), &w, absolute)));
-        ASSERT_TRUE(sameBits(V_Mean2(x, n), reference::meanOf(x, n, nullptr, nullptr, itself)));
-        ASSERT_TRUE(sameBits(
+        ASSERT_SAME_BITS(V_Mean(&x, n, flags.data(), &w), reference::meanOf(x, n, flags.data(), &w, itself));
+        ASSERT_SAME_BITS(V_MeanAbs(&x, n, flags.data(), &w),
+                         reference::meanOf(x, n, flags.data(), &w, absolute));
+        ASSERT_SAME_BITS(V_Mean2(x, n), reference::meanOf(x, n, nullptr, nullptr, itself));
+        ASSERT_SAME_BITS(
             V_MeanW2(&x, n, &w),
-            reference::meanOf(x, n, nullptr, &w, itself, reference::no_mean_when::weight_is_not_positive)));
-        ASSERT_TRUE(sameBits(V_HarmonicMean(&x, n, flags.data(), &w),
-                             reference::harmonicMean(x, n, flags.data(), w)));
+            reference::meanOf(x, n, nullptr, &w, itself, reference::no_mean_when::weight_is_not_positive));
+        ASSERT_SAME_BITS(V_HarmonicMean(&x, n, flags.data(), &w),
+                         reference::harmonicMean(x, n, flags.data(), w));
     });
 }

@@ -50,7 +50,7 @@ eight_moments unitMomentsOf(const std::vector<double>& cells, denominator_flags 
 void expectSameBits(const eight_moments& actual, const eight_moments& expected)
 {
     for (std::size_t k = 0; k < actual.size(); ++k) {
-        EXPECT_TRUE(sameBits(actual[k], expected[k])) << momentNames[k];
+        EXPECT_SAME_BITS(actual[k], expected[k]) << momentNames[k];
     }
 }
 
@@ -66,11 +66,10 @@ TEST(VectorMoments, FourElements)
                    {4.0, 5.0, 0.0, 41.0 / 25.0 - 3.0, 0.0,
                     3.0 / (2.0 * 1.0) * ((41.0 / 25.0 - 3.0 + 3.0) * 5.0 - 3.0 * 3.0), std::sqrt(72.0 / 70.0),
                     2.0 * std::sqrt(72.0 / 70.0) * std::sqrt(15.0 / 9.0)});
-    EXPECT_TRUE(sameBits(unitMomentsOf({1, 3, 5, 7}, {-1, 0})[var], 20.0 / 3.0));
-    EXPECT_TRUE(sameBits(unitMomentsOf({1, 3, 5, 7}, {-1, -1})[var], 20.0 / 3.0));
-    EXPECT_TRUE(sameBits(unitMomentsOf({1, 3, 5, 7}, {1, -1})[var], 5.0)) << "1 is not true";
-    EXPECT_TRUE(
-        sameBits(unitMomentsOf({1, 3, 5, 7}, {-1, 0})[kurtP], 41.0 / (20.0 / 3.0 * (20.0 / 3.0)) - 3.0));
+    EXPECT_SAME_BITS(unitMomentsOf({1, 3, 5, 7}, {-1, 0})[var], 20.0 / 3.0);
+    EXPECT_SAME_BITS(unitMomentsOf({1, 3, 5, 7}, {-1, -1})[var], 20.0 / 3.0);
+    EXPECT_SAME_BITS(unitMomentsOf({1, 3, 5, 7}, {1, -1})[var], 5.0) << "1 is not true";
+    EXPECT_SAME_BITS(unitMomentsOf({1, 3, 5, 7}, {-1, 0})[kurtP], 41.0 / (20.0 / 3.0 * (20.0 / 3.0)) - 3.0);
 }
 
 TEST(VectorMoments, AConstantVectorHasNoShape)
@@ -89,10 +88,10 @@ TEST(VectorMoments, ThreeElementsHaveASkewnessAndNoKurtosis)
         EXPECT_DOUBLE_EQ(found[var], 7.0);
         EXPECT_DOUBLE_EQ(found[skewP], 6.0 / (7.0 * std::sqrt(7.0)));
         EXPECT_DOUBLE_EQ(found[kurtP], 98.0 / 3.0 / 49.0 - 3.0);
-        EXPECT_TRUE(sameBits(found[skew], found[skewP] * std::sqrt(6.0)));
-        EXPECT_TRUE(sameBits(found[seSkew], std::sqrt(36.0 / 24.0)));
-        EXPECT_TRUE(sameBits(found[kurt], none));
-        EXPECT_TRUE(sameBits(found[seKurt], none));
+        EXPECT_SAME_BITS(found[skew], found[skewP] * std::sqrt(6.0));
+        EXPECT_SAME_BITS(found[seSkew], std::sqrt(36.0 / 24.0));
+        EXPECT_SAME_BITS(found[kurt], none);
+        EXPECT_SAME_BITS(found[seKurt], none);
     }
 }
 
@@ -134,7 +133,7 @@ TEST(VectorMoments, FlaggedMissingAndWeightlessElements)
     expectSameBits(found, plain);
     // With the mean weight 5/7 as unit the two weightless elements count.
     const auto scaled = momentsOf({100, 1, 2, 4, 9, 3, 80}, {0, 1, 1, 1, 1, 1, 0}, {-1, 0});
-    EXPECT_TRUE(sameBits(scaled[var], plain[var] * 4.0 / (5.0 - 5.0 / 7.0)));
+    EXPECT_SAME_BITS(scaled[var], plain[var] * 4.0 / (5.0 - 5.0 / 7.0));
 }
 
 TEST(VectorMoments, OnlyTheSentinelItselfIsMissing)
@@ -148,11 +147,11 @@ TEST(VectorMoments, TwoHeavyElementsAsFrequencies)
     // S is 20, its unit 1 and the mean weight 10: no skewness, since S is not above twice the mean weight,
     // but a kurtosis, with a standard error made from a missing one.
     const auto found = momentsOf({1, 3}, {10, 10}, {-1, -1});
-    EXPECT_TRUE(sameBits(found[var], 20.0 / 19.0));
-    EXPECT_TRUE(sameBits(found[skew], none));
-    EXPECT_TRUE(sameBits(found[seSkew], none));
-    EXPECT_TRUE(sameBits(found[kurt], 19.0 / (18.0 * 17.0) * ((found[kurtP] + 3.0) * 21.0 - 3.0 * 19.0)));
-    EXPECT_TRUE(sameBits(found[seKurt], -infinite));
+    EXPECT_SAME_BITS(found[var], 20.0 / 19.0);
+    EXPECT_SAME_BITS(found[skew], none);
+    EXPECT_SAME_BITS(found[seSkew], none);
+    EXPECT_SAME_BITS(found[kurt], 19.0 / (18.0 * 17.0) * ((found[kurtP] + 3.0) * 21.0 - 3.0 * 19.0));
+    EXPECT_SAME_BITS(found[seKurt], -infinite);
 }
 
 TEST(VectorMoments, ANegativeVarianceHasAMissingDeviation)
@@ -161,7 +160,7 @@ TEST(VectorMoments, ANegativeVarianceHasAMissingDeviation)
     ASSERT_LT(found[var], 0.0);
     // The deviation itself becomes missing, and the formula goes on with it.
     const double m3 = (1.0 - 3.0 * (-1.0 / 3.0) + 2.0 * (-1.0 / 3.0 * (-1.0 / 3.0))) * -1.0;
-    EXPECT_TRUE(sameBits(found[skewP], m3 / 3.0 / (found[var] * MISSING_DBL)));
+    EXPECT_SAME_BITS(found[skewP], m3 / 3.0 / (found[var] * MISSING_DBL));
 }
 
 TEST(VectorMoments, ANegativeNumberUnderARootGivesAMissingRoot)
@@ -170,16 +169,15 @@ TEST(VectorMoments, ANegativeNumberUnderARootGivesAMissingRoot)
     // 0.2.
     const auto found = momentsOf({1, 2, 6}, {0.2, 0.2, 0.2}, {0, -1});
     const double s = 0.2 + 0.2 + 0.2;
-    EXPECT_TRUE(sameBits(found[skew], found[skewP] * MISSING_DBL / (s - 2.0)));
-    EXPECT_TRUE(
-        sameBits(found[seSkew], std::sqrt(6.0 * s * (s - 1.0) / ((s - 2.0) * (s + 1.0) * (s + 3.0)))));
-    EXPECT_TRUE(sameBits(found[kurt], none)) << "S is not above 2";
-    EXPECT_TRUE(sameBits(found[seKurt], none));
+    EXPECT_SAME_BITS(found[skew], found[skewP] * MISSING_DBL / (s - 2.0));
+    EXPECT_SAME_BITS(found[seSkew], std::sqrt(6.0 * s * (s - 1.0) / ((s - 2.0) * (s + 1.0) * (s + 3.0))));
+    EXPECT_SAME_BITS(found[kurt], none) << "S is not above 2";
+    EXPECT_SAME_BITS(found[seKurt], none);
 
     // S is 1.5: the numerator of the standard error is positive, its denominator negative.
     const auto between = momentsOf({1, 2, 6}, {0.5, 0.5, 0.5}, {0, -1});
-    EXPECT_TRUE(sameBits(between[skew], between[skewP] * std::sqrt(1.5 * 0.5) / -0.5));
-    EXPECT_TRUE(sameBits(between[seSkew], none));
+    EXPECT_SAME_BITS(between[skew], between[skewP] * std::sqrt(1.5 * 0.5) / -0.5);
+    EXPECT_SAME_BITS(between[seSkew], none);
 }
 
 TEST(VectorMoments, ShapeDoesNotDependOnTheUnitOfTheWeights)
@@ -199,9 +197,9 @@ TEST(VectorMoments, ShapeDoesNotDependOnTheUnitOfTheWeights)
         const auto once = momentsOf(x, w, how);
         const auto fourfold = momentsOf(x, heavier, how);
         for (const moment k : {mean, var, skewP, kurtP, skew, kurt}) {
-            EXPECT_TRUE(sameBits(fourfold[k], once[k])) << momentNames[k];
+            EXPECT_SAME_BITS(fourfold[k], once[k]) << momentNames[k];
         }
-        EXPECT_TRUE(sameBits(fourfold[seSkew], once[seSkew] / 2.0));
+        EXPECT_SAME_BITS(fourfold[seSkew], once[seSkew] / 2.0);
     }
 }
 
@@ -273,7 +271,7 @@ TEST(VectorMoments, EqualToThePlainLoops)
             const auto expected = reference::moments(x, n, flags.data(), w, how);
             const auto found = momentsOf(x, flags, w, how);
             for (std::size_t k = 0; k < found.size(); ++k) {
-                ASSERT_TRUE(sameBits(found[k], expected[k])) << momentNames[k];
+                ASSERT_SAME_BITS(found[k], expected[k]) << momentNames[k];
             }
         }
     });

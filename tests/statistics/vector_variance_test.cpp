@@ -88,31 +88,31 @@ testing::AssertionResult sameSpread(spread actual, double mean, double size)
 TEST(VectorVariance, DenominatorsForUnitWeights)
 {
     auto s = unitSample({1, 2, 3, 6}); // mean 3, sum of squares 14
-    EXPECT_TRUE(sameBits(s.variance({0, 0}), 14.0 / 4.0));
-    EXPECT_TRUE(sameBits(s.variance({1, 0}), 14.0 / 4.0)) << "1 is not true";
-    EXPECT_TRUE(sameBits(s.variance({1, -1}), 14.0 / 4.0));
-    EXPECT_TRUE(sameBits(s.variance({-1, -1}), 14.0 / 3.0));
-    EXPECT_TRUE(sameBits(s.variance({-1, 0}), 14.0 / 3.0));
+    EXPECT_SAME_BITS(s.variance({0, 0}), 14.0 / 4.0);
+    EXPECT_SAME_BITS(s.variance({1, 0}), 14.0 / 4.0) << "1 is not true";
+    EXPECT_SAME_BITS(s.variance({1, -1}), 14.0 / 4.0);
+    EXPECT_SAME_BITS(s.variance({-1, -1}), 14.0 / 3.0);
+    EXPECT_SAME_BITS(s.variance({-1, 0}), 14.0 / 3.0);
 }
 
 TEST(VectorVariance, DenominatorsForOtherWeights)
 {
     auto s = weightedSample({0, 2}, {2, 2}); // sum of squares 4, S 4, m 2
-    EXPECT_TRUE(sameBits(s.variance({0, -1}), 1.0));
-    EXPECT_TRUE(sameBits(s.variance({-1, -1}), 4.0 / 3.0));
-    EXPECT_TRUE(sameBits(s.variance({-1, 0}), 2.0));
-    EXPECT_TRUE(sameBits(s.variance({-1, 1}), 2.0));
-    EXPECT_TRUE(sameBits(s.variance({-1, 7}), 2.0));
+    EXPECT_SAME_BITS(s.variance({0, -1}), 1.0);
+    EXPECT_SAME_BITS(s.variance({-1, -1}), 4.0 / 3.0);
+    EXPECT_SAME_BITS(s.variance({-1, 0}), 2.0);
+    EXPECT_SAME_BITS(s.variance({-1, 1}), 2.0);
+    EXPECT_SAME_BITS(s.variance({-1, 7}), 2.0);
 }
 
 TEST(VectorVariance, AnElementOfWeightZeroCountsAndDoesNothingElse)
 {
     auto s = weightedSample({0, 100, 2, 100}, {2, 0, 2, 0}); // S 4, m 4
-    EXPECT_TRUE(sameBits(s.variance({-1, 0}), 4.0 / 3.0));
+    EXPECT_SAME_BITS(s.variance({-1, 0}), 4.0 / 3.0);
     EXPECT_TRUE(sameSpread(s.meanVar({-1, 0}), 1.0, 4.0 / 3.0));
     EXPECT_TRUE(sameSpread(s.meanVarW2({-1, 0}), 1.0, 4.0 / 3.0));
     auto leading = weightedSample({100, 0, 2}, {0, 2, 2});
-    EXPECT_TRUE(sameBits(leading.variance({0, 0}), 1.0));
+    EXPECT_SAME_BITS(leading.variance({0, 0}), 1.0);
     EXPECT_TRUE(sameSpread(leading.meanVar({0, 0}), 1.0, 1.0));
     EXPECT_TRUE(sameSpread(leading.meanVarW2({0, 0}), 1.0, 1.0)) << "a share of 0/0 is taken as 0";
 }
@@ -121,8 +121,8 @@ TEST(VectorVariance, FlaggedAndMissingElementsAreLeftOut)
 {
     auto s = unitSample({1, 50, 2, MISSING_DBL, 60, 3, 6, 70});
     s.flags = {0, -1, 0, 0, 1, 0, 0, 7};
-    EXPECT_TRUE(sameBits(s.variance({-1, 0}), 14.0 / 3.0));
-    EXPECT_TRUE(sameBits(s.deviation({-1, 0}), std::sqrt(14.0 / 3.0)));
+    EXPECT_SAME_BITS(s.variance({-1, 0}), 14.0 / 3.0);
+    EXPECT_SAME_BITS(s.deviation({-1, 0}), std::sqrt(14.0 / 3.0));
     EXPECT_TRUE(sameSpread(s.meanVar({-1, 0}), 3.0, 14.0 / 3.0));
     EXPECT_TRUE(sameSpread(s.meanStdev({-1, 0}), 3.0, std::sqrt(14.0 / 3.0)));
 }
@@ -146,13 +146,13 @@ TEST(VectorVariance, VarianceOfNothing)
     auto missing = unitSample({MISSING_DBL, MISSING_DBL});
     auto empty = unitSample({});
     for (sample* s : {&flagged, &missing, &empty}) {
-        EXPECT_TRUE(sameBits(s->variance({0, 0}), MISSING_DBL));
-        EXPECT_TRUE(sameBits(s->variance({1, -1}), MISSING_DBL));
-        EXPECT_TRUE(sameBits(s->variance({-1, -1}), -0.0)) << "0 over -1";
-        EXPECT_TRUE(sameBits(s->variance({-1, 0}), notANumber)) << "0 over 0 - 0/0";
-        EXPECT_TRUE(sameBits(s->deviation({0, 0}), MISSING_DBL));
-        EXPECT_TRUE(sameBits(s->deviation({-1, -1}), 0.0)) << "the zero loses its sign";
-        EXPECT_TRUE(sameBits(s->deviation({-1, 0}), notANumber));
+        EXPECT_SAME_BITS(s->variance({0, 0}), MISSING_DBL);
+        EXPECT_SAME_BITS(s->variance({1, -1}), MISSING_DBL);
+        EXPECT_SAME_BITS(s->variance({-1, -1}), -0.0) << "0 over -1";
+        EXPECT_SAME_BITS(s->variance({-1, 0}), notANumber) << "0 over 0 - 0/0";
+        EXPECT_SAME_BITS(s->deviation({0, 0}), MISSING_DBL);
+        EXPECT_SAME_BITS(s->deviation({-1, -1}), 0.0) << "the zero loses its sign";
+        EXPECT_SAME_BITS(s->deviation({-1, 0}), notANumber);
         for (const denominator_flags how : allFlags) {
             EXPECT_TRUE(sameSpread(s->meanVar(how), 0.0, 0.0));
             EXPECT_TRUE(sameSpread(s->meanStdev(how), 0.0, 0.0));
@@ -161,35 +161,35 @@ TEST(VectorVariance, VarianceOfNothing)
     for (const denominator_flags how : allFlags) {
         EXPECT_TRUE(sameSpread(missing.meanVarW2(how), 0.0, MISSING_DBL));
         EXPECT_TRUE(sameSpread(empty.meanVarW2(how), 0.0, MISSING_DBL));
-        EXPECT_TRUE(sameBits(V_Var2(&missing.x, 2, how.unbiased, how.freq),
-                             how.unbiased == -1 && how.freq == -1 ? -0.0 : notANumber));
+        EXPECT_SAME_BITS(V_Var2(&missing.x, 2, how.unbiased, how.freq),
+                         how.unbiased == -1 && how.freq == -1 ? -0.0 : notANumber);
     }
-    EXPECT_TRUE(sameBits(V_Var(&empty.x, -4, nullptr, &empty.w, 0, 0), MISSING_DBL));
+    EXPECT_SAME_BITS(V_Var(&empty.x, -4, nullptr, &empty.w, 0, 0), MISSING_DBL);
 }
 
 TEST(VectorVariance, VarianceOfOneElement)
 {
     auto s = unitSample({5});
-    EXPECT_TRUE(sameBits(s.variance({-1, -1}), MISSING_DBL));
-    EXPECT_TRUE(sameBits(s.variance({-1, 0}), MISSING_DBL));
-    EXPECT_TRUE(sameBits(s.variance({0, 0}), 0.0));
-    EXPECT_TRUE(sameBits(s.deviation({-1, 0}), MISSING_DBL));
-    EXPECT_TRUE(sameBits(s.deviation({0, 0}), 0.0));
+    EXPECT_SAME_BITS(s.variance({-1, -1}), MISSING_DBL);
+    EXPECT_SAME_BITS(s.variance({-1, 0}), MISSING_DBL);
+    EXPECT_SAME_BITS(s.variance({0, 0}), 0.0);
+    EXPECT_SAME_BITS(s.deviation({-1, 0}), MISSING_DBL);
+    EXPECT_SAME_BITS(s.deviation({0, 0}), 0.0);
     EXPECT_TRUE(sameSpread(s.meanVar({-1, 0}), 5.0, MISSING_DBL));
     EXPECT_TRUE(sameSpread(s.meanStdev({-1, -1}), 5.0, MISSING_DBL));
     EXPECT_TRUE(sameSpread(s.meanVarW2({-1, -1}), 5.0, MISSING_DBL));
-    EXPECT_TRUE(sameBits(V_Var2(&s.x, 1, -1, -1), notANumber)) << "0 over 0, with no guard";
-    EXPECT_TRUE(sameBits(V_Var2(&s.x, 1, -1, 0), notANumber));
-    EXPECT_TRUE(sameBits(V_Var2(&s.x, 1, 0, 0), 0.0));
+    EXPECT_SAME_BITS(V_Var2(&s.x, 1, -1, -1), notANumber) << "0 over 0, with no guard";
+    EXPECT_SAME_BITS(V_Var2(&s.x, 1, -1, 0), notANumber);
+    EXPECT_SAME_BITS(V_Var2(&s.x, 1, 0, 0), 0.0);
 }
 
 TEST(VectorVariance, WeightsThatSumToZero)
 {
     auto s = weightedSample({1, 2}, {0, 0});
-    EXPECT_TRUE(sameBits(s.variance({0, 0}), MISSING_DBL));
-    EXPECT_TRUE(sameBits(s.deviation({0, 0}), MISSING_DBL));
-    EXPECT_TRUE(sameBits(s.variance({-1, 0}), MISSING_DBL)) << "0 - 0/2";
-    EXPECT_TRUE(sameBits(s.variance({-1, -1}), -0.0));
+    EXPECT_SAME_BITS(s.variance({0, 0}), MISSING_DBL);
+    EXPECT_SAME_BITS(s.deviation({0, 0}), MISSING_DBL);
+    EXPECT_SAME_BITS(s.variance({-1, 0}), MISSING_DBL) << "0 - 0/2";
+    EXPECT_SAME_BITS(s.variance({-1, -1}), -0.0);
     EXPECT_TRUE(sameSpread(s.meanVar({0, 0}), 0.0, MISSING_DBL));
     EXPECT_TRUE(sameSpread(s.meanVarW2({0, 0}), 0.0, MISSING_DBL));
 }
@@ -197,8 +197,8 @@ TEST(VectorVariance, WeightsThatSumToZero)
 TEST(VectorVariance, ANegativeDenominatorIsDividedByOnlyInTheVariance)
 {
     auto s = weightedSample({0, 2}, {0.25, 0.25}); // sum of squares 0.5, S - 1 = -0.5
-    EXPECT_TRUE(sameBits(s.variance({-1, -1}), -1.0));
-    EXPECT_TRUE(sameBits(s.deviation({-1, -1}), MISSING_DBL));
+    EXPECT_SAME_BITS(s.variance({-1, -1}), -1.0);
+    EXPECT_SAME_BITS(s.deviation({-1, -1}), MISSING_DBL);
     EXPECT_TRUE(sameSpread(s.meanVar({-1, -1}), 1.0, MISSING_DBL));
     EXPECT_TRUE(sameSpread(s.meanStdev({-1, -1}), 1.0, MISSING_DBL));
     EXPECT_TRUE(sameSpread(s.meanVarW2({-1, -1}), 1.0, MISSING_DBL));
@@ -208,20 +208,20 @@ TEST(VectorVariance, ANegativeVarianceHasNoRoot)
 {
     auto s = weightedSample({0, 1}, {4, -1}); // S 3, sum of squares 4 * -1/3
     EXPECT_LT(s.meanVar({0, 0}).size, 0.0);
-    EXPECT_TRUE(sameBits(s.meanStdev({0, 0}).size, MISSING_DBL));
+    EXPECT_SAME_BITS(s.meanStdev({0, 0}).size, MISSING_DBL);
     EXPECT_LT(s.variance({0, 0}), 0.0);
-    EXPECT_TRUE(sameBits(s.deviation({0, 0}), MISSING_DBL));
+    EXPECT_SAME_BITS(s.deviation({0, 0}), MISSING_DBL);
 }
 
 TEST(VectorVariance, WithoutWeights)
 {
     auto s = unitSample({1, MISSING_DBL, 2, 3, 6});
-    EXPECT_TRUE(sameBits(V_Var2(&s.x, 5, 0, -1), 14.0 / 4.0));
-    EXPECT_TRUE(sameBits(V_Var2(&s.x, 5, 1, -1), 14.0 / 4.0));
-    EXPECT_TRUE(sameBits(V_Var2(&s.x, 5, -1, -1), 14.0 / 3.0));
-    EXPECT_TRUE(sameBits(V_Var2(&s.x, 5, -1, 1), 14.0 / 3.0));
+    EXPECT_SAME_BITS(V_Var2(&s.x, 5, 0, -1), 14.0 / 4.0);
+    EXPECT_SAME_BITS(V_Var2(&s.x, 5, 1, -1), 14.0 / 4.0);
+    EXPECT_SAME_BITS(V_Var2(&s.x, 5, -1, -1), 14.0 / 3.0);
+    EXPECT_SAME_BITS(V_Var2(&s.x, 5, -1, 1), 14.0 / 3.0);
     for (const denominator_flags how : allFlags) {
-        EXPECT_TRUE(sameBits(korvel::unweightedVariance(s.x, 5, how.unbiased, how.freq), s.variance(how)));
+        EXPECT_SAME_BITS(korvel::unweightedVariance(s.x, 5, how.unbiased, how.freq), s.variance(how));
     }
 }
 
@@ -244,8 +244,8 @@ TEST(VectorVariance, ShortVectorReadsTheSpareSlot)
     s.flags.resize(4);
     s.w = vectorOf<double>({1, 1, 1, 1});
     auto whole = unitSample({1, 3, -1, -1});
-    EXPECT_TRUE(sameBits(s.variance({-1, 0}), whole.variance({-1, 0})));
-    EXPECT_TRUE(sameBits(V_Var2(&s.x, 4, 0, 0), V_Var2(&whole.x, 4, 0, 0)));
+    EXPECT_SAME_BITS(s.variance({-1, 0}), whole.variance({-1, 0}));
+    EXPECT_SAME_BITS(V_Var2(&s.x, 4, 0, 0), V_Var2(&whole.x, 4, 0, 0));
 }
 
 TEST(VectorVariance, EqualToThePlainLoops)
@@ -254,12 +254,12 @@ TEST(VectorVariance, EqualToThePlainLoops)
         sample s{cells.values(held), cells.flags(n), cells.weights(cells.integer(0, 1) == 0 ? n : held)};
         for (const denominator_flags how : allFlags) {
             const short int* flags = s.flags.data();
-            ASSERT_TRUE(sameBits(s.variance(how), reference::variance(s.x, n, flags, &s.w, how)));
-            ASSERT_TRUE(sameBits(s.deviation(how), reference::standardDeviation(s.x, n, flags, &s.w, how)));
-            ASSERT_TRUE(sameBits(korvel::unweightedVariance(s.x, n, how.unbiased, how.freq),
-                                 reference::variance(s.x, n, nullptr, nullptr, how)));
-            ASSERT_TRUE(sameBits(V_Var2(&s.x, n, how.unbiased, how.freq),
-                                 reference::unweightedVariance(s.x, n, how)));
+            ASSERT_SAME_BITS(s.variance(how), reference::variance(s.x, n, flags, &s.w, how));
+            ASSERT_SAME_BITS(s.deviation(how), reference::standardDeviation(s.x, n, flags, &s.w, how));
+            ASSERT_SAME_BITS(korvel::unweightedVariance(s.x, n, how.unbiased, how.freq),
+                             reference::variance(s.x, n, nullptr, nullptr, how));
+            ASSERT_SAME_BITS(V_Var2(&s.x, n, how.unbiased, how.freq),
+                             reference::unweightedVariance(s.x, n, how));
             const spread weighted = reference::meanAndVariance(s.x, n, flags, s.w, how);
             ASSERT_TRUE(sameSpread(s.meanVar(how), weighted.mean, weighted.size));
             ASSERT_TRUE(sameSpread(s.meanStdev(how), weighted.mean, reference::rootOrMissing(weighted.size)));

@@ -53,7 +53,7 @@ inline void expectCells(const guarded<double>& actual, const std::vector<double>
     const auto cells = valuesOf(actual);
     ASSERT_EQ(cells.size(), expected.size());
     for (std::size_t k = 0; k < cells.size(); ++k) {
-        EXPECT_TRUE(sameBits(cells[k], expected[k])) << "cell " << k;
+        EXPECT_SAME_BITS(cells[k], expected[k]) << "cell " << k;
     }
 }
 

@@ -53,9 +53,9 @@ protected:
             EXPECT_EQ(m.nbrows, rows);
             EXPECT_EQ(m.nbcols, cols);
             for (std::uint64_t k = 0; k < m.nbElem; ++k) {
-                EXPECT_TRUE(sameBits(m.data[k], 7.0));
+                EXPECT_SAME_BITS(m.data[k], 7.0);
             }
-            EXPECT_TRUE(sameBits(m.oobValue, spare));
+            EXPECT_SAME_BITS(m.oobValue, spare);
         };
         isAsItWas(dense, 2, 2, -1.0);
         isAsItWas(object.chunks[0], 2, 1, 8.0);

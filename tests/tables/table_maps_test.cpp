@@ -34,9 +34,9 @@ void expectSame(const matrix<T>& actual, const matrix<T>& expected)
     ASSERT_EQ(actual.nbrows, expected.nbrows);
     ASSERT_EQ(actual.nbcols, expected.nbcols);
     for (std::uint64_t k = 0; k < expected.nbElem; ++k) {
-        ASSERT_TRUE(sameBits(actual.data[k], expected.data[k])) << "cell " << k;
+        ASSERT_SAME_BITS(actual.data[k], expected.data[k]) << "cell " << k;
     }
-    EXPECT_TRUE(sameBits(actual.oobValue, expected.oobValue));
+    EXPECT_SAME_BITS(actual.oobValue, expected.oobValue);
 }
 
 /** Counts, and tables of random cells that mostly have them. */

@@ -42,13 +42,13 @@ void expectSameTable(const matrix<T>& actual, const matrix<T>& expected)
     ASSERT_EQ(actual.nbElem, expected.nbElem);
     for (std::uint64_t k = 0; k < expected.nbElem; ++k) {
         if constexpr (std::is_same_v<T, double>) {
-            ASSERT_TRUE(sameBits(actual.data[k], expected.data[k])) << k;
+            ASSERT_SAME_BITS(actual.data[k], expected.data[k]) << k;
         } else {
             ASSERT_EQ(actual.data[k], expected.data[k]) << k;
         }
     }
     if constexpr (std::is_same_v<T, double>) {
-        EXPECT_TRUE(sameBits(actual.oobValue, expected.oobValue));
+        EXPECT_SAME_BITS(actual.oobValue, expected.oobValue);
     } else {
         EXPECT_EQ(actual.oobValue, expected.oobValue);
     }
@@ -316,7 +316,7 @@ TEST(TransposedSparse, HoldsTheSameCells)
         EXPECT_EQ(y.nnz, x.nnz);
         for (int i = 0; i < rows; ++i) {
             for (int j = 0; j < cols; ++j) {
-                EXPECT_TRUE(sameBits(y.getElement(j, i), x.getElement(i, j)));
+                EXPECT_SAME_BITS(y.getElement(j, i), x.getElement(i, j));
             }
         }
         for (int j = 0; j < cols; ++j) {

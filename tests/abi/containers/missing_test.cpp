@@ -41,9 +41,9 @@ TEST(FlatContainers, TheMostNegativeDoubleIsMissingButIsSummed)
     double lowest = -1.7976931348623157e308;
     double weight = 1.0;
     EXPECT_EQ(VB_IsMissingValueDbl(lowest), -1);
-    EXPECT_TRUE(sameBits(VB_V_Sum(&lowest, 1, nullptr, &weight), lowest));
+    EXPECT_SAME_BITS(VB_V_Sum(&lowest, 1, nullptr, &weight), lowest);
     double sentinel = MISSING_DBL;
-    EXPECT_TRUE(sameBits(VB_V_Sum(&sentinel, 1, nullptr, &weight), 0.0));
+    EXPECT_SAME_BITS(VB_V_Sum(&sentinel, 1, nullptr, &weight), 0.0);
 }
 
 TEST(FlatContainers, ATextCellIsMissingWithoutCharacters)

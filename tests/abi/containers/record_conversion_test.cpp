@@ -15,7 +15,7 @@ TEST(RecordsOfASibling, ConvertAndCopyThroughTheLibrary)
     EXPECT_EQ(Convert_MVectStrToMVectDbl_ST(1, 2, 1, 1, 2, 1, 1, 1, words, u",", numeric), 0);
     cST_MVect<double> copy(2, 1);
     MV_DuplicateMVect(numeric, copy);
-    EXPECT_TRUE(sameBits(copy.Vectors[0].Vect[1], MISSING_DBL));
+    EXPECT_SAME_BITS(copy.Vectors[0].Vect[1], MISSING_DBL);
     EXPECT_EQ(Convert_MVectDblToMVectStr_ST(1, 2, 1, 1, 2, 1, 1, 1, copy, words), 0);
     EXPECT_EQ(words.Vectors[0].Vect[1], u"-2e+308");
 }

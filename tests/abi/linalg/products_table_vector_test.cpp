@@ -28,8 +28,7 @@ TEST(FlatProducts, WithVectors)
     whole_table square = counting(3, 3, 4);
     whole_table other = counting(3, 1, 6);
     const whole_table bilinear = times(times(transposed(other), square), three);
-    EXPECT_TRUE(
-        sameBits(VB_M_ProductTrV1BV2(other.data(), 3, square.data(), three.data()), bilinear.cells[0]));
+    EXPECT_SAME_BITS(VB_M_ProductTrV1BV2(other.data(), 3, square.data(), three.data()), bilinear.cells[0]);
     const whole_table quadratic = times(times(transposed(three), square), three);
-    EXPECT_TRUE(sameBits(VB_M_ProductTrVBV(three.data(), 3, square.data()), quadratic.cells[0]));
+    EXPECT_SAME_BITS(VB_M_ProductTrVBV(three.data(), 3, square.data()), quadratic.cells[0]);
 }

@@ -85,5 +85,5 @@ TEST(FlatProducts, OfNothing)
     EXPECT_EQ(VB_M_ProductAB(nullptr, 0, 0, nullptr, 0, kept.data()), 0);
     EXPECT_EQ(VB_M_ProductABTrA(nullptr, 0, 0, nullptr, 0, kept.data()), 0);
     EXPECT_EQ(valuesOf(kept), (numbers{9, 9}));
-    EXPECT_TRUE(sameBits(VB_M_ProductTrVBV(nullptr, 0, nullptr), 0.0));
+    EXPECT_SAME_BITS(VB_M_ProductTrVBV(nullptr, 0, nullptr), 0.0);
 }

@@ -13,9 +13,9 @@ TEST(FlatVectorProducts, AllOfThem)
     guarded x({2.0, MISSING_DBL, -3.0});
     guarded y({0.5, 2.0, 4.0});
     guarded out(std::vector<double>(3, 9.0));
-    EXPECT_TRUE(sameBits(VB_V_ProductTrV1V2(x.data(), 1, y.data()), 1.0));
-    EXPECT_TRUE(sameBits(VB_V_ProductTrV1V2(x.data(), 2, y.data()), 1.0 + MISSING_DBL * 2.0));
-    EXPECT_TRUE(sameBits(VB_V_ProductTrV1V2(nullptr, 0, nullptr), 0.0));
+    EXPECT_SAME_BITS(VB_V_ProductTrV1V2(x.data(), 1, y.data()), 1.0);
+    EXPECT_SAME_BITS(VB_V_ProductTrV1V2(x.data(), 2, y.data()), 1.0 + MISSING_DBL * 2.0);
+    EXPECT_SAME_BITS(VB_V_ProductTrV1V2(nullptr, 0, nullptr), 0.0);
     EXPECT_EQ(VB_V_ProductV1V2(x.data(), 3, y.data(), out.data()), 0);
     expectCells(out, {1.0, MISSING_DBL, -12.0});
 
@@ -34,9 +34,9 @@ TEST(FlatVectorProducts, AllOfThem)
 TEST(FlatVectorProducts, ProductsOfAllElements)
 {
     guarded x({0.5, 3.0, -4.0});
-    EXPECT_TRUE(sameBits(VB_V_Product1toNDbl(x.data(), 3), -6.0));
-    EXPECT_TRUE(sameBits(VB_V_Product1toNDbl(nullptr, 0), 1.0));
+    EXPECT_SAME_BITS(VB_V_Product1toNDbl(x.data(), 3), -6.0);
+    EXPECT_SAME_BITS(VB_V_Product1toNDbl(nullptr, 0), 1.0);
     guarded<int> k({100000, 100000, 3});
-    EXPECT_TRUE(sameBits(VB_V_Product1toNLng(k.data(), 3), 3e10));
-    EXPECT_TRUE(sameBits(VB_V_Product1toNLng(nullptr, 0), 1.0));
+    EXPECT_SAME_BITS(VB_V_Product1toNLng(k.data(), 3), 3e10);
+    EXPECT_SAME_BITS(VB_V_Product1toNLng(nullptr, 0), 1.0);
 }

@@ -9,7 +9,6 @@
 
 using korvel::test::doubles;
 using korvel::test::guarded;
-using korvel::test::sameBits;
 using korvel::test::valuesOf;
 
 namespace
@@ -24,11 +23,11 @@ TEST(FlatDeviations, MeanAbsolute)
     guarded<double> x{1, 3, MISSING_DBL, 8};
     guarded<short int> flags{0, 0, 0, -1};
     guarded<double> w{1, 3, 5, 7};
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), w.data()), 1.0));
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 1.0, flags.data(), w.data()), 1.5));
+    EXPECT_SAME_BITS(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), w.data()), 1.0);
+    EXPECT_SAME_BITS(Cpp_V_MeanAbsDev(x.data(), 4, 1.0, flags.data(), w.data()), 1.5);
     guarded<double> zeros{0, 0, 0, 0};
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), zeros.data()), MISSING_DBL));
-    EXPECT_TRUE(sameBits(Cpp_V_MeanAbsDev(x.data(), 0, 2.0, flags.data(), w.data()), MISSING_DBL));
+    EXPECT_SAME_BITS(Cpp_V_MeanAbsDev(x.data(), 4, 2.0, flags.data(), zeros.data()), MISSING_DBL);
+    EXPECT_SAME_BITS(Cpp_V_MeanAbsDev(x.data(), 0, 2.0, flags.data(), w.data()), MISSING_DBL);
     // R 4.2.2: mean(abs(x - mean(x)))
     guarded<double> y = sample;
     guarded<short int> none{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
@@ -45,12 +44,12 @@ TEST(FlatDeviations, MedianAbsoluteIsWeightedUnlessTheWeightsAreConstant)
     guarded<short int> flags{0, 0, 0, 0};
     guarded<double> constant{2, 2, 2, 2};
     guarded<double> uneven{1, 1, 1, 7};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), constant.data()), 3.0));
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), uneven.data()), 8.0));
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), constant.data()), 3.0);
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), uneven.data()), 8.0);
     guarded<short int> one{0, 0, 0, 1};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, one.data(), constant.data()), 2.0));
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, one.data(), constant.data()), 2.0);
     guarded<double> holes{1, 2, 4, MISSING_DBL};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(holes.data(), 4, 0.0, flags.data(), constant.data()), 2.0));
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev(holes.data(), 4, 0.0, flags.data(), constant.data()), 2.0);
 }
 
 TEST(FlatDeviations, ConstantWeightsOfZeroGiveThePlainMedian)
@@ -58,9 +57,9 @@ TEST(FlatDeviations, ConstantWeightsOfZeroGiveThePlainMedian)
     guarded<double> x{1, 2, 4, 8};
     guarded<short int> flags{0, 0, 0, -1};
     guarded<double> w{0, 0, MISSING_DBL, 0};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), w.data()), 2.0));
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), w.data()), 2.0);
     guarded<double> onlyThere{0, 0, 0, 1};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), onlyThere.data()), MISSING_DBL))
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev(x.data(), 4, 0.0, flags.data(), onlyThere.data()), MISSING_DBL)
         << "the weight of an element that is left out makes them uneven";
 }
 
@@ -68,15 +67,15 @@ TEST(FlatDeviations, AMissingCentreBecomesTheMedian)
 {
     guarded<double> x{1, 2, 9};
     double centre = MISSING_DBL;
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 1.0));
-    EXPECT_TRUE(sameBits(centre, 2.0));
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 1.0);
+    EXPECT_SAME_BITS(centre, 2.0);
     centre = 9.0;
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 7.0));
-    EXPECT_TRUE(sameBits(centre, 9.0));
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev2(x.data(), 3, &centre), 7.0);
+    EXPECT_SAME_BITS(centre, 9.0);
     guarded<double> holes{MISSING_DBL, 2, 9};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(holes.data(), 3, &centre), 0.0));
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev2(holes.data(), 3, &centre), 0.0);
     guarded<double> mostlyHoles{MISSING_DBL, MISSING_DBL, 9};
-    EXPECT_TRUE(sameBits(Cpp_V_MedianAbsDev2(mostlyHoles.data(), 3, &centre), MISSING_DBL));
+    EXPECT_SAME_BITS(Cpp_V_MedianAbsDev2(mostlyHoles.data(), 3, &centre), MISSING_DBL);
 }
 
 TEST(FlatDeviations, WinsorizingPullsInTheTails)

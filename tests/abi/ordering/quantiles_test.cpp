@@ -42,30 +42,30 @@ TEST(FlatQuantiles, AgreeWithTypeSevenOfR)
 TEST(FlatQuantiles, ShortcutsGiveElementsExactly)
 {
     guarded<double> x{1, 2, 3, 4};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 0.5), 2.5));
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 0.25), 1.75));
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 0.0), 1.0));
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 4, 1.0), 4.0));
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 4, 0.5), 2.5);
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 4, 0.25), 1.75);
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 4, 0.0), 1.0);
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 4, 1.0), 4.0);
     guarded<double> ties{1, 2, 2, 4};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(ties.data(), 4, 0.5), 2.0));
+    EXPECT_SAME_BITS(VB_V_Quantile(ties.data(), 4, 0.5), 2.0);
     // Two neighbours of 0.1 would interpolate to another double at this position.
     guarded<double> tenths{0.1, 0.1, 0.3};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(tenths.data(), 3, 0.15), 0.1));
+    EXPECT_SAME_BITS(VB_V_Quantile(tenths.data(), 3, 0.15), 0.1);
     // 0.7 * 90 is just below 63; the element at the integer part counts.
     std::vector<double> many(91);
     for (int i = 0; i < 91; ++i) {
         many[static_cast<std::size_t>(i)] = i;
     }
     ASSERT_LT(90 * 0.7, 63.0);
-    EXPECT_TRUE(sameBits(VB_V_Quantile(many.data(), 91, 0.7), 62.0));
+    EXPECT_SAME_BITS(VB_V_Quantile(many.data(), 91, 0.7), 62.0);
 }
 
 TEST(FlatQuantiles, APositionIsWholeWithinItsTolerance)
 {
     guarded<double> x{0, 1e12};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 9e-13), 0.0));
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 1.5e-12), 1.5));
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 1 - 9e-13), 0.0)) << "the integer part";
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 2, 9e-13), 0.0);
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 2, 1.5e-12), 1.5);
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 2, 1 - 9e-13), 0.0) << "the integer part";
     EXPECT_NEAR(VB_V_Quantile(x.data(), 2, 1 - 1.5e-12), 1e12 - 1.5, 2e-4);
 }
 
@@ -73,15 +73,15 @@ TEST(FlatQuantiles, BetweenTwoElementsEachTakesItsShare)
 {
     // One step from the lower element would give 0.92500000000000004.
     guarded<double> x{0.3, 2.8};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 2, 0.25), 0.75 * 0.3 + 0.25 * 2.8));
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 2, 0.25), 0.75 * 0.3 + 0.25 * 2.8);
     EXPECT_FALSE(sameBits(0.75 * 0.3 + 0.25 * 2.8, 0.3 + 0.25 * (2.8 - 0.3)));
 }
 
 TEST(FlatQuantiles, MissingTakesPartAsTheSmallestNumber)
 {
     guarded<double> x{2, MISSING_DBL, 1};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 0.0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 0.5), 1.0));
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 3, 0.0), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 3, 0.5), 1.0);
 }
 
 TEST(FlatQuantiles, OfNothingAreMissing)
@@ -89,39 +89,39 @@ TEST(FlatQuantiles, OfNothingAreMissing)
     guarded<double> x{MISSING_DBL};
     guarded<double> w{1};
     guarded<short int> flags{0};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 0, 0.5), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 0, w.data(), 0.5), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 1, w.data(), 0.5), MISSING_DBL));
-    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 1, w.data(), 0.5), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_QuantileM(x.data(), 1, flags.data(), 0.5), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 1, flags.data(), w.data(), 0.5), MISSING_DBL));
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 0, 0.5), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 0, w.data(), 0.5), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 1, w.data(), 0.5), MISSING_DBL);
+    EXPECT_SAME_BITS(Cpp_V_QuantileW2(x.data(), 1, w.data(), 0.5), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_QuantileM(x.data(), 1, flags.data(), 0.5), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_QuantileMW(x.data(), 1, flags.data(), w.data(), 0.5), MISSING_DBL);
 }
 
 TEST(FlatQuantiles, APositionOutsideTheDataReadsTheSpareSlot)
 {
     guarded<double> x{5, 6, 7};
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, 2.0), -1.0));
-    EXPECT_TRUE(sameBits(VB_V_Quantile(x.data(), 3, -0.25), 0.5 * -1.0 + 0.5 * 5.0));
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 3, 2.0), -1.0);
+    EXPECT_SAME_BITS(VB_V_Quantile(x.data(), 3, -0.25), 0.5 * -1.0 + 0.5 * 5.0);
 }
 
 TEST(FlatQuantiles, WeightedTakesTheFirstValueBeyondItsShare)
 {
     guarded<double> x{3, 1, 2};
     guarded<double> w{2, 1, 1};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5), 2.5));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.4), 2.0));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.0), 1.0));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 1.0), 3.0));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.9), 3.0));
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 3, w.data(), 0.5), 2.5);
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 3, w.data(), 0.4), 2.0);
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 3, w.data(), 0.0), 1.0);
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 3, w.data(), 1.0), 3.0);
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 3, w.data(), 0.9), 3.0);
 }
 
 TEST(FlatQuantiles, WeightedComparesItsShareExactly)
 {
     guarded<double> x{1, 2, 3};
     guarded<double> w{0.1, 0.2, 0.3};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5), 2.5));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5 - 1e-15), 2.0));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 3, w.data(), 0.5 + 1e-15), 3.0));
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 3, w.data(), 0.5), 2.5);
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 3, w.data(), 0.5 - 1e-15), 2.0);
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 3, w.data(), 0.5 + 1e-15), 3.0);
 }
 
 TEST(FlatQuantiles, WeightedWithOddWeights)
@@ -129,39 +129,39 @@ TEST(FlatQuantiles, WeightedWithOddWeights)
     // A missing weight is left out of the total of 4, and takes the sum below the target of 2 to the end.
     guarded<double> x{1, 2, 3, 4};
     guarded<double> w{1, MISSING_DBL, 1, 2};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.5), 4.0));
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 4, w.data(), 0.5), 4.0);
 
     // A target of -1 is passed, and one of 0 hit, before the first element: there a read gives -1.
     guarded<double> two{1, 2};
     guarded<double> negative{1, -3};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(two.data(), 2, negative.data(), 0.5), -1.0));
+    EXPECT_SAME_BITS(VB_V_QuantileW(two.data(), 2, negative.data(), 0.5), -1.0);
     guarded<double> none{1, -1};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(two.data(), 2, none.data(), 0.5), 0.0));
+    EXPECT_SAME_BITS(VB_V_QuantileW(two.data(), 2, none.data(), 0.5), 0.0);
 
     // Weight on a missing element alone is none.
     guarded<double> missing{MISSING_DBL, 5, 7};
     guarded<double> onlyThere{1, 0, 0};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(missing.data(), 3, onlyThere.data(), 1.0), MISSING_DBL));
+    EXPECT_SAME_BITS(VB_V_QuantileW(missing.data(), 3, onlyThere.data(), 1.0), MISSING_DBL);
 }
 
 TEST(FlatQuantiles, ConstantWeightsGiveThePlainQuantile)
 {
     guarded<double> x{1, 2, 3, 4};
     guarded<double> w{0.3, 0.3, MISSING_DBL, 0.3};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.25), 1.75));
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 4, w.data(), 0.25), 1.75);
     guarded<double> zeros{0, 0, 0, 0};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, zeros.data(), 0.25), MISSING_DBL));
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 4, zeros.data(), 0.25), MISSING_DBL);
 }
 
 TEST(FlatQuantiles, OnlyTheSecondWeightedFormDropsWhatDoesNotCount)
 {
     guarded<double> x{MISSING_DBL, 1, 2, 3};
     guarded<double> w{1, 1, 1, 0};
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 0.0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_QuantileW(x.data(), 4, w.data(), 1.0), 3.0));
-    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 0.0), 1.0));
-    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 1.0), 2.0));
-    EXPECT_TRUE(sameBits(Cpp_V_QuantileW2(x.data(), 4, w.data(), 0.5), 1.5));
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 4, w.data(), 0.0), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 4, w.data(), 1.0), 3.0);
+    EXPECT_SAME_BITS(Cpp_V_QuantileW2(x.data(), 4, w.data(), 0.0), 1.0);
+    EXPECT_SAME_BITS(Cpp_V_QuantileW2(x.data(), 4, w.data(), 1.0), 2.0);
+    EXPECT_SAME_BITS(Cpp_V_QuantileW2(x.data(), 4, w.data(), 0.5), 1.5);
 }
 
 TEST(FlatQuantiles, MaskedLeaveOutFlaggedAndMissing)
@@ -169,10 +169,10 @@ TEST(FlatQuantiles, MaskedLeaveOutFlaggedAndMissing)
     guarded<double> x{9, MISSING_DBL, 1, 3};
     guarded<short int> flags{7, 0, 0, 0};
     guarded<double> w{5, 5, 1, 1};
-    EXPECT_TRUE(sameBits(VB_V_QuantileM(x.data(), 4, flags.data(), 0.5), 2.0));
-    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 4, flags.data(), w.data(), 0.5), 2.0));
+    EXPECT_SAME_BITS(VB_V_QuantileM(x.data(), 4, flags.data(), 0.5), 2.0);
+    EXPECT_SAME_BITS(VB_V_QuantileMW(x.data(), 4, flags.data(), w.data(), 0.5), 2.0);
     guarded<double> uneven{5, 5, 1, 3};
-    EXPECT_TRUE(sameBits(VB_V_QuantileMW(x.data(), 4, flags.data(), uneven.data(), 0.5), 3.0));
+    EXPECT_SAME_BITS(VB_V_QuantileMW(x.data(), 4, flags.data(), uneven.data(), 0.5), 3.0);
 }
 
 TEST(FlatQuantiles, ThirteenSortTheirDataAndShiftTheirPosition)
@@ -210,7 +210,7 @@ TEST(FlatQuantiles, ThirteenTakeTheElementAtAWholePosition)
             const int hundredths = (n - 1) * percents[k] + (percents[k] <= 50 ? 50 : 100);
             if (hundredths % 100 == 0) {
                 ++whole;
-                ASSERT_TRUE(sameBits(out[k], hundredths / 100)) << n << ' ' << percents[k];
+                ASSERT_SAME_BITS(out[k], hundredths / 100) << n << ' ' << percents[k];
             }
         }
     }
@@ -228,5 +228,5 @@ TEST(FlatQuantiles, ThirteenTakeEqualNeighboursAsTheyAre)
     // One step from the lower element; shares of both would give 1.5499999999999998.
     guarded<double> x{0.3, 2.8, 3.1};
     Cpp_V_Quantiles13(x.data(), 3, out.data());
-    EXPECT_TRUE(sameBits(valuesOf(out)[6], 1.55));
+    EXPECT_SAME_BITS(valuesOf(out)[6], 1.55);
 }

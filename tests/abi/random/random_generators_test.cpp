@@ -19,7 +19,7 @@ constexpr double scale = 4.656612875245797e-10;
 TEST_F(FlatRandom, OneDrawOfAGivenSeed)
 {
     std::array seeds{-5, 12345, -5, -5, 0, -5};
-    EXPECT_TRUE(sameBits(Cpp_Random01(&seeds[1], 1, &seeds[4]), 443758902 * scale));
+    EXPECT_SAME_BITS(Cpp_Random01(&seeds[1], 1, &seeds[4]), 443758902 * scale);
     EXPECT_EQ(seeds, (std::array{-5, 12345, -5, -5, 493972830, -5}));
 }
 
@@ -39,7 +39,7 @@ TEST_F(FlatRandom, CoreAndFlatNamesAreOneRoutine)
     int flatNext = 0;
     int coreNext = 0;
     const double flat = Cpp_Random01(&seed, 1, &flatNext);
-    EXPECT_TRUE(sameBits(GenerateRandom01(&seed, 1, &coreNext), flat));
+    EXPECT_SAME_BITS(GenerateRandom01(&seed, 1, &coreNext), flat);
     EXPECT_EQ(coreNext, flatNext);
 }
 
@@ -51,14 +51,14 @@ TEST_F(FlatRandom, CoreRoutinesAreExported)
     GetSeed(&seed, &flag);
     EXPECT_EQ(RandomInt(), 443758902);
     GetSeed2(&seed, &flag);
-    EXPECT_TRUE(sameBits(Random01(), 443758902 * scale));
+    EXPECT_SAME_BITS(Random01(), 443758902 * scale);
     GetSeedUpdate(&next);
     EXPECT_EQ(next, 493972830);
     EXPECT_EQ(RandomIntUniform(4, 4), 4);
 
     matrix<double> table(1, 1, 0.0);
     M_GenerateRandom01(table, 1, 1, &seed, 1, &next);
-    EXPECT_TRUE(sameBits(table.data[0], 443758902 * scale));
+    EXPECT_SAME_BITS(table.data[0], 443758902 * scale);
     matrix<int> integers(1, 1, 5);
     M_GenerateRandom01(&integers, 1, 1, &seed, 1, &next);
     EXPECT_EQ(integers.data[0], 0);

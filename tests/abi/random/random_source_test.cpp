@@ -80,10 +80,10 @@ TEST_F(FlatRandom, SelectsTheGenerator)
     int seed = 5489;
     int next = 0;
     EXPECT_EQ(Cpp_set_rand_algo(1), 0);
-    EXPECT_TRUE(sameBits(Cpp_Random01(&seed, 1, &next), static_cast<std::int32_t>(3499211612U) * scale));
+    EXPECT_SAME_BITS(Cpp_Random01(&seed, 1, &next), static_cast<std::int32_t>(3499211612U) * scale);
     EXPECT_EQ(static_cast<std::uint32_t>(next), 581869302U);
     EXPECT_EQ(Cpp_set_rand_algo(2), 0);
     seed = 12345;
-    EXPECT_TRUE(sameBits(Cpp_Random01(&seed, 1, &next), 443758902 * scale));
+    EXPECT_SAME_BITS(Cpp_Random01(&seed, 1, &next), 443758902 * scale);
     EXPECT_EQ(next, 493972830);
 }

@@ -22,14 +22,14 @@ TEST_F(FlatRandom, FillsAnArrayInStorageOrder)
     int seed = 12345;
     int next = 0;
     EXPECT_EQ(VB_M_GenerateRandom01(out.data() + 2, 2, 3, &seed, -1, &next), 0);
-    EXPECT_TRUE(sameBits(out[2], 443758902 * scale));
+    EXPECT_SAME_BITS(out[2], 443758902 * scale);
     std::int64_t s1 = 12345;
     std::int64_t s2 = 1234;
     for (std::size_t k = 2; k < 8; ++k) {
         s1 = 40014 * s1 % 2147483563;
         s2 = 40692 * s2 % 2147483399;
         const std::int64_t z = s1 - s2 < 1 ? s1 - s2 + 2147483562 : s1 - s2;
-        EXPECT_TRUE(sameBits(out[k], static_cast<double>(z) * scale));
+        EXPECT_SAME_BITS(out[k], static_cast<double>(z) * scale);
     }
     for (const std::size_t k : {0U, 1U, 8U, 9U}) {
         EXPECT_EQ(out[k], guard);
@@ -47,7 +47,7 @@ TEST_F(FlatRandom, FillsALongArrayFromTheTwister)
     VB_M_GenerateRandom01(out.data(), 100, 101, &seed, -1, &next);
     std::mt19937 published(2026);
     for (std::size_t k = 0; k + 1 < out.size(); ++k) {
-        ASSERT_TRUE(sameBits(out[k], static_cast<std::int32_t>(published()) * scale)) << k;
+        ASSERT_SAME_BITS(out[k], static_cast<std::int32_t>(published()) * scale) << k;
     }
     EXPECT_EQ(out.back(), -77.0);
     EXPECT_EQ(static_cast<std::uint32_t>(next), published());

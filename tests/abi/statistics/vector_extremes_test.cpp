@@ -21,28 +21,28 @@ std::array<short int, 5> allFlags{-1, 1, 7, -1, -1};
 
 TEST(FlatVectorExtremes, SmallestAndLargest)
 {
-    EXPECT_TRUE(sameBits(VB_V_Min(x.data(), 5, flags.data()), 2.0));
-    EXPECT_TRUE(sameBits(VB_V_Max(x.data(), 5, flags.data()), 7.0));
-    EXPECT_TRUE(sameBits(VB_V_Max(x.data(), 4, nullptr), 7.0));
-    EXPECT_TRUE(sameBits(VB_V_Min2(x.data(), 5), -90.0));
-    EXPECT_TRUE(sameBits(VB_V_Max2(x.data(), 5), 7.0));
-    EXPECT_TRUE(sameBits(VB_V_Min2Lng(counts.data(), 4), -90.0));
-    EXPECT_TRUE(sameBits(VB_V_Max2Lng(counts.data(), 4), 7.0));
+    EXPECT_SAME_BITS(VB_V_Min(x.data(), 5, flags.data()), 2.0);
+    EXPECT_SAME_BITS(VB_V_Max(x.data(), 5, flags.data()), 7.0);
+    EXPECT_SAME_BITS(VB_V_Max(x.data(), 4, nullptr), 7.0);
+    EXPECT_SAME_BITS(VB_V_Min2(x.data(), 5), -90.0);
+    EXPECT_SAME_BITS(VB_V_Max2(x.data(), 5), 7.0);
+    EXPECT_SAME_BITS(VB_V_Min2Lng(counts.data(), 4), -90.0);
+    EXPECT_SAME_BITS(VB_V_Max2Lng(counts.data(), 4), 7.0);
     EXPECT_EQ(VB_V_MaxInt(counts.data(), 4, countFlags.data()), 7);
     EXPECT_EQ(VB_V_MaxInt(counts.data(), 2, nullptr), 5);
 }
 
 TEST(FlatVectorExtremes, NothingKept)
 {
-    EXPECT_TRUE(sameBits(VB_V_Min(x.data(), 5, allFlags.data()), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_Max(x.data(), 5, allFlags.data()), MISSING_DBL));
+    EXPECT_SAME_BITS(VB_V_Min(x.data(), 5, allFlags.data()), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_Max(x.data(), 5, allFlags.data()), MISSING_DBL);
     EXPECT_EQ(VB_V_MaxInt(counts.data(), 4, allFlags.data()), MISSING_LNG);
-    EXPECT_TRUE(sameBits(VB_V_Min(nullptr, 0, nullptr), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_Max(nullptr, 0, nullptr), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_Min2(nullptr, 0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_Max2(nullptr, 0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_Min2Lng(nullptr, 0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_Max2Lng(nullptr, 0), MISSING_DBL));
+    EXPECT_SAME_BITS(VB_V_Min(nullptr, 0, nullptr), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_Max(nullptr, 0, nullptr), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_Min2(nullptr, 0), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_Max2(nullptr, 0), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_Min2Lng(nullptr, 0), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_Max2Lng(nullptr, 0), MISSING_DBL);
     EXPECT_EQ(VB_V_MaxInt(nullptr, 0, nullptr), MISSING_LNG);
 }
 
@@ -58,12 +58,12 @@ TEST(FlatVectorExtremes, LargestOfAHostArray)
     caller_memory caller;
     SAFEARRAY* numbers = caller.array<double>({-5.0, MISSING_DBL, -7.0});
     SAFEARRAY* longs = caller.array<int>({-5, -2, -7});
-    EXPECT_TRUE(sameBits(Cpp_V_Max2_ST(&numbers, 3), -5.0));
-    EXPECT_TRUE(sameBits(Cpp_V_Max2_ST(&numbers, 4), -1.0)) << "an element past the end reads as -1";
-    EXPECT_TRUE(sameBits(Cpp_V_Max2_ST(&numbers, 0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(Cpp_V_Max2Lng_ST(&longs, 3), -2.0));
-    EXPECT_TRUE(sameBits(Cpp_V_Max2Lng_ST(&longs, 4), -1.0));
-    EXPECT_TRUE(sameBits(Cpp_V_Max2Lng_ST(&longs, 0), MISSING_DBL));
+    EXPECT_SAME_BITS(Cpp_V_Max2_ST(&numbers, 3), -5.0);
+    EXPECT_SAME_BITS(Cpp_V_Max2_ST(&numbers, 4), -1.0) << "an element past the end reads as -1";
+    EXPECT_SAME_BITS(Cpp_V_Max2_ST(&numbers, 0), MISSING_DBL);
+    EXPECT_SAME_BITS(Cpp_V_Max2Lng_ST(&longs, 3), -2.0);
+    EXPECT_SAME_BITS(Cpp_V_Max2Lng_ST(&longs, 4), -1.0);
+    EXPECT_SAME_BITS(Cpp_V_Max2Lng_ST(&longs, 0), MISSING_DBL);
     EXPECT_TRUE(caller.guardsIntact());
 }
 
@@ -72,8 +72,8 @@ TEST(FlatVectorExtremes, BothExtremes)
     guarded<double> min{77};
     guarded<double> max{77};
     const auto expectBoth = [&](double smallest, double largest) {
-        EXPECT_TRUE(sameBits(valuesOf(min)[0], smallest));
-        EXPECT_TRUE(sameBits(valuesOf(max)[0], largest));
+        EXPECT_SAME_BITS(valuesOf(min)[0], smallest);
+        EXPECT_SAME_BITS(valuesOf(max)[0], largest);
     };
     EXPECT_EQ(VB_V_MinMax(x.data(), 5, min.data(), max.data(), flags.data()), 0);
     expectBoth(2.0, 7.0);
@@ -101,14 +101,14 @@ TEST(FlatVectorExtremes, Positions)
 {
     std::array cells{3.0, 1.0, 3.0, 1.0};
     guarded<int> pos{77};
-    EXPECT_TRUE(sameBits(VB_V_MinAndMinPos(cells.data(), 4, pos.data(), 0), 1.0));
+    EXPECT_SAME_BITS(VB_V_MinAndMinPos(cells.data(), 4, pos.data(), 0), 1.0);
     EXPECT_EQ(valuesOf(pos)[0], 2);
     for (const short int yes : std::array<short int, 2>{-1, 1}) {
-        EXPECT_TRUE(sameBits(VB_V_MinAndMinPos(cells.data(), 4, pos.data(), yes), 1.0));
+        EXPECT_SAME_BITS(VB_V_MinAndMinPos(cells.data(), 4, pos.data(), yes), 1.0);
         EXPECT_EQ(valuesOf(pos)[0], 4);
     }
-    EXPECT_TRUE(sameBits(VB_V_MaxAndMaxPos(cells.data() + 1, 3, pos.data()), 3.0));
+    EXPECT_SAME_BITS(VB_V_MaxAndMaxPos(cells.data() + 1, 3, pos.data()), 3.0);
     EXPECT_EQ(valuesOf(pos)[0], 2);
-    EXPECT_TRUE(sameBits(VB_V_MaxAndMaxPos(cells.data(), 1, pos.data()), 3.0));
+    EXPECT_SAME_BITS(VB_V_MaxAndMaxPos(cells.data(), 1, pos.data()), 3.0);
     EXPECT_EQ(valuesOf(pos)[0], 1);
 }

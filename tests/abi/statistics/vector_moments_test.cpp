@@ -26,7 +26,7 @@ std::vector<double> momentsOf(double* x, int n, short int* flags, double* w, sho
 void expectSameBits(const std::vector<double>& actual, const std::array<double, 8>& expected)
 {
     for (std::size_t k = 0; k < expected.size(); ++k) {
-        EXPECT_TRUE(sameBits(actual[k], expected[k])) << k;
+        EXPECT_SAME_BITS(actual[k], expected[k]) << k;
     }
 }
 
@@ -59,6 +59,6 @@ TEST(FlatVectorMoments, ResultsThatAreNotWantedMayShareAPlace)
     double seKurt = 0.0;
     VB_V_MeanVarSkewPKurtP(x.data(), 4, &unwanted, &unwanted, &unwanted, &unwanted, &skew, &unwanted,
                            &unwanted, &seKurt, flags.data(), w.data(), 0, 0);
-    EXPECT_TRUE(sameBits(skew, apart[4]));
-    EXPECT_TRUE(sameBits(seKurt, apart[7]));
+    EXPECT_SAME_BITS(skew, apart[4]);
+    EXPECT_SAME_BITS(seKurt, apart[7]);
 }

@@ -22,29 +22,28 @@ std::array<short int, 6> flags{0, 0, 0, 0, 7, 0};
 
 TEST(FlatVectorVariance, VarianceAndDeviation)
 {
-    EXPECT_TRUE(sameBits(VB_V_Var(x.data(), 6, flags.data(), w.data(), 0, 0), 14.0 / 4.0));
-    EXPECT_TRUE(sameBits(VB_V_Var(x.data(), 6, flags.data(), w.data(), -1, -1), 14.0 / 3.0));
-    EXPECT_TRUE(sameBits(VB_V_Var(x.data(), 6, flags.data(), w.data(), 1, -1), 14.0 / 4.0));
-    EXPECT_TRUE(sameBits(VB_V_Stdev(x.data(), 6, flags.data(), w.data(), -1, 0), std::sqrt(14.0 / 3.0)));
-    EXPECT_TRUE(sameBits(VB_V_Stdev(x.data(), 1, flags.data(), w.data(), -1, 0), MISSING_DBL));
+    EXPECT_SAME_BITS(VB_V_Var(x.data(), 6, flags.data(), w.data(), 0, 0), 14.0 / 4.0);
+    EXPECT_SAME_BITS(VB_V_Var(x.data(), 6, flags.data(), w.data(), -1, -1), 14.0 / 3.0);
+    EXPECT_SAME_BITS(VB_V_Var(x.data(), 6, flags.data(), w.data(), 1, -1), 14.0 / 4.0);
+    EXPECT_SAME_BITS(VB_V_Stdev(x.data(), 6, flags.data(), w.data(), -1, 0), std::sqrt(14.0 / 3.0));
+    EXPECT_SAME_BITS(VB_V_Stdev(x.data(), 1, flags.data(), w.data(), -1, 0), MISSING_DBL);
 }
 
 TEST(FlatVectorVariance, VarianceOfNothingReadsNothing)
 {
-    EXPECT_TRUE(sameBits(VB_V_Var(nullptr, 0, nullptr, nullptr, 0, 0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(VB_V_Var(nullptr, 0, nullptr, nullptr, -1, -1), -0.0));
-    EXPECT_TRUE(sameBits(VB_V_Var(nullptr, 0, nullptr, nullptr, -1, 0), notANumber));
-    EXPECT_TRUE(sameBits(VB_V_Stdev(nullptr, 0, nullptr, nullptr, 0, 0), MISSING_DBL));
-    EXPECT_TRUE(sameBits(Cpp_V_Var2(nullptr, 0, 0, 0), MISSING_DBL));
+    EXPECT_SAME_BITS(VB_V_Var(nullptr, 0, nullptr, nullptr, 0, 0), MISSING_DBL);
+    EXPECT_SAME_BITS(VB_V_Var(nullptr, 0, nullptr, nullptr, -1, -1), -0.0);
+    EXPECT_SAME_BITS(VB_V_Var(nullptr, 0, nullptr, nullptr, -1, 0), notANumber);
+    EXPECT_SAME_BITS(VB_V_Stdev(nullptr, 0, nullptr, nullptr, 0, 0), MISSING_DBL);
+    EXPECT_SAME_BITS(Cpp_V_Var2(nullptr, 0, 0, 0), MISSING_DBL);
 }
 
 TEST(FlatVectorVariance, UnweightedVarianceIsGuardedAsTheWeightedOneIs)
 {
-    EXPECT_TRUE(sameBits(Cpp_V_Var2(x.data(), 4, 0, 0), 2.0 / 3.0));
-    EXPECT_TRUE(sameBits(Cpp_V_Var2(x.data(), 4, -1, -1), 1.0));
-    EXPECT_TRUE(sameBits(Cpp_V_Var2(x.data(), 4, -1, 0), 1.0));
-    EXPECT_TRUE(sameBits(Cpp_V_Var2(x.data(), 1, -1, 0), MISSING_DBL))
-        << "not the NaN of an unguarded division";
+    EXPECT_SAME_BITS(Cpp_V_Var2(x.data(), 4, 0, 0), 2.0 / 3.0);
+    EXPECT_SAME_BITS(Cpp_V_Var2(x.data(), 4, -1, -1), 1.0);
+    EXPECT_SAME_BITS(Cpp_V_Var2(x.data(), 4, -1, 0), 1.0);
+    EXPECT_SAME_BITS(Cpp_V_Var2(x.data(), 1, -1, 0), MISSING_DBL) << "not the NaN of an unguarded division";
 }
 
 TEST(FlatVectorVariance, MeanWithItsSpread)
@@ -52,8 +51,8 @@ TEST(FlatVectorVariance, MeanWithItsSpread)
     guarded<double> mean{77};
     guarded<double> spread{77};
     const auto expectBoth = [&](double expectedMean, double expectedSpread) {
-        EXPECT_TRUE(sameBits(valuesOf(mean)[0], expectedMean));
-        EXPECT_TRUE(sameBits(valuesOf(spread)[0], expectedSpread));
+        EXPECT_SAME_BITS(valuesOf(mean)[0], expectedMean);
+        EXPECT_SAME_BITS(valuesOf(spread)[0], expectedSpread);
     };
     EXPECT_EQ(VB_V_MeanVar(x.data(), 6, mean.data(), spread.data(), flags.data(), w.data(), -1, 0), 0);
     expectBoth(3.0, 14.0 / 3.0);

@@ -67,20 +67,19 @@ TEST(FlatCellMaps, MapEveryCell)
         for (std::size_t k = 0; k < 12; ++k) {
             EXPECT_TRUE(nearlySame(found[k], given.expected[k])) << given.name << " of " << mapped[k];
         }
-        EXPECT_TRUE(sameBits(valuesOf(x)[0], 2.0)) << "the source stays";
+        EXPECT_SAME_BITS(valuesOf(x)[0], 2.0) << "the source stays";
 
         EXPECT_EQ(given.map(x.data(), 12, 0, x.data()), 0);
         const doubles inPlace = valuesOf(x);
         for (std::size_t k = 0; k < 12; ++k) {
-            EXPECT_TRUE(sameBits(inPlace[k], found[k])) << given.name << ", one array, no columns for one";
+            EXPECT_SAME_BITS(inPlace[k], found[k]) << given.name << ", one array, no columns for one";
         }
 
         guarded<double> shifted(mapped);
         EXPECT_EQ(given.map(shifted.data(), 11, 1, shifted.data() + 1), 0);
         const doubles behind = valuesOf(shifted);
         for (std::size_t k = 0; k < 11; ++k) {
-            EXPECT_TRUE(sameBits(behind[k + 1], found[k]))
-                << given.name << ", read before it is written over";
+            EXPECT_SAME_BITS(behind[k + 1], found[k]) << given.name << ", read before it is written over";
         }
 
         guarded<double> none(doubles{7, 7});
@@ -96,7 +95,7 @@ TEST(FlatCellMaps, SquareRootsInPlace)
         EXPECT_EQ(Cpp_M_SquareRootAij2(x.data(), 12, cols), 0);
         const doubles found = valuesOf(x);
         for (std::size_t k = 0; k < 12; ++k) {
-            EXPECT_TRUE(sameBits(found[k], maps[2].expected[k])) << "of " << mapped[k];
+            EXPECT_SAME_BITS(found[k], maps[2].expected[k]) << "of " << mapped[k];
         }
     }
 }

@@ -122,8 +122,8 @@ TEST(FlatTransposedNumbers, KeepTheirBits)
     const auto inPlace = valuesOf(x);
     for (std::size_t i = 0; i < 3; ++i) {
         for (std::size_t j = 0; j < 2; ++j) {
-            EXPECT_TRUE(sameBits(once[j + 2 * i], cells[i + 3 * j]));
-            EXPECT_TRUE(sameBits(inPlace[j + 2 * i], cells[i + 3 * j]));
+            EXPECT_SAME_BITS(once[j + 2 * i], cells[i + 3 * j]);
+            EXPECT_SAME_BITS(inPlace[j + 2 * i], cells[i + 3 * j]);
         }
     }
 }

@@ -100,7 +100,7 @@ TEST(FlatVectorByColumn, IsTheTableInLinearOrder)
     EXPECT_EQ(Cpp_MatToVect(x.data(), 2, 3, v.data()), 0);
     const doubles found = valuesOf(v);
     for (std::size_t k = 0; k < 6; ++k) {
-        EXPECT_TRUE(sameBits(found[k], cells[k]));
+        EXPECT_SAME_BITS(found[k], cells[k]);
     }
     guarded<double> none(doubles{7});
     EXPECT_EQ(Cpp_MatToVect(x.data(), 0, 3, none.data()), 0);

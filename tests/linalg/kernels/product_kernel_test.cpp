@@ -171,7 +171,7 @@ protected:
         EXPECT_EQ(scratch.front(), 1234.5);
         EXPECT_EQ(scratch.back(), 1234.5);
         for (std::size_t k = 0; k < expected.size(); ++k) {
-            ASSERT_TRUE(sameBits(result.cells()[k], expected[k]))
+            ASSERT_SAME_BITS(result.cells()[k], expected[k])
                 << "cell " << k << ", " << form.rows << " x " << form.cols << " x " << form.depth;
         }
     }
