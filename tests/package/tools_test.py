@@ -653,6 +653,19 @@ class Includes(Tree):
         self.expect("include/korvelmathtools/containers/b.h:1: a public header must not include platform/a.h, "
                     "which is not public")
 
+    def test_tests_that_mirror(self):
+        for name in ("tables/a_test", "abi/tables/a_overlap_test", "tables/tables_of_none_test", "abi/memory_test",
+                     "frames/a_test", "fuzz/fuzz_test"):
+            self.write(f"tests/{name}.cpp", "")
+        self.write("src/frames/a.h", "")
+        self.expect()
+
+    def test_test_of_nothing(self):
+        self.write("tests/tables/b_test.cpp", "")
+        self.write("tests/abi/tables/ab_test.cpp", "")
+        self.expect("tests/abi/tables/ab_test.cpp: tables has no topic of that name",
+                    "tests/tables/b_test.cpp: tables has no topic of that name")
+
     def test_private_header_of_what_is_exported(self):
         self.write("src/platform/export.h", "#define KORVEL_API\n/* KORVEL_API marks. */\n")
         self.write("src/tables/a.h", "#if defined(KORVEL_API)\n#endif\nKORVEL_API int V_Sum(int n);\n")

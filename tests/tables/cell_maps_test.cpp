@@ -1,0 +1,29 @@
+#include "tables/cell_maps.h"
+
+#include "containers/element_types.h"
+#include "reference/table_maps.h"
+#include "tables/map_twins.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+using namespace korvel::test;
+namespace plain = korvel::reference;
+
+TEST(CellMaps, SquareRootsAreThePlainLoop)
+{
+    forRandomTables([](random_tables given) {
+        table x = given.input();
+        expectAlike(
+            given.input(), [&](table& out) { M_SquareRootAij(&x, given.rows, given.cols, &out); },
+            [&](table& out) { plain::squareRoots(x, given.rows, given.cols, out); });
+    });
+}
+
+TEST(CellMaps, TheFirstColumnIsSubtractedBeyondTheTableToo)
+{
+    auto x = numbered<double>(2, 2); // 1 2, 3 4
+    M_SubstractFirstCol2(&x, 2, 3);
+    EXPECT_EQ(std::vector<double>(x.data, x.data + 4), (std::vector<double>{0, 0, 2, 2}));
+    EXPECT_EQ(x.oobValue, 0.0);
+}
