@@ -266,6 +266,37 @@ KORVEL_FLAT void openValue(void);
             page,
         )
 
+    LIKE = """\
+/**
+ * Sums integers.
+ *
+ * @like VB_Sum, integers for numbers
+ * @param n length of x
+ */
+KORVEL_FLAT double VB_SumLng(const int* x, int n, const short int* flags);
+
+"""
+
+    def test_takes_over_what_another_function_says(self):
+        self.functions(SUM + self.LIKE)
+        self.make()
+        page = self.read("docs/reference.md")
+        self.assertTrue(
+            page.endswith(
+                textwrap.dedent(
+                    """\
+                    Sums integers.
+
+                    - `x` [in]: n integers
+                    - `n`: length of x
+                    - `flags` [in]: n flags; Null: none is set
+                    - Result: the sum
+                    """
+                )
+            ),
+            page,
+        )
+
     def test_check_names_each_file_that_differs(self):
         self.functions(SUM)
         self.assertEqual(self.run_tool("generate", "--check")[0], 1)
@@ -429,6 +460,21 @@ class BrokenHeaders(Tree):
             "/**\n * Does it.\n * @param a [in] an array\n * @return 0\n */\nKORVEL_FLAT int VB_A(SAFEARRAY** a);\n"
         )
         self.expect(3, "VB_A: @param a must say 'host array of' one of Double, Long, Boolean, String")
+
+    def test_like_nothing_above(self):
+        message = "VB_SumLng: @like names a function above, and after a comma 'word for word'"
+        line = SUM.count("\n") + 4
+        for old, new in (("VB_Sum,", "VB_None,"), ("integers for numbers", "integers"), ("VB_Sum,", "VB_SumLng,")):
+            self.functions(SUM + MadeFiles.LIKE.replace(old, new))
+            code, errors = self.run_tool("generate")
+            self.assertEqual(code, 1)
+            where = f"include/korvelmathtools/frames/sample.h:{line + FIRST_LINE - 1}"
+            self.assertIn(f"{where}: {message}", errors)
+
+    def test_like_that_adds_nothing(self):
+        lone = "/**\n * Does it.\n *\n * @like VB_Sum\n * @param k a number\n */\nKORVEL_FLAT void VB_A(int k);\n"
+        self.functions(SUM + lone)
+        self.expect(SUM.count("\n") + 4, "VB_A: @like VB_Sum adds nothing")
 
     def test_unreadable_line(self):
         self.functions("typedef int number;\n" + SUM)

@@ -47,7 +47,7 @@ class Unreadable(Exception):
 
 @dataclass
 class Tag:
-    """A `@param`, `@return` or `@throws`, with its text as lines."""
+    """A `@param`, `@return`, `@throws` or `@like`, with its text as lines."""
 
     kind: str
     name: str
@@ -151,6 +151,8 @@ def read_doc(comment):
         name = ""
         if kind == "param":
             name, _, rest = rest.partition(" ")
+        elif kind == "like":
+            name, _, rest = rest.partition(",")
         elif kind not in ("return", "throws"):
             raise Unreadable(number, f"@{kind} is not known here")
         target = [rest.strip()]
@@ -186,6 +188,42 @@ def read_prototype(text, line, doc):
             raise Unreadable(line, f"{name}: unknown type '{type_}' of parameter {split.group(2)}")
         parameters.append(Parameter(split.group(2), type_))
     return Function(name, result, parameters, doc, line)
+
+
+def take_over(function, earlier, problem):
+    """`@like OTHER` takes over what a function above says of each parameter, of its result and of what it throws, but
+    for what this function says itself; `@like OTHER, texts for numbers` replaces a word on the way."""
+    doc = function.doc
+    likes = doc.tagged("like")
+    if not likes:
+        return
+    like = likes[0]
+    other = next((f for f in earlier if f.name == like.name), None)
+    words = re.fullmatch(r"(?:(\w+) for (\w+))?", one_line(like.text))
+    if other is None or words is None or len(likes) > 1:
+        problem(like.line, f"{function.name}: @like names a function above, and after a comma 'word for word'")
+        return
+
+    def taken(kind, name, first, more=()):
+        lines = [first, *more]
+        if words.group(1):
+            lines = [re.sub(rf"\b{words.group(2)}\b", words.group(1), line) for line in lines]
+        return Tag(kind, name, like.line, lines)
+
+    own = [tag.name for tag in doc.tagged("param")]
+    names = [p.name for p in function.parameters]
+    params = doc.tagged("param")
+    for p in other.parameters:
+        if p.name in names and p.name not in own:
+            params.append(taken("param", p.name, f"[{p.direction}] {p.text[0]}" if p.direction else p.text[0], p.text[1:]))
+    if len(params) == len(own):
+        problem(like.line, f"{function.name}: @like {like.name} adds nothing")
+    params.sort(key=lambda tag: names.index(tag.name) if tag.name in names else len(names))
+    others = []
+    for kind in ("return", "throws"):
+        theirs = [taken(kind, "", *tag.text[:1], tag.text[1:]) for tag in other.doc.tagged(kind)]
+        others += doc.tagged(kind) or (theirs if kind == "throws" or function.result != "void" else [])
+    doc.tags = params + others
 
 
 def describe(function, problem):
@@ -276,8 +314,10 @@ def read_header(name, path, text, problems):
                     doc = Doc(first + 1)
                     header.functions.append(read_prototype(" ".join(pieces), first + 1, doc))
                 else:
-                    header.functions.append(read_prototype(" ".join(pieces), first + 1, doc))
-                    describe(header.functions[-1], problem)
+                    function = read_prototype(" ".join(pieces), first + 1, doc)
+                    take_over(function, header.functions, problem)
+                    describe(function, problem)
+                    header.functions.append(function)
                 doc = None
             elif not line or re.fullmatch(r'#(ifndef \w+|define \w+|include "[^"]+"|endif)', line):
                 index += 1

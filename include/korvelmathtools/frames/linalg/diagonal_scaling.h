@@ -37,12 +37,8 @@ KORVEL_FLAT int VB_M_ProductTrADiag(const double* a, int n, int p, const double*
  * c(i, k) = a(i, k) * d(k). A missing d(k) makes column k of the result missing, and so does a missing cell
  * its own.
  *
- * @param a [in] n by p cells
- * @param n rows
- * @param p columns
+ * @like VB_M_ProductADiag
  * @param d [in] p numbers
- * @param c [out] n by p cells; may be the array of an argument
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductADiagV(const double* a, int n, int p, const double* d, double* c);
 
@@ -50,12 +46,8 @@ KORVEL_FLAT int VB_M_ProductADiagV(const double* a, int n, int p, const double* 
  * c(i, k) = d(i) * a(i, k). A missing d(i) makes row i of the result missing, and so does a missing cell
  * its own.
  *
+ * @like VB_M_ProductADiag
  * @param d [in] n numbers
- * @param n rows
- * @param a [in] n by p cells
- * @param p columns
- * @param c [out] n by p cells; may be the array of an argument
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductDiagVA(const double* d, int n, const double* a, int p, double* c);
 
@@ -63,13 +55,9 @@ KORVEL_FLAT int VB_M_ProductDiagVA(const double* d, int n, const double* a, int 
  * c(i, k) = (d1(i) * a(i, k)) * d2(k). A missing factor makes its row or column of the result missing, and so
  * does a missing cell its own.
  *
+ * @like VB_M_ProductADiag
  * @param d1 [in] n numbers
- * @param n  rows
- * @param a  [in] n by p cells
- * @param p  columns
  * @param d2 [in] p numbers
- * @param c  [out] n by p cells; may be the array of an argument
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductDiagV1ADiagV2(const double* d1, int n, const double* a, int p, const double* d2,
                                           double* c);
@@ -77,12 +65,8 @@ KORVEL_FLAT int VB_M_ProductDiagV1ADiagV2(const double* d1, int n, const double*
 /**
  * c(k, r) = a(r, k) * d(r). Missing cells are numbers here.
  *
- * @param a [in] n by p cells
- * @param n rows
- * @param p columns
+ * @like VB_M_ProductTrADiag
  * @param d [in] n numbers
- * @param c [out] p by n cells; may be the array of an argument
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductTrADiagV(const double* a, int n, int p, const double* d, double* c);
 

@@ -24,35 +24,24 @@ KORVEL_FLAT int VB_M_ScalarsA(const double* a, int n, int p, double s, double* c
 /**
  * a(i, j) = s * a(i, j); a missing cell stays missing.
  *
+ * @like VB_M_ScalarsA
  * @param a [inout] n by p cells
- * @param n rows
- * @param p columns
- * @param s the factor
- * @return 0
  */
 KORVEL_FLAT int VB_M_ScalarsA2(double* a, int n, int p, double s);
 
 /**
  * c(j, i) = s * a(i, j); a missing cell stays missing.
  *
- * @param a [in] n by p cells
- * @param n rows
- * @param p columns
- * @param s the factor
+ * @like VB_M_ScalarsA
  * @param c [out] p by n cells; may be a
- * @return 0
  */
 KORVEL_FLAT int VB_M_ScalarsTrA(const double* a, int n, int p, double s, double* c);
 
 /**
  * c(i, j) = a(i, j) + s. Missing cells are numbers here: the sum is no longer missing.
  *
- * @param a [in] n by p cells
- * @param n rows
- * @param p columns
+ * @like VB_M_ScalarsA
  * @param s what is added
- * @param c [out] n by p cells; may be the array of an argument
- * @return 0
  */
 KORVEL_FLAT int VB_M_APlusVal(const double* a, int n, int p, double s, double* c);
 
@@ -70,34 +59,23 @@ KORVEL_FLAT int VB_M_APlusVal2(double* a, int n, int p, double s);
 /**
  * a(i, j) = a(i, j) * a(i, j); a missing cell stays missing.
  *
- * @param a [inout] n by p cells
- * @param n rows
- * @param p columns
- * @return 0
+ * @like VB_M_APlusVal2
  */
 KORVEL_FLAT int VB_M_Square(double* a, int n, int p);
 
 /**
  * c(i, j) = a(i, j) * b(i, j). Missing cells are numbers here.
  *
- * @param a [in] n by p cells
- * @param n rows
- * @param p columns
+ * @like VB_M_ScalarsA
  * @param b [in] n by p cells
- * @param c [out] n by p cells; may be the array of an argument
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductByElement(const double* a, int n, int p, const double* b, double* c);
 
 /**
  * c(i, j) = a(i, j) + b(i, j). Missing cells are numbers here.
  *
- * @param a [in] n by p cells
+ * @like VB_M_ScalarsA
  * @param b [in] n by p cells
- * @param n rows
- * @param p columns
- * @param c [out] n by p cells; may be the array of an argument
- * @return 0
  */
 KORVEL_FLAT int Cpp_SumMat(const double* a, const double* b, int n, int p, double* c);
 

@@ -26,26 +26,16 @@ KORVEL_FLAT int VB_M_ProductAB(const double* a, int n, int p, const double* b, i
  * Product of two tables of integers, c = a * b, in 32-bit arithmetic that wraps around. No integer is missing
  * here.
  *
- * @param a [in] integers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
- * @param b [in] integers, p by q, column after column
- * @param q columns of b
- * @param c [out] n by q integers, column after column; may be an array that is read
- * @return 0
+ * @like VB_M_ProductAB, integers for numbers
  */
 KORVEL_FLAT int VB_M_ProductABLng(const int* a, int n, int p, const int* b, int q, int* c);
 
 /**
  * Product of a transposed table and a table, c = a' * b.
  *
- * @param a [in] numbers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
+ * @like VB_M_ProductAB
  * @param b [in] numbers, n by q, column after column
- * @param q columns of b
  * @param c [out] p by q numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductTrAB(const double* a, int n, int p, const double* b, int q, double* c);
 
@@ -65,14 +55,8 @@ KORVEL_FLAT int VB_M_ProductATrB(const double* a, int n, int p, const double* b,
 /**
  * Product with a diagonal that is given as a vector, c = a * diag(d) * b, each term from left to right.
  *
- * @param a [in] numbers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
+ * @like VB_M_ProductAB
  * @param d [in] p numbers
- * @param b [in] numbers, p by q, column after column
- * @param q columns of b
- * @param c [out] n by q numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductADiagVB(const double* a, int n, int p, const double* d, const double* b, int q,
                                     double* c);
@@ -80,14 +64,8 @@ KORVEL_FLAT int VB_M_ProductADiagVB(const double* a, int n, int p, const double*
 /**
  * Product with a diagonal that is given as a vector, c = a * diag(d) * b', each term from left to right.
  *
- * @param a [in] numbers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
+ * @like VB_M_ProductATrB
  * @param d [in] p numbers
- * @param b [in] numbers, m by p, column after column
- * @param m rows of b
- * @param c [out] n by m numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductADiagVTrB(const double* a, int n, int p, const double* d, const double* b, int m,
                                       double* c);

@@ -26,13 +26,9 @@ KORVEL_FLAT int Cpp_M_ProductAB_ST(ST_MVect* a, int n, int p, ST_MVect* b, int q
 /**
  * Product of a transposed labelled table and another, c = a' * b.
  *
- * @param a [in] labelled table of numbers, n by p
- * @param n rows of a
- * @param p columns of a
+ * @like Cpp_M_ProductAB_ST
  * @param b [in] labelled table of numbers, n by q
- * @param q columns of b
  * @param c [inout] labelled table of numbers whose columns receive p by q; its counts become those
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_ProductTrAB_ST(ST_MVect* a, int n, int p, ST_MVect* b, int q, ST_MVect* c);
 

@@ -26,11 +26,7 @@ KORVEL_FLAT int VB_M_ProductTrAA(const double* a, int n, int p, double* c);
  * around, the sum in double precision, cut off to an integer; what no integer can hold gives -2147483648.
  * Only the elements of the upper half are summed; each is stored in both halves.
  *
- * @param a [in] integers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
- * @param c [out] p by p integers, column after column; may be an array that is read
- * @return 0
+ * @like VB_M_ProductTrAA, integers for numbers
  */
 KORVEL_FLAT int Cpp_M_ProductTrAALng(const int* a, int n, int p, int* c);
 
@@ -38,11 +34,8 @@ KORVEL_FLAT int Cpp_M_ProductTrAALng(const int* a, int n, int p, int* c);
  * Product of a table with itself, c = a * a'. Only the elements of the upper half are summed; each is stored
  * in both halves.
  *
- * @param a [in] numbers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
+ * @like VB_M_ProductTrAA
  * @param c [out] n by n numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductATrA(const double* a, int n, int p, double* c);
 
@@ -63,12 +56,8 @@ KORVEL_FLAT int VB_M_ProductADTrA(const double* a, int n, int p, const double* d
  * Product with a diagonal, c = a' * d * a, each term from left to right. Only the elements of the upper half
  * are summed; each is stored in both halves.
  *
- * @param a [in] numbers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
+ * @like VB_M_ProductTrAA
  * @param d [in] numbers, n by n, column after column; only the diagonal is read
- * @param c [out] p by p numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductTrADA(const double* a, int n, int p, const double* d, double* c);
 
@@ -76,12 +65,8 @@ KORVEL_FLAT int VB_M_ProductTrADA(const double* a, int n, int p, const double* d
  * Product with a diagonal that is given as a vector, c = a' * diag(d) * a, each term from left to right. Only
  * the elements of the upper half are summed; each is stored in both halves.
  *
- * @param a [in] numbers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
+ * @like VB_M_ProductTrAA
  * @param d [in] n numbers
- * @param c [out] p by p numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductTrADiagVA(const double* a, int n, int p, const double* d, double* c);
 
@@ -89,12 +74,8 @@ KORVEL_FLAT int VB_M_ProductTrADiagVA(const double* a, int n, int p, const doubl
  * Product with a diagonal that is given as a vector, c = a * diag(d) * a', each term from left to right. Only
  * the elements of the upper half are summed; each is stored in both halves.
  *
- * @param a [in] numbers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
+ * @like VB_M_ProductADTrA
  * @param d [in] p numbers
- * @param c [out] n by n numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductADiagVTrA(const double* a, int n, int p, const double* d, double* c);
 

@@ -27,14 +27,9 @@ KORVEL_FLAT int VB_M_ProductABTrA(const double* a, int n, int p, const double* b
 /**
  * Product of three tables, c = a' * b * a. The work is shared among threads.
  *
- * @param a         [in] numbers, n by p, column after column
- * @param n         rows of a
- * @param p         columns of a
+ * @like VB_M_ProductABTrA
  * @param b         [in] numbers, n by n, column after column
- * @param symmetric 0: all of the product is summed. Any other value promises that b is symmetric: only the
- * lower half is summed and then mirrored
  * @param c         [out] p by p numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductTrABA(const double* a, int n, int p, const double* b, short int symmetric,
                                   double* c);
@@ -58,15 +53,9 @@ KORVEL_FLAT int VB_M_ProductABC(const double* a, int n, int p, const double* b, 
 /**
  * Product of three tables, d = a' * b * c.
  *
- * @param a [in] numbers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
+ * @like VB_M_ProductABC
  * @param b [in] numbers, n by q, column after column
- * @param q columns of b
- * @param c [in] numbers, q by r, column after column
- * @param r columns of c
  * @param d [out] p by r numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductTrABC(const double* a, int n, int p, const double* b, int q, const double* c,
                                   int r, double* d);
@@ -74,15 +63,9 @@ KORVEL_FLAT int VB_M_ProductTrABC(const double* a, int n, int p, const double* b
 /**
  * Product of three tables, d = a * b' * c.
  *
- * @param a [in] numbers, n by p, column after column
- * @param n rows of a
- * @param p columns of a
+ * @like VB_M_ProductABC
  * @param b [in] numbers, q by p, column after column
  * @param q rows of b
- * @param c [in] numbers, q by r, column after column
- * @param r columns of c
- * @param d [out] n by r numbers, column after column; may be an array that is read
- * @return 0
  */
 KORVEL_FLAT int VB_M_ProductATrBC(const double* a, int n, int p, const double* b, int q, const double* c,
                                   int r, double* d);

@@ -43,11 +43,8 @@ KORVEL_FLAT int VB_V_ProductV1V22(double* x1, int n, const double* x2);
 /**
  * The outer product: c(i, j) = x1(i) * x2(j).
  *
- * @param x1 [in] n elements
- * @param n  number of elements
- * @param x2 [in] n elements
+ * @like VB_V_ProductV1V2
  * @param c  [out] n by n cells, column after column
- * @return 0
  */
 KORVEL_FLAT int VB_V_ProductV1TrV2(const double* x1, int n, const double* x2, double* c);
 

@@ -23,26 +23,18 @@ KORVEL_FLAT int VB_SortApply(const double* x, int rows, int cols, const double* 
 /**
  * Takes the rows of a table of integers in a given order: row i of the result is row order[i] of the table.
  *
- * @param x     [in] rows by cols integers
- * @param rows  rows of both tables
- * @param cols  columns of both tables
+ * @like VB_SortApply, integers for numbers
  * @param order [in] rows row numbers from 1, truncated to integers; one that is not the number of a row gives
  * -1
- * @param out   [out] rows by cols integers; may be x
- * @return 0
  */
 KORVEL_FLAT int VB_SortApplyLng(const int* x, int rows, int cols, const double* order, int* out);
 
 /**
  * Takes the rows of a table of texts in a given order: row i of the result is row order[i] of the table.
  *
- * @param x     [in] rows by cols texts
- * @param rows  rows of both tables
- * @param cols  columns of both tables
+ * @like VB_SortApply, texts for numbers
  * @param order [in] rows row numbers from 1, truncated to integers; one that is not the number of a row gives
  * an empty text
- * @param out   [out] rows by cols texts; may be x
- * @return 0
  */
 KORVEL_FLAT int VB_SortApplyStr(OLECHAR* const* x, int rows, int cols, const double* order, OLECHAR** out);
 
@@ -61,36 +53,26 @@ KORVEL_FLAT int VB_SortApply2(double* x, int rows, int cols, const double* order
 /**
  * Puts the rows of a table of integers into a given order, in place: row i becomes what row order[i] was.
  *
+ * @like VB_SortApply2
  * @param x     [inout] rows by cols integers
- * @param rows  rows of the table
- * @param cols  columns of the table
- * @param order [in] rows row numbers from 1, truncated to integers; one that is not the number of a row gives
- * -1
- * @return 0
  */
 KORVEL_FLAT int VB_SortApply2Lng(int* x, int rows, int cols, const double* order);
 
 /**
  * Puts the rows of a table of texts into a given order, in place: row i becomes what row order[i] was.
  *
- * @param x     [inout] rows by cols texts
- * @param rows  rows of the table
- * @param cols  columns of the table
+ * @like VB_SortApply2, texts for numbers
  * @param order [in] rows row numbers from 1, truncated to integers; one that is not the number of a row gives
  * an empty text
- * @return 0
  */
 KORVEL_FLAT int VB_SortApply2Str(OLECHAR** x, int rows, int cols, const double* order);
 
 /**
  * Puts the rows of a table of flags into a given order, in place: row i becomes what row order[i] was.
  *
- * @param x     [inout] rows by cols flags
- * @param rows  rows of the table
- * @param cols  columns of the table
+ * @like VB_SortApply2, flags for numbers
  * @param order [in] rows row numbers from 1, truncated to integers; one that is not the number of a row gives
  * 0
- * @return 0
  */
 KORVEL_FLAT int Cpp_SortApply2Bool(short int* x, int rows, int cols, const double* order);
 
@@ -98,12 +80,8 @@ KORVEL_FLAT int Cpp_SortApply2Bool(short int* x, int rows, int cols, const doubl
  * Puts the rows of a record of labelled columns of numbers into a given order, in place: row i becomes what
  * row order[i] was.
  *
+ * @like VB_SortApply2
  * @param x     [inout] the record; its columns are changed in place
- * @param rows  rows of the table
- * @param cols  columns of the table
- * @param order [in] rows row numbers from 1, truncated to integers; one that is not the number of a row gives
- * -1
- * @return 0
  */
 KORVEL_FLAT int Cpp_SortApply2_ST(ST_MVect* x, int rows, int cols, const double* order);
 

@@ -23,11 +23,7 @@ KORVEL_FLAT double Cpp_V_MeanAbsDev(const double* x, int n, double centre, const
 /**
  * Median of the absolute deviations from a centre; weighted unless the weights are constant.
  *
- * @param x        [in] n numbers
- * @param n        number of elements
- * @param centre   the centre
- * @param iMissing [in] n flags; an element with a non-zero flag is left out
- * @param w        [in] n weights
+ * @like Cpp_V_MeanAbsDev
  * @return the median over the elements kept that are not missing; missing when there are none
  */
 KORVEL_FLAT double Cpp_V_MedianAbsDev(const double* x, int n, double centre, const short int* iMissing,

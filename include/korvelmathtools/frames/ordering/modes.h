@@ -34,11 +34,7 @@ KORVEL_FLAT int VB_V_Mode(OLECHAR* const* labels, int n, const short int* iMissi
  * The label with the greatest sum of weights, the first in the order of code units of equals. Empty labels
  * are not counted.
  *
- * @param labels [in] n texts
- * @param n      number of elements
- * @param w      [in] n weights
- * @param mode   [inout] one text, replaced by the label, empty when there is none
- * @return 0
+ * @like VB_V_Mode
  */
 KORVEL_FLAT int Cpp_V_ModeW2(OLECHAR* const* labels, int n, const double* w, OLECHAR** mode);
 

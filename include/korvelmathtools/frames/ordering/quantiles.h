@@ -33,10 +33,7 @@ KORVEL_FLAT double VB_V_QuantileW(const double* x, int n, const double* w, doubl
 /**
  * Weighted quantile of the elements of positive weight that are not missing.
  *
- * @param x [in] n numbers
- * @param n number of elements
- * @param w [in] n weights
- * @param q probability, not tested: a position outside the data reads -1
+ * @like VB_V_QuantileW
  * @return the quantile; missing when there are none
  */
 KORVEL_FLAT double Cpp_V_QuantileW2(const double* x, int n, const double* w, double q);
@@ -55,12 +52,8 @@ KORVEL_FLAT double VB_V_QuantileM(const double* x, int n, const short int* iMiss
 /**
  * Weighted quantile of the elements that are not missing and not flagged.
  *
- * @param x        [in] n numbers
- * @param n        number of elements
- * @param iMissing [in] n flags; an element with a non-zero flag is left out
+ * @like VB_V_QuantileM
  * @param w        [in] n weights
- * @param q        probability, not tested: a position outside the data reads -1
- * @return the quantile; missing when there are none
  */
 KORVEL_FLAT double VB_V_QuantileMW(const double* x, int n, const short int* iMissing, const double* w,
                                    double q);

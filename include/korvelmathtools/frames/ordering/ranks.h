@@ -20,10 +20,7 @@ KORVEL_FLAT int VB_V_GetRanksDbl(const double* x, int n, double* out);
 /**
  * Dense ranks as integers: 1 for the smallest element, one more at each change of value.
  *
- * @param x   [in] n numbers
- * @param n   number of elements
- * @param out [out] n ranks, in the order of x
- * @return 0
+ * @like VB_V_GetRanksDbl
  */
 KORVEL_FLAT int VB_V_GetRanksLng(const double* x, int n, int* out);
 
@@ -47,13 +44,8 @@ KORVEL_FLAT int VB_V_GetRanksTiesDbl(double* x, int n, short int bRestore, doubl
  * Mid-ranks: tied elements, closer than 1e-15, share the mean of their ranks; a missing element has a missing
  * rank.
  *
- * @param x        [inout] n numbers, sorted ascending
- * @param n        number of elements
+ * @like VB_V_GetRanksTiesDbl
  * @param bRestore -1: x and ranks return to the original order; otherwise they stay sorted
- * @param ranks    [out] n ranks
- * @param nTies    [out] number of groups: tied ones, and single elements that weigh more than 1
- * @param tieSizes [out] room for n numbers; the weight of each group
- * @return 0
  */
 KORVEL_FLAT int VB_V_GetRanksTiesDbl2(double* x, int n, short int bRestore, double* ranks, int* nTies,
                                       double* tieSizes);
@@ -88,11 +80,7 @@ KORVEL_FLAT int VB_V_GetPositionInMatNNm1o2(int k, int n, int* row, int* col);
 /**
  * Position of a linear index in a square table, read row by row. With n below 1 nothing is written.
  *
- * @param k   linear index, from 1
- * @param n   order of the table
- * @param row [out] row, from 1
- * @param col [out] column, from 1
- * @return 0
+ * @like VB_V_GetPositionInMatNNm1o2
  */
 KORVEL_FLAT int VB_V_GetPositionInMatNN(int k, int n, int* row, int* col);
 

@@ -20,10 +20,7 @@ KORVEL_FLAT int VB_V_ReverseDbl(const double* x, int n, double* out);
 /**
  * A vector of flags back to front.
  *
- * @param x   [in] n flags
- * @param n   number of elements
- * @param out [out] n flags; may be x
- * @return 0
+ * @like VB_V_ReverseDbl, flags for numbers
  */
 KORVEL_FLAT int VB_V_ReverseBool(const short int* x, int n, short int* out);
 

@@ -34,18 +34,9 @@ KORVEL_FLAT int VB_SortQDbl(double* x, int rows, int cols, int from, int to, dou
  * Orders the rows of a table of numbers by a key, in the caller's arrays. With bSortKey set and the key at
  * the table's own address, the key is the table's first column, and the columns from the second on move.
  *
- * @param x        [inout] rows by cols numbers
- * @param rows     rows of the table
- * @param cols     columns of the table; 0 counts as 1
- * @param from     first row to sort, from 1
- * @param to       last row to sort, included
- * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
- * set
+ * @like VB_SortQDbl
  * @param aux      [inout] rows by auxCols numbers, moved along unless it is the key or the table itself
  * @param auxCols  columns of aux; 0 counts as 1, below 0 aux is left alone
- * @param bDesc    not 0: descending
- * @param bSortKey not 0: the key is rewritten in sorted order
- * @return 0
  */
 KORVEL_FLAT int VB_SortQDbl2(double* x, int rows, int cols, int from, int to, double* key, double* aux,
                              int auxCols, short int bDesc, short int bSortKey);
@@ -73,18 +64,7 @@ KORVEL_FLAT int VB_SortQByColDbl(double* x, int rows, int cols, int from, int to
 /**
  * Orders the rows of a table of integers by a key of integers.
  *
- * @param x        [inout] rows by cols integers
- * @param rows     rows of the table
- * @param cols     columns of the table; 0 counts as 1
- * @param from     first row to sort, from 1
- * @param to       last row to sort, included
- * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
- * set
- * @param aux      [inout] rows by auxCols integers, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
- * @param bDesc    not 0: descending
- * @param bSortKey not 0: the key is rewritten in sorted order
- * @return 0
+ * @like VB_SortQDbl, integers for numbers
  */
 KORVEL_FLAT int VB_SortQLng(int* x, int rows, int cols, int from, int to, int* key, int* aux, int auxCols,
                             short int bDesc, short int bSortKey);
@@ -92,18 +72,7 @@ KORVEL_FLAT int VB_SortQLng(int* x, int rows, int cols, int from, int to, int* k
 /**
  * Orders the rows of a table of flags by a key of numbers.
  *
- * @param x        [inout] rows by cols flags
- * @param rows     rows of the table
- * @param cols     columns of the table; 0 counts as 1
- * @param from     first row to sort, from 1
- * @param to       last row to sort, included
- * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
- * set
- * @param aux      [inout] rows by auxCols flags, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
- * @param bDesc    not 0: descending
- * @param bSortKey not 0: the key is rewritten in sorted order
- * @return 0
+ * @like VB_SortQDbl, flags for numbers
  */
 KORVEL_FLAT int VB_SortQBool(short int* x, int rows, int cols, int from, int to, double* key, short int* aux,
                              int auxCols, short int bDesc, short int bSortKey);
@@ -111,18 +80,7 @@ KORVEL_FLAT int VB_SortQBool(short int* x, int rows, int cols, int from, int to,
 /**
  * Orders the rows of a table of texts by a key of numbers. A text that stays in its place keeps its BSTR.
  *
- * @param x        [inout] rows by cols texts
- * @param rows     rows of the table
- * @param cols     columns of the table; 0 counts as 1
- * @param from     first row to sort, from 1
- * @param to       last row to sort, included
- * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
- * set
- * @param aux      [inout] rows by auxCols texts, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
- * @param bDesc    not 0: descending
- * @param bSortKey not 0: the key is rewritten in sorted order
- * @return 0
+ * @like VB_SortQDbl, texts for numbers
  */
 KORVEL_FLAT int VB_SortQStr(OLECHAR** x, int rows, int cols, int from, int to, double* key, OLECHAR** aux,
                             int auxCols, short int bDesc, short int bSortKey);
@@ -131,18 +89,8 @@ KORVEL_FLAT int VB_SortQStr(OLECHAR** x, int rows, int cols, int from, int to, d
  * Orders the rows of a record of labelled columns of numbers by a key. A column shorter than `to` is left
  * alone.
  *
+ * @like VB_SortQDbl
  * @param x        [inout] the record; its columns are changed in place
- * @param rows     rows of the table
- * @param cols     columns of the table; 0 counts as 1
- * @param from     first row to sort, from 1
- * @param to       last row to sort, included
- * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
- * set
- * @param aux      [inout] rows by auxCols numbers, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
- * @param bDesc    not 0: descending
- * @param bSortKey not 0: the key is rewritten in sorted order
- * @return 0
  */
 KORVEL_FLAT int Cpp_SortQDbl_ST(ST_MVect* x, int rows, int cols, int from, int to, double* key, double* aux,
                                 int auxCols, short int bDesc, short int bSortKey);
@@ -150,18 +98,8 @@ KORVEL_FLAT int Cpp_SortQDbl_ST(ST_MVect* x, int rows, int cols, int from, int t
 /**
  * Orders the rows of a table of integers, a single array that comes out of a record, by a key of integers.
  *
+ * @like VB_SortQDbl, integers for numbers
  * @param x        [inout] host array of Long, rows by cols
- * @param rows     rows of the table
- * @param cols     columns of the table; 0 counts as 1
- * @param from     first row to sort, from 1
- * @param to       last row to sort, included
- * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
- * set
- * @param aux      [inout] rows by auxCols integers, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
- * @param bDesc    not 0: descending
- * @param bSortKey not 0: the key is rewritten in sorted order
- * @return 0
  */
 KORVEL_FLAT int Cpp_SortQLng_ST(SAFEARRAY** x, int rows, int cols, int from, int to, int* key, int* aux,
                                 int auxCols, short int bDesc, short int bSortKey);
@@ -170,18 +108,8 @@ KORVEL_FLAT int Cpp_SortQLng_ST(SAFEARRAY** x, int rows, int cols, int from, int
  * Orders the rows of a record of labelled columns of texts by a key. A column shorter than `to` is left
  * alone.
  *
+ * @like VB_SortQDbl, texts for numbers
  * @param x        [inout] the record; the texts of its columns are put back where they changed
- * @param rows     rows of the table
- * @param cols     columns of the table; 0 counts as 1
- * @param from     first row to sort, from 1
- * @param to       last row to sort, included
- * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
- * set
- * @param aux      [inout] rows by auxCols texts, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
- * @param bDesc    not 0: descending
- * @param bSortKey not 0: the key is rewritten in sorted order
- * @return 0
  */
 KORVEL_FLAT int Cpp_SortQStr_ST(ST_MVect* x, int rows, int cols, int from, int to, double* key, OLECHAR** aux,
                                 int auxCols, short int bDesc, short int bSortKey);
@@ -189,33 +117,24 @@ KORVEL_FLAT int Cpp_SortQStr_ST(ST_MVect* x, int rows, int cols, int from, int t
 /**
  * Puts the rows of a table of numbers with key 0 first, in their order, then those with key 1.
  *
- * @param x    [inout] rows by cols numbers
- * @param rows rows of the table
- * @param cols columns of the table; 0 counts as 1
+ * @like VB_SortQDbl
  * @param key  [inout] rows keys, rewritten in sorted order
- * @return 0
  */
 KORVEL_FLAT int VB_SortDataBy01(double* x, int rows, int cols, double* key);
 
 /**
  * Puts the rows of a table of flags with key 0 first, in their order, then those with key 1.
  *
- * @param x    [inout] rows by cols flags
- * @param rows rows of the table
- * @param cols columns of the table; 0 counts as 1
+ * @like VB_SortQDbl, flags for numbers
  * @param key  [inout] rows keys, rewritten in sorted order
- * @return 0
  */
 KORVEL_FLAT int VB_SortDataBy01Bool(short int* x, int rows, int cols, double* key);
 
 /**
  * Puts the rows of a table of texts with key 0 first, in their order, then those with key 1.
  *
- * @param x    [inout] rows by cols texts
- * @param rows rows of the table
- * @param cols columns of the table; 0 counts as 1
+ * @like VB_SortQDbl, texts for numbers
  * @param key  [inout] rows keys, rewritten in sorted order
- * @return 0
  */
 KORVEL_FLAT int VB_SortDataBy01Str(OLECHAR** x, int rows, int cols, double* key);
 

@@ -24,12 +24,7 @@ KORVEL_FLAT int VB_SortQVectorDbl(SAFEARRAY** sa, int ignored, int from, int to,
 /**
  * Sorts positions `from..to` of a vector of integers.
  *
- * @param sa      [inout] host array of Long, one column, sorted in place
- * @param ignored not used; the array knows its length
- * @param from    first position, from 1
- * @param to      last position, included
- * @param bDesc   not 0: descending
- * @return 0
+ * @like VB_SortQVectorDbl, Long for Double
  */
 KORVEL_FLAT int VB_SortQVectorLng(SAFEARRAY** sa, int ignored, int from, int to, short int bDesc);
 
@@ -48,13 +43,8 @@ KORVEL_FLAT int VB_SortQVectorStr(OLECHAR** x, int n, int from, int to, short in
 /**
  * Sorts positions `from..to` of a vector of texts, and tells where each text came from.
  *
- * @param x     [inout] n texts
- * @param n     number of texts
- * @param from  first position, from 1
- * @param to    last position, included
- * @param bDesc not 0: descending
+ * @like VB_SortQVectorStr
  * @param index [out] n numbers: the original position, from 1, of the text that now stands there
- * @return 0
  */
 KORVEL_FLAT int Cpp_SortQVector2Str(OLECHAR** x, int n, int from, int to, short int bDesc, int* index);
 

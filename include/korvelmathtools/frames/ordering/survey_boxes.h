@@ -30,18 +30,10 @@ KORVEL_FLAT int Cpp_V_TopBottom3Box(const double* x, int n, const double* w, dou
  * weight that counts at a sorted position is the one that stood at that position before the sort, so weights
  * should be constant.
  *
- * @param x          [in] n scores
- * @param n          number of scores; below 1 all boxes are 0
+ * @like Cpp_V_TopBottom3Box
  * @param w          [inout] n weights, moved into the order of the scores
  * @param group      [in] n group values
  * @param groupValue the group to count
- * @param top1       [out] weight of the highest level
- * @param bottom1    [out] weight of the lowest level
- * @param top2       [out] weight of the highest two levels
- * @param bottom2    [out] weight of the lowest two levels
- * @param top3       [out] weight of the highest three levels
- * @param bottom3    [out] weight of the lowest three levels
- * @return 0
  */
 KORVEL_FLAT int Cpp_V_TopBottom3BoxConditional(const double* x, int n, double* w, const double* group,
                                                double groupValue, double* top1, double* bottom1, double* top2,

@@ -22,11 +22,8 @@ KORVEL_FLAT int Cpp_V_Trim(OLECHAR* const* labels, int n, short int bLeft, short
 /**
  * Strips spaces (U+0020) from the ends of texts, in place.
  *
+ * @like Cpp_V_Trim
  * @param labels [inout] n texts
- * @param n      number of texts
- * @param bLeft  -1: at the left end
- * @param bRight -1: at the right end
- * @return 0
  */
 KORVEL_FLAT int Cpp_V_Trim2(OLECHAR** labels, int n, short int bLeft, short int bRight);
 

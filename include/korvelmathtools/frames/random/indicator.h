@@ -49,14 +49,9 @@ KORVEL_FLAT int VB_GenerateRandomIndicator(double* out, int n, int k, int* seed,
 /**
  * Marks a random subset of k out of n elements of a host array.
  *
+ * @like VB_GenerateRandomIndicator
  * @param out      [inout] host array of Double: its first n elements become 1 for the elements of the subset,
  * 0 for the others
- * @param n        number of elements
- * @param k        size of the subset; below 1 none, from n on all
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
- * @param nextSeed [out] a seed for the next run
- * @return 0
  */
 KORVEL_FLAT int Cpp_GenerateRandomIndicator_ST(SAFEARRAY** out, int n, int k, int* seed, short int flag,
                                                int* nextSeed);

@@ -30,14 +30,7 @@ KORVEL_FLAT int Cpp_Random1toNLong(int* out, int n, short int bReset, int* seed,
 /**
  * Random permutation of the numbers 1 to n.
  *
- * @param out      [inout] n numbers
- * @param n        number of elements; below 2 nothing is drawn
- * @param bReset   -1: start from 1 to n in order, as is also done when the first element is 0. Otherwise what
- * out holds is shuffled
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     [inout] 0 when no seed is given, and then set to -1
- * @param nextSeed [out] a seed for the next run
- * @return 0
+ * @like Cpp_Random1toNLong, numbers for integers
  */
 KORVEL_FLAT int Cpp_Random1toNDbl(double* out, int n, short int bReset, int* seed, short int* flag,
                                   int* nextSeed);
@@ -62,16 +55,9 @@ KORVEL_FLAT int Cpp_RandomAtoBLng(int* out, int a, int b, short int bReset, int*
 /**
  * Random permutation of the numbers from a to b in steps of 1, of which the array gets all but the last two.
  *
- * @param out      [inout] b - a - 1 numbers, the first ones of the b - a + 1 that are permuted; a single one
- * when a equals b
+ * @like Cpp_RandomAtoBLng, numbers for integers
  * @param a        the smallest number
  * @param b        the largest number
- * @param bReset   -1: start from a to b in order, as is also done when the first element is 0. Otherwise what
- * out holds is shuffled, and a - 1 added to it
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     [inout] 0 when no seed is given, and then set to -1
- * @param nextSeed [out] a seed for the next run
- * @return 0
  */
 KORVEL_FLAT int Cpp_RandomAtoBDbl(double* out, int a, int b, short int bReset, int* seed, short int* flag,
                                   int* nextSeed);

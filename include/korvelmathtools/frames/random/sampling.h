@@ -45,14 +45,10 @@ KORVEL_FLAT int VB_M_SampleUserDefined(OLECHAR* const* table, int rows, int cols
 /**
  * Takes each row of a chunked table as many times as the caller says, in the order of the rows.
  *
+ * @like VB_M_SampleUserDefined
  * @param table    [in] host array of cols records, each with a text column of rows texts
- * @param rows     number of rows
- * @param cols     number of columns
  * @param sample   [inout] host array of cols records, each with a text column of as many rows as the
  * truncated positive counts add up to
- * @param counts   [in] rows numbers, truncated; a row with a number below 1 is left out
- * @param selected [out] a number for each row of the sample: its row number in the table
- * @return 0
  */
 KORVEL_FLAT int VB_M_SampleUserDefinedSPV(Hostarray** table, int rows, int cols, Hostarray** sample,
                                           const double* counts, double* selected);
@@ -61,16 +57,9 @@ KORVEL_FLAT int VB_M_SampleUserDefinedSPV(Hostarray** table, int rows, int cols,
  * Systematic sample of rows with a random start: with the step s, the quotient (rows - 1) / (k - 1) without
  * its fraction, every s-th row from a random one of the first rows - (k - 1) s.
  *
- * @param table    [in] rows by cols texts
- * @param rows     number of rows
- * @param cols     number of columns
+ * @like VB_M_SamplingWithReplacement
  * @param k        size of the sample; of 1, or above the number of rows, takes one row
- * @param sample   [inout] k by cols texts
  * @param selected [inout] rows numbers: receives rows + 1 for each row that is not taken; the others stay
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
- * @param nextSeed [out] a seed for the next run
- * @return 0
  */
 KORVEL_FLAT int VB_M_SamplingSystematicRdStart(OLECHAR* const* table, int rows, int cols, int k,
                                                OLECHAR** sample, double* selected, int* seed, short int flag,
@@ -97,13 +86,9 @@ KORVEL_FLAT int VB_M_SamplingSystematicRdStartSPV(Hostarray** table, int rows, i
 /**
  * Systematic sample of rows with a start in the middle of the possible ones. Nothing is drawn.
  *
- * @param table    [in] rows by cols texts
- * @param rows     number of rows
- * @param cols     number of columns
+ * @like VB_M_SamplingWithReplacement
  * @param k        size of the sample; of 1, or above the number of rows, takes one row
- * @param sample   [inout] k by cols texts
  * @param selected [inout] rows numbers: receives rows + 1 for each row that is not taken; the others stay
- * @return 0
  */
 KORVEL_FLAT int VB_M_SamplingSystematicCentered(OLECHAR* const* table, int rows, int cols, int k,
                                                 OLECHAR** sample, double* selected);
@@ -111,13 +96,7 @@ KORVEL_FLAT int VB_M_SamplingSystematicCentered(OLECHAR* const* table, int rows,
 /**
  * Systematic sample of the rows of a chunked table with a start in the middle of the possible ones.
  *
- * @param table    [in] host array of cols records, each with a text column of rows texts
- * @param rows     number of rows
- * @param cols     number of columns
- * @param k        size of the sample; of 1, or above the number of rows, takes one row
- * @param sample   [inout] host array of cols records, each with a text column of k texts
- * @param selected [inout] rows numbers: receives rows + 1 for each row that is not taken; the others stay
- * @return 0
+ * @like VB_M_SamplingSystematicRdStartSPV
  */
 KORVEL_FLAT int VB_M_SamplingSystematicCenteredSPV(Hostarray** table, int rows, int cols, int k,
                                                    Hostarray** sample, double* selected);
@@ -125,16 +104,9 @@ KORVEL_FLAT int VB_M_SamplingSystematicCenteredSPV(Hostarray** table, int rows, 
 /**
  * One random row from each of k strata of consecutive rows. Strata may overlap.
  *
- * @param table    [in] rows by cols texts
- * @param rows     number of rows
- * @param cols     number of columns
+ * @like VB_M_SamplingWithReplacement
  * @param k        size of the sample; of 1, or above the number of rows, takes one row
- * @param sample   [inout] k by cols texts
  * @param selected [inout] k numbers: the row number of each row of the sample
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
- * @param nextSeed [out] a seed for the next run
- * @return 0
  */
 KORVEL_FLAT int VB_M_SamplingRandomStratified(OLECHAR* const* table, int rows, int cols, int k,
                                               OLECHAR** sample, double* selected, int* seed, short int flag,
@@ -143,16 +115,8 @@ KORVEL_FLAT int VB_M_SamplingRandomStratified(OLECHAR* const* table, int rows, i
 /**
  * One random row of a chunked table from each of k strata of consecutive rows. Strata may overlap.
  *
- * @param table    [in] host array of cols records, each with a text column of rows texts
- * @param rows     number of rows
- * @param cols     number of columns
- * @param k        size of the sample; of 1, or above the number of rows, takes one row
- * @param sample   [inout] host array of cols records, each with a text column of k texts
+ * @like VB_M_SamplingSystematicRdStartSPV
  * @param selected [inout] k numbers: the row number of each row of the sample
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
- * @param nextSeed [out] a seed for the next run
- * @return 0
  */
 KORVEL_FLAT int VB_M_SamplingRandomStratifiedSPV(Hostarray** table, int rows, int cols, int k,
                                                  Hostarray** sample, double* selected, int* seed,

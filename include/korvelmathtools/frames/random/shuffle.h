@@ -24,12 +24,7 @@ KORVEL_FLAT int Cpp_V_Shuffle(double* x, int n, int* seed, short int flag, int* 
 /**
  * Shuffles a vector of integers.
  *
- * @param x        [inout] n integers
- * @param n        number of elements
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
- * @param nextSeed [out] a seed for the next run
- * @return 0
+ * @like Cpp_V_Shuffle, integers for numbers
  */
 KORVEL_FLAT int Cpp_V_ShuffleLng(int* x, int n, int* seed, short int flag, int* nextSeed);
 
@@ -49,27 +44,16 @@ KORVEL_FLAT int Cpp_M_ShuffleDbl2(double* x, int rows, int cols, int* seed, shor
 /**
  * Shuffles the rows of a table of texts in place; the columns of a row stay together.
  *
- * @param x        [inout] rows by cols texts
- * @param rows     number of rows
- * @param cols     number of columns
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
- * @param nextSeed [out] a seed for the next run
- * @return 0
+ * @like Cpp_M_ShuffleDbl2, texts for numbers
  */
 KORVEL_FLAT int Cpp_M_ShuffleStr2(OLECHAR** x, int rows, int cols, int* seed, short int flag, int* nextSeed);
 
 /**
  * Shuffles the rows of a table of numbers into another table; the columns of a row stay together.
  *
+ * @like Cpp_M_ShuffleDbl2
  * @param x        [in] rows by cols numbers
- * @param rows     number of rows
- * @param cols     number of columns
  * @param out      [out] rows by cols numbers; may be x
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
- * @param nextSeed [out] a seed for the next run
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_ShuffleDbl(const double* x, int rows, int cols, double* out, int* seed, short int flag,
                                  int* nextSeed);
@@ -77,14 +61,9 @@ KORVEL_FLAT int Cpp_M_ShuffleDbl(const double* x, int rows, int cols, double* ou
 /**
  * Shuffles the rows of a table of texts into another table; the columns of a row stay together.
  *
+ * @like Cpp_M_ShuffleDbl2
  * @param x        [in] rows by cols texts
- * @param rows     number of rows
- * @param cols     number of columns
  * @param out      [inout] rows by cols texts, replaced where they differ; may be x
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
- * @param nextSeed [out] a seed for the next run
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_ShuffleStr(OLECHAR* const* x, int rows, int cols, OLECHAR** out, int* seed,
                                  short int flag, int* nextSeed);

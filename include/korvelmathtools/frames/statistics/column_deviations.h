@@ -39,17 +39,9 @@ KORVEL_FLAT int VB_M_MeanStDev(const double* x, int rows, int cols, double* mean
 /**
  * Means, standard deviations and variances of the columns.
  *
- * @param x         [in] rows by cols numbers
- * @param rows      rows
- * @param cols      columns
- * @param means     [out] cols means
- * @param sds       [out] cols deviations
+ * @like VB_M_MeanStDev
  * @param vars      [out] cols variances
  * @param iMissing  [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
- * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
- * @return 0
  */
 KORVEL_FLAT int VB_M_MeanStDevVar(const double* x, int rows, int cols, double* means, double* sds,
                                   double* vars, const short int* iMissing, const double* w,
@@ -58,15 +50,10 @@ KORVEL_FLAT int VB_M_MeanStDevVar(const double* x, int rows, int cols, double* m
 /**
  * Means and standard deviations of the rows.
  *
- * @param x         [in] rows by cols numbers
- * @param rows      rows
- * @param cols      columns
+ * @like VB_M_MeanStDev
  * @param means     [out] rows means
  * @param sds       [out] rows deviations
  * @param w         [in] cols weights, one for each column
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
- * @return 0
  */
 KORVEL_FLAT int VB_M_MeanStDevByRow(const double* x, int rows, int cols, double* means, double* sds,
                                     const double* w, short int bUnbiased, short int bFreq);
@@ -75,16 +62,10 @@ KORVEL_FLAT int VB_M_MeanStDevByRow(const double* x, int rows, int cols, double*
  * Mean, standard deviation and variance of all cells as one sample, column after column, each cell with the
  * weight of its row.
  *
- * @param x         [in] rows by cols numbers
- * @param rows      rows
- * @param cols      columns
+ * @like VB_M_MeanStDev
  * @param mean      [out] the mean
  * @param sd        [out] the deviation
  * @param var       [out] the variance
- * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
- * @return 0
  */
 KORVEL_FLAT int VB_M_MeanStDevVarOneInMat(const double* x, int rows, int cols, double* mean, double* sd,
                                           double* var, const double* w, short int bUnbiased, short int bFreq);

@@ -29,19 +29,10 @@ KORVEL_FLAT int VB_M_GroupBy(const double* x, int rows, int cols, const int* kin
 /**
  * Aggregates the rows that share the value of a key column, with a weight for each row.
  *
- * @param x        [in] rows by cols numbers
- * @param rows     rows of the table
- * @param cols     columns of the table
- * @param kinds    [in] cols entries, not 0 for a qualitative column, whose aggregate is the most frequent
- * code
- * @param groupCol the key column, from 1
+ * @like VB_M_GroupBy
  * @param method   aggregate of the other columns: 0 weighted sum, 1 weighted mean, 2 weighted median, 3 first
  * row, 4 last row, 5 minimum, 6 maximum, 7 range; any other number leaves the sorted input
- * @param nOut     [out] number of groups
- * @param out      [out] rows by cols numbers; the first nOut rows are the result, those below keep the sorted
- * input
  * @param w        [in] rows weights
- * @return 0
  */
 KORVEL_FLAT int VB_M_GroupByW(const double* x, int rows, int cols, const int* kinds, int groupCol, int method,
                               int* nOut, double* out, const double* w);

@@ -159,10 +159,7 @@ KORVEL_FLAT double VB_V_MinAndMinPos(const double* x, int n, int* pos, short int
 /**
  * The largest of all elements, missing ones too, and the first of its positions.
  *
- * @param x   [in] n numbers
- * @param n   number of elements; below 2 only the first is read
- * @param pos [out] the position, from 1
- * @return the element
+ * @like VB_V_MinAndMinPos
  */
 KORVEL_FLAT double VB_V_MaxAndMaxPos(const double* x, int n, int* pos);
 

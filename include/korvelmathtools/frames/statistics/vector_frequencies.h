@@ -23,12 +23,7 @@ KORVEL_FLAT double VB_V_Freq(const double* x, int n, const double* w, double val
 /**
  * Total weight of the integers that are near a value.
  *
- * @param x     [in] n integers
- * @param n     number of elements
- * @param w     [in] n weights
- * @param value the value
- * @param tol   an element counts when its distance from the value is less than this, so that 0 counts none
- * @return the sum of their weights; 0.0 when there are none
+ * @like VB_V_Freq, integers for numbers
  */
 KORVEL_FLAT double VB_V_FreqLng(const int* x, int n, const double* w, double value, double tol);
 

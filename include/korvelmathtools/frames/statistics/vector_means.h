@@ -21,10 +21,7 @@ KORVEL_FLAT double VB_V_Mean(const double* x, int n, const short int* iMissing, 
 /**
  * Weighted mean of absolute values.
  *
- * @param x        [in] n numbers
- * @param n        number of elements
- * @param iMissing [in] n flags; an element with a non-zero flag is left out, and so is a missing one
- * @param w        [in] n weights; a missing one is a number like any other
+ * @like VB_V_Mean
  * @return the sum of w[i] * |x[i]| over the sum of w[i]; missing when n is below 1 or the weights kept sum to
  * exactly 0
  */
@@ -53,10 +50,7 @@ KORVEL_FLAT double Cpp_V_MeanW2(const double* x, int n, const double* w);
 /**
  * Weighted harmonic mean: the sum of w[i] over the sum of w[i] / x[i].
  *
- * @param x        [in] n numbers
- * @param n        number of elements
- * @param iMissing [in] n flags; an element with a non-zero flag is left out, and so is a missing one
- * @param w        [in] n weights; a missing one is a number like any other
+ * @like VB_V_Mean
  * @return the mean; missing when n is below 1, when an element kept is 0, and when the quotients sum to
  * exactly 0
  */

@@ -79,10 +79,7 @@ KORVEL_FLAT double VB_V_SumFromTo(const double* x, int n, int from, int to);
 /**
  * Sum over a stretch of a vector of integers, in 32-bit arithmetic that wraps around.
  *
- * @param x    [in] integers, at least as many as `to`
- * @param n    not used
- * @param from first position, from 1
- * @param to   last position, from 1
+ * @like VB_V_SumFromTo, integers for numbers
  * @return the wrapped sum; 0 when `from` is above `to`
  */
 KORVEL_FLAT int VB_V_SumFromToLng(const int* x, int n, int from, int to);

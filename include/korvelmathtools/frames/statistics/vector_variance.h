@@ -30,10 +30,7 @@ KORVEL_FLAT double VB_V_Var(const double* x, int n, const short int* iMissing, c
 /**
  * Variance of the elements that are not missing, all of weight 1: VB_V_Var with no flag set.
  *
- * @param x         [in] n numbers
- * @param n         number of elements
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @like VB_V_Var
  * @return as for VB_V_Var
  */
 KORVEL_FLAT double Cpp_V_Var2(const double* x, int n, short int bUnbiased, short int bFreq);
@@ -41,12 +38,7 @@ KORVEL_FLAT double Cpp_V_Var2(const double* x, int n, short int bUnbiased, short
 /**
  * Weighted standard deviation: the square root of VB_V_Var.
  *
- * @param x         [in] n numbers
- * @param n         number of elements
- * @param iMissing  [in] n flags; an element with a non-zero flag is left out, and so is a missing one
- * @param w         [in] n weights; a missing one is a number like any other
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @like VB_V_Var
  * @return the root; 0.0 for a variance of 0; missing for a negative one and for a missing one
  */
 KORVEL_FLAT double VB_V_Stdev(const double* x, int n, const short int* iMissing, const double* w,
@@ -55,14 +47,9 @@ KORVEL_FLAT double VB_V_Stdev(const double* x, int n, const short int* iMissing,
 /**
  * Weighted mean and variance. When nothing is kept both are 0.0.
  *
- * @param x         [in] n numbers
- * @param n         number of elements
+ * @like VB_V_Var
  * @param mean      [out] the mean
  * @param var       [out] the variance: missing unless the denominator is greater than 0
- * @param iMissing  [in] n flags; an element with a non-zero flag is left out, and so is a missing one
- * @param w         [in] n weights; a missing one is a number like any other
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
  * @return 0
  */
 KORVEL_FLAT int VB_V_MeanVar(const double* x, int n, double* mean, double* var, const short int* iMissing,
@@ -86,15 +73,10 @@ KORVEL_FLAT int Cpp_V_MeanVarW2(const double* x, int n, const double* w, double*
 /**
  * Weighted mean and standard deviation. When nothing is kept both are 0.0.
  *
- * @param x         [in] n numbers
- * @param n         number of elements
+ * @like VB_V_Var
  * @param mean      [out] the mean
  * @param sd        [out] the standard deviation: missing unless the denominator is greater than 0, and for a
  * negative variance
- * @param iMissing  [in] n flags; an element with a non-zero flag is left out, and so is a missing one
- * @param w         [in] n weights; a missing one is a number like any other
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
  * @return 0
  */
 KORVEL_FLAT int VB_V_MeanStdev(const double* x, int n, double* mean, double* sd, const short int* iMissing,

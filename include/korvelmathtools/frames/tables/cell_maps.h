@@ -21,22 +21,15 @@ KORVEL_FLAT int VB_M_LogMatrix(const double* x, int rows, int cols, double* y);
 /**
  * Logarithms to base 10.
  *
- * @param x    [in] rows by cols numbers
- * @param rows rows of both tables
- * @param cols columns of both tables; 0 stands for 1
- * @param y    [out] rows by cols numbers, missing for a cell of 0 or below and for a missing one; may be x
- * @return 0
+ * @like VB_M_LogMatrix
  */
 KORVEL_FLAT int VB_M_Log10Matrix(const double* x, int rows, int cols, double* y);
 
 /**
  * Square roots.
  *
- * @param x    [in] rows by cols numbers
- * @param rows rows of both tables
- * @param cols columns of both tables; 0 stands for 1
+ * @like VB_M_LogMatrix
  * @param y    [out] rows by cols numbers, missing for a cell below 0 and for a missing one; may be x
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_SquareRootAij(const double* x, int rows, int cols, double* y);
 

@@ -46,12 +46,8 @@ KORVEL_FLAT int VB_CopyMatrixRowToMatrixRow(const double* x, int rows, int cols,
 /**
  * Copies a column of a table into a vector.
  *
- * @param x    [in] rows by cols numbers
- * @param rows rows of the table
- * @param cols columns of the table; 0 stands for 1
- * @param col  the column to copy; one that the table does not have reads as -1
+ * @like VB_CopyMatrixColToMatrixCol
  * @param y    [out] rows numbers
- * @return 0
  */
 KORVEL_FLAT int VB_CopyMatrixColToVector(const double* x, int rows, int cols, int col, double* y);
 
@@ -101,18 +97,7 @@ KORVEL_FLAT int VB_V_DuplicateDbl(const double* x, int rows, int cols, int col, 
 /**
  * Copies a range of rows of a column of integers to a place in a table.
  *
- * @param x     [in] rows by cols integers; cells outside of them read as -1
- * @param rows  rows of the table
- * @param cols  columns of the table; 0 stands for 1
- * @param col   the column to copy
- * @param from  first row to copy
- * @param to    last row to copy; below from nothing is done
- * @param y     [inout] yRows by yCols integers; may be x
- * @param yRows rows of the table written; what would fall outside is left out
- * @param yCols columns of the table written; 0 stands for 1
- * @param row   row of y for the first
- * @param yCol  column of y
- * @return 0
+ * @like VB_V_DuplicateDbl, integers for numbers
  */
 KORVEL_FLAT int VB_V_DuplicateLng(const int* x, int rows, int cols, int col, int from, int to, int* y,
                                   int yRows, int yCols, int row, int yCol);
@@ -122,18 +107,8 @@ KORVEL_FLAT int VB_V_DuplicateLng(const int* x, int rows, int cols, int col, int
  *
  * A number loses its fraction; what no integer holds, a missing number too, becomes the missing integer.
  *
- * @param x     [in] rows by cols numbers; cells outside of them read as -1
- * @param rows  rows of the table
- * @param cols  columns of the table; 0 stands for 1
- * @param col   the column to copy
- * @param from  first row to copy
- * @param to    last row to copy; below from nothing is done
+ * @like VB_V_DuplicateDbl
  * @param y     [inout] yRows by yCols integers
- * @param yRows rows of the table written; what would fall outside is left out
- * @param yCols columns of the table written; 0 stands for 1
- * @param row   row of y for the first
- * @param yCol  column of y
- * @return 0
  */
 KORVEL_FLAT int VB_V_DuplicateDblToLng(const double* x, int rows, int cols, int col, int from, int to, int* y,
                                        int yRows, int yCols, int row, int yCol);
@@ -143,18 +118,8 @@ KORVEL_FLAT int VB_V_DuplicateDblToLng(const double* x, int rows, int cols, int 
  *
  * An integer becomes the same number, a missing integer -2147483648, which is not missing.
  *
- * @param x     [in] rows by cols integers; cells outside of them read as -1
- * @param rows  rows of the table
- * @param cols  columns of the table; 0 stands for 1
- * @param col   the column to copy
- * @param from  first row to copy
- * @param to    last row to copy; below from nothing is done
+ * @like VB_V_DuplicateDbl, integers for numbers
  * @param y     [inout] yRows by yCols numbers
- * @param yRows rows of the table written; what would fall outside is left out
- * @param yCols columns of the table written; 0 stands for 1
- * @param row   row of y for the first
- * @param yCol  column of y
- * @return 0
  */
 KORVEL_FLAT int VB_V_DuplicateLngToDbl(const int* x, int rows, int cols, int col, int from, int to, double* y,
                                        int yRows, int yCols, int row, int yCol);
@@ -162,18 +127,8 @@ KORVEL_FLAT int VB_V_DuplicateLngToDbl(const int* x, int rows, int cols, int col
 /**
  * Copies a range of rows of a column of texts to a place in a table.
  *
+ * @like VB_V_DuplicateDbl, texts for numbers
  * @param x     [in] rows by cols texts; cells outside of them read as the empty text
- * @param rows  rows of the table
- * @param cols  columns of the table; 0 stands for 1
- * @param col   the column to copy
- * @param from  first row to copy
- * @param to    last row to copy; below from nothing is done
- * @param y     [inout] yRows by yCols texts; may be x
- * @param yRows rows of the table written; what would fall outside is left out
- * @param yCols columns of the table written; 0 stands for 1
- * @param row   row of y for the first
- * @param yCol  column of y
- * @return 0
  */
 KORVEL_FLAT int VB_V_DuplicateStr(OLECHAR* const* x, int rows, int cols, int col, int from, int to,
                                   OLECHAR** y, int yRows, int yCols, int row, int yCol);
@@ -181,18 +136,8 @@ KORVEL_FLAT int VB_V_DuplicateStr(OLECHAR* const* x, int rows, int cols, int col
 /**
  * Copies a range of rows of a column of flags to a place in a table.
  *
+ * @like VB_V_DuplicateDbl, flags for numbers
  * @param x     [in] rows by cols flags; cells outside of them read as 0
- * @param rows  rows of the table
- * @param cols  columns of the table; 0 stands for 1
- * @param col   the column to copy
- * @param from  first row to copy
- * @param to    last row to copy; below from nothing is done
- * @param y     [inout] yRows by yCols flags; may be x
- * @param yRows rows of the table written; what would fall outside is left out
- * @param yCols columns of the table written; 0 stands for 1
- * @param row   row of y for the first
- * @param yCol  column of y
- * @return 0
  */
 KORVEL_FLAT int Cpp_V_DuplicateBool(const short int* x, int rows, int cols, int col, int from, int to,
                                     short int* y, int yRows, int yCols, int row, int yCol);
@@ -201,14 +146,9 @@ KORVEL_FLAT int Cpp_V_DuplicateBool(const short int* x, int rows, int cols, int 
  * Copies a range of rows of a column of numbers to a place in a table, both host arrays that come out of a
  * record.
  *
+ * @like VB_V_DuplicateDbl
  * @param x    [in] host array of Double; cells outside of it read as -1
- * @param col  the column to copy
- * @param from first row to copy
- * @param to   last row to copy; below from nothing is done
  * @param y    [inout] host array of Double; may be x. What would fall outside is left out
- * @param row  row of y for the first
- * @param yCol column of y
- * @return 0
  */
 KORVEL_FLAT int Cpp_V_DuplicateDbl_ST(SAFEARRAY** x, int col, int from, int to, SAFEARRAY** y, int row,
                                       int yCol);
@@ -217,14 +157,9 @@ KORVEL_FLAT int Cpp_V_DuplicateDbl_ST(SAFEARRAY** x, int col, int from, int to, 
  * Copies a range of rows of a column of integers to a place in a table, both host arrays that come out of a
  * record.
  *
+ * @like VB_V_DuplicateDbl
  * @param x    [in] host array of Long; cells outside of it read as -1
- * @param col  the column to copy
- * @param from first row to copy
- * @param to   last row to copy; below from nothing is done
  * @param y    [inout] host array of Long; may be x. What would fall outside is left out
- * @param row  row of y for the first
- * @param yCol column of y
- * @return 0
  */
 KORVEL_FLAT int Cpp_V_DuplicateLng_ST(SAFEARRAY** x, int col, int from, int to, SAFEARRAY** y, int row,
                                       int yCol);
@@ -233,14 +168,9 @@ KORVEL_FLAT int Cpp_V_DuplicateLng_ST(SAFEARRAY** x, int col, int from, int to, 
  * Copies a range of rows of a column of texts to a place in a table, both host arrays that come out of a
  * record.
  *
+ * @like VB_V_DuplicateDbl
  * @param x    [in] host array of String; cells outside of it read as the empty text
- * @param col  the column to copy
- * @param from first row to copy
- * @param to   last row to copy; below from nothing is done
  * @param y    [inout] host array of String; may be x. What would fall outside is left out
- * @param row  row of y for the first
- * @param yCol column of y
- * @return 0
  */
 KORVEL_FLAT int Cpp_V_DuplicateStr_ST(SAFEARRAY** x, int col, int from, int to, SAFEARRAY** y, int row,
                                       int yCol);

@@ -27,15 +27,7 @@ KORVEL_FLAT int VB_M_DuplicateDbl(const double* x, int rows, int cols, double* y
 /**
  * Copies a table of integers into another.
  *
- * @param x     [in] rows by cols integers
- * @param rows  rows of x
- * @param cols  columns of x; 0 stands for 1
- * @param y     [inout] yRows by yCols integers; may be x
- * @param yRows rows of y
- * @param yCols columns of y; 0 stands for 1
- * @param row   row of y for the first row of x
- * @param col   column of y for the first column of x
- * @return 0
+ * @like VB_M_DuplicateDbl, integers for numbers
  */
 KORVEL_FLAT int VB_M_DuplicateLng(const int* x, int rows, int cols, int* y, int yRows, int yCols, int row,
                                   int col);
@@ -43,15 +35,7 @@ KORVEL_FLAT int VB_M_DuplicateLng(const int* x, int rows, int cols, int* y, int 
 /**
  * Copies a table of texts into another.
  *
- * @param x     [in] rows by cols texts
- * @param rows  rows of x
- * @param cols  columns of x; 0 stands for 1
- * @param y     [inout] yRows by yCols texts; may be x
- * @param yRows rows of y
- * @param yCols columns of y; 0 stands for 1
- * @param row   row of y for the first row of x
- * @param col   column of y for the first column of x
- * @return 0
+ * @like VB_M_DuplicateDbl, texts for numbers
  */
 KORVEL_FLAT int VB_M_DuplicateStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y, int yRows, int yCols,
                                   int row, int col);
@@ -59,15 +43,10 @@ KORVEL_FLAT int VB_M_DuplicateStr(OLECHAR* const* x, int rows, int cols, OLECHAR
 /**
  * Copies a chunked table of texts into a dense one.
  *
+ * @like VB_M_DuplicateDbl
  * @param x     [in] host array of cols records, each with a text column of rows texts
- * @param rows  rows of x
  * @param cols  columns of x
  * @param y     [inout] yRows by yCols texts
- * @param yRows rows of y
- * @param yCols columns of y; 0 stands for 1
- * @param row   row of y for the first row of x
- * @param col   column of y for the first column of x
- * @return 0
  */
 KORVEL_FLAT int VB_M_DuplicateStrSPV(Hostarray** x, int rows, int cols, OLECHAR** y, int yRows, int yCols,
                                      int row, int col);
@@ -91,16 +70,9 @@ KORVEL_FLAT int Cpp_M_DuplicateDbl_ST(ST_MVect* x, int rows, int cols, ST_MVect*
 /**
  * Copies a table of labelled columns of texts into another. Columns that either does not have are left out.
  *
+ * @like Cpp_M_DuplicateDbl_ST
  * @param x     [in] the record, with columns of texts; an element that a column does not have reads as the
 empty text
- * @param rows  rows of x
- * @param cols  columns of x
- * @param y     [inout] another record; elements for which a column has no room are left out
- * @param yRows rows of y
- * @param yCols columns of y
- * @param row   row of y for the first row of x
- * @param col   column of y for the first column of x
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_DuplicateStr_ST(ST_MVect* x, int rows, int cols, ST_MVect* y, int yRows, int yCols,
                                       int row, int col);
@@ -108,15 +80,10 @@ KORVEL_FLAT int Cpp_M_DuplicateStr_ST(ST_MVect* x, int rows, int cols, ST_MVect*
 /**
  * Copies a chunked table into a dense one.
  *
+ * @like VB_M_DuplicateDbl
  * @param x     [in] host array of cols records, each with a numeric column of rows numbers
- * @param rows  rows of x
  * @param cols  columns of x
  * @param y     [inout] yRows by yCols numbers
- * @param yRows rows of y
- * @param yCols columns of y; 0 stands for 1
- * @param row   row of y for the first row of x
- * @param col   column of y for the first column of x
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_DuplicateDblSPV(Hostarray** x, int rows, int cols, double* y, int yRows, int yCols,
                                       int row, int col);
@@ -124,15 +91,9 @@ KORVEL_FLAT int Cpp_M_DuplicateDblSPV(Hostarray** x, int rows, int cols, double*
 /**
  * Copies a dense table into a chunked one.
  *
- * @param x     [in] rows by cols numbers
- * @param rows  rows of x
- * @param cols  columns of x; 0 stands for 1
+ * @like VB_M_DuplicateDbl
  * @param y     [inout] host array of yCols records, each with a numeric column of yRows numbers
- * @param yRows rows of y
  * @param yCols columns of y
- * @param row   row of y for the first row of x
- * @param col   column of y for the first column of x
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_DuplicateDblSPV2(const double* x, int rows, int cols, Hostarray** y, int yRows,
                                        int yCols, int row, int col);
@@ -142,16 +103,10 @@ KORVEL_FLAT int Cpp_M_DuplicateDblSPV2(const double* x, int rows, int cols, Host
 above
  * the diagonal is left out.
  *
- * @param x     [in] rows by cols numbers
- * @param rows  rows of x
- * @param cols  columns of x; 0 stands for 1
+ * @like VB_M_DuplicateDbl
  * @param y     [inout] host array of yCols records, each with a numeric column: of yRows numbers the first,
 and of one less each next
- * @param yRows rows of y
  * @param yCols columns of y
- * @param row   row of y for the first row of x
- * @param col   column of y for the first column of x
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_DuplicateDblSPV2_T(const double* x, int rows, int cols, Hostarray** y, int yRows,
                                          int yCols, int row, int col);
@@ -159,16 +114,10 @@ KORVEL_FLAT int Cpp_M_DuplicateDblSPV2_T(const double* x, int rows, int cols, Ho
 /**
  * Copies a chunked table into another.
  *
+ * @like Cpp_M_DuplicateDbl_ST
  * @param x     [in] host array of cols records, each with a numeric column of rows numbers
- * @param rows  rows of x
- * @param cols  columns of x
  * @param y     [inout] host array of yCols records, each with a numeric column of yRows numbers; another than
  * x
- * @param yRows rows of y
- * @param yCols columns of y
- * @param row   row of y for the first row of x
- * @param col   column of y for the first column of x
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_DuplicateDblSPV3(Hostarray** x, int rows, int cols, Hostarray** y, int yRows, int yCols,
                                        int row, int col);

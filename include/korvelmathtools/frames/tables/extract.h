@@ -25,13 +25,7 @@ KORVEL_FLAT int VB_M_ExtractMatToMatDbl(const double* x, int rows, int cols, int
 /**
  * Takes a range of rows of a table of texts. A row that it does not have gives empty texts.
  *
- * @param x        [in] rows by cols texts
- * @param rows     rows of the table
- * @param cols     columns of the table; 0 stands for 1
- * @param firstRow first row of the range
- * @param lastRow  last row of the range; below firstRow nothing is done
- * @param out      [out] lastRow - firstRow + 1 by cols texts
- * @return 0
+ * @like VB_M_ExtractMatToMatDbl, texts for numbers
  */
 KORVEL_FLAT int VB_M_ExtractMatToMatStr(OLECHAR* const* x, int rows, int cols, int firstRow, int lastRow,
                                         OLECHAR** out);
@@ -39,13 +33,9 @@ KORVEL_FLAT int VB_M_ExtractMatToMatStr(OLECHAR* const* x, int rows, int cols, i
 /**
  * Takes a range of rows of a chunked table of numbers. A row that it does not have gives -1.
  *
+ * @like VB_M_ExtractMatToMatDbl
  * @param x        [in] host array of cols records, each with a numeric column of rows numbers
- * @param rows     rows of the table
  * @param cols     columns of the table
- * @param firstRow first row of the range
- * @param lastRow  last row of the range; below firstRow nothing is done
- * @param out      [out] lastRow - firstRow + 1 by cols numbers
- * @return 0
  */
 KORVEL_FLAT int VB_M_ExtractMatToMatDblSPV(Hostarray** x, int rows, int cols, int firstRow, int lastRow,
                                            double* out);
@@ -53,13 +43,9 @@ KORVEL_FLAT int VB_M_ExtractMatToMatDblSPV(Hostarray** x, int rows, int cols, in
 /**
  * Takes a range of rows of a chunked table of texts. A row that it does not have gives empty texts.
  *
+ * @like VB_M_ExtractMatToMatDbl, texts for numbers
  * @param x        [in] host array of cols records, each with a text column of rows texts
- * @param rows     rows of the table
  * @param cols     columns of the table
- * @param firstRow first row of the range
- * @param lastRow  last row of the range; below firstRow nothing is done
- * @param out      [out] lastRow - firstRow + 1 by cols texts
- * @return 0
  */
 KORVEL_FLAT int VB_M_ExtractMatToMatStrSPV(Hostarray** x, int rows, int cols, int firstRow, int lastRow,
                                            OLECHAR** out);

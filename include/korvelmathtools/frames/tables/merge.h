@@ -31,15 +31,7 @@ KORVEL_FLAT int VB_HMergeTablesDbl(const double* a, int rowsA, int colsA, const 
 /**
  * Puts two tables of flags side by side.
  *
- * @param a     [in] rowsA by colsA flags
- * @param rowsA rows of the first table
- * @param colsA columns of the first table; 0 stands for 1
- * @param b     [in] rowsB by colsB flags
- * @param rowsB rows of the second table
- * @param colsB columns of the second table; 0 stands for 1
- * @param out   [out] flags, as many rows as the longer table by colsA + colsB: the columns of the first
- * table, then those of the second
- * @return 0
+ * @like VB_HMergeTablesDbl, flags for numbers
  */
 KORVEL_FLAT int VB_HMergeTablesBool(const short int* a, int rowsA, int colsA, const short int* b, int rowsB,
                                     int colsB, short int* out);
@@ -47,15 +39,7 @@ KORVEL_FLAT int VB_HMergeTablesBool(const short int* a, int rowsA, int colsA, co
 /**
  * Puts two tables of texts side by side.
  *
- * @param a     [in] rowsA by colsA texts
- * @param rowsA rows of the first table
- * @param colsA columns of the first table; 0 stands for 1
- * @param b     [in] rowsB by colsB texts
- * @param rowsB rows of the second table
- * @param colsB columns of the second table; 0 stands for 1
- * @param out   [out] texts, as many rows as the longer table by colsA + colsB: the columns of the first
- * table, then those of the second
- * @return 0
+ * @like VB_HMergeTablesDbl, texts for numbers
  */
 KORVEL_FLAT int VB_HMergeTablesStr(OLECHAR* const* a, int rowsA, int colsA, OLECHAR* const* b, int rowsB,
                                    int colsB, OLECHAR** out);
@@ -77,28 +61,14 @@ KORVEL_FLAT int VB_HMergeTablesDbl2(double* a, int rowsA, int colsA, const doubl
 /**
  * Adds the columns of a table of integers to the right of another, in place.
  *
- * @param a     [inout] rowsA by colsA + colsB integers, of which the last colsB columns receive the second
- * table; of these, rows that it does not have stay
- * @param rowsA rows of the first table
- * @param colsA columns that the first table has already; 0 stands for 1
- * @param b     [in] rowsB by colsB integers; rows beyond rowsA are left out
- * @param rowsB rows of the second table
- * @param colsB columns of the second table; 0 stands for 1
- * @return 0
+ * @like VB_HMergeTablesDbl2, integers for numbers
  */
 KORVEL_FLAT int VB_HMergeTablesLng2(int* a, int rowsA, int colsA, const int* b, int rowsB, int colsB);
 
 /**
  * Adds the columns of a table of flags to the right of another, in place.
  *
- * @param a     [inout] rowsA by colsA + colsB flags, of which the last colsB columns receive the second
- * table; of these, rows that it does not have stay
- * @param rowsA rows of the first table
- * @param colsA columns that the first table has already; 0 stands for 1
- * @param b     [in] rowsB by colsB flags; rows beyond rowsA are left out
- * @param rowsB rows of the second table
- * @param colsB columns of the second table; 0 stands for 1
- * @return 0
+ * @like VB_HMergeTablesDbl2, flags for numbers
  */
 KORVEL_FLAT int VB_HMergeTablesBool2(short int* a, int rowsA, int colsA, const short int* b, int rowsB,
                                      int colsB);
@@ -106,14 +76,7 @@ KORVEL_FLAT int VB_HMergeTablesBool2(short int* a, int rowsA, int colsA, const s
 /**
  * Adds the columns of a table of texts to the right of another, in place.
  *
- * @param a     [inout] rowsA by colsA + colsB texts, of which the last colsB columns receive the second
- * table; of these, rows that it does not have stay
- * @param rowsA rows of the first table
- * @param colsA columns that the first table has already; 0 stands for 1
- * @param b     [in] rowsB by colsB texts; rows beyond rowsA are left out
- * @param rowsB rows of the second table
- * @param colsB columns of the second table; 0 stands for 1
- * @return 0
+ * @like VB_HMergeTablesDbl2, texts for numbers
  */
 KORVEL_FLAT int VB_HMergeTablesStr2(OLECHAR** a, int rowsA, int colsA, OLECHAR* const* b, int rowsB,
                                     int colsB);
@@ -121,14 +84,10 @@ KORVEL_FLAT int VB_HMergeTablesStr2(OLECHAR** a, int rowsA, int colsA, OLECHAR* 
 /**
  * Adds the columns of a table of numbers to a chunked one, in place.
  *
+ * @like VB_HMergeTablesDbl2
  * @param a     [inout] host array of colsA + colsB records, each with a numeric column of rowsA numbers, of
  * which the last colsB receive the second table
- * @param rowsA rows of the first table
  * @param colsA columns that the first table has already
- * @param b     [in] rowsB by colsB numbers; rows beyond rowsA are left out
- * @param rowsB rows of the second table
- * @param colsB columns of the second table; 0 stands for 1
- * @return 0
  */
 KORVEL_FLAT int VB_HMergeTablesDbl2SPV(Hostarray** a, int rowsA, int colsA, const double* b, int rowsB,
                                        int colsB);
@@ -193,15 +152,9 @@ KORVEL_FLAT int VB_HMergeTableVect2(double* x, int rows, int cols, const double*
 /**
  * Puts a vector to the left of a table.
  *
+ * @like VB_HMergeTableVect
  * @param v       [in] n numbers, for column 1
- * @param n       length of the vector
  * @param x       [in] rows by cols numbers, for the columns from 2 on
- * @param rows    rows of the table
- * @param cols    columns of the table; 0 stands for 1
- * @param out     [out] outRows by outCols numbers; what falls outside of them is left out
- * @param outRows rows of the result
- * @param outCols columns of the result; 0 stands for 1
- * @return 0
  */
 KORVEL_FLAT int VB_HMergeVectTable(const double* v, int n, const double* x, int rows, int cols, double* out,
                                    int outRows, int outCols);
@@ -209,15 +162,10 @@ KORVEL_FLAT int VB_HMergeVectTable(const double* v, int n, const double* x, int 
 /**
  * Puts a vector to the left of one column of a table.
  *
+ * @like VB_HMergeTableVect
  * @param v       [in] n numbers, for column 1
- * @param n       length of the vector
- * @param x       [in] rows by cols numbers
- * @param rows    rows of the table
- * @param cols    columns of the table; 0 stands for 1
  * @param col     the table's column, from 1, for column 2; one that it does not have gives -1
  * @param out     [out] outRows by 2 numbers; what falls outside of them is left out
- * @param outRows rows of the result
- * @return 0
  */
 KORVEL_FLAT int VB_HMergeVectColDbl(const double* v, int n, const double* x, int rows, int cols, int col,
                                     double* out, int outRows);
@@ -225,24 +173,16 @@ KORVEL_FLAT int VB_HMergeVectColDbl(const double* v, int n, const double* x, int
 /**
  * Puts a vector of numbers behind another.
  *
- * @param a   [in] nA numbers
- * @param nA  length of the first vector
- * @param b   [in] nB numbers
- * @param nB  length of the second vector
+ * @like VB_HMergeVectors
  * @param out [out] nA + nB numbers
- * @return 0
  */
 KORVEL_FLAT int VB_VMergeVectorsDbl(const double* a, int nA, const double* b, int nB, double* out);
 
 /**
  * Puts a vector of texts behind another.
  *
- * @param a   [in] nA texts
- * @param nA  length of the first vector
- * @param b   [in] nB texts
- * @param nB  length of the second vector
+ * @like VB_HMergeVectors, texts for numbers
  * @param out [out] nA + nB texts
- * @return 0
  */
 KORVEL_FLAT int VB_VMergeVectorsStr(OLECHAR* const* a, int nA, OLECHAR* const* b, int nB, OLECHAR** out);
 
@@ -260,36 +200,22 @@ KORVEL_FLAT int VB_VMergeVectorsDbl2(double* a, int nA, const double* b, int nB)
 /**
  * Adds a vector of flags behind another, in place.
  *
- * @param a  [inout] nA + nB flags, of which the last nB receive the second vector
- * @param nA length that the first vector has already
- * @param b  [in] nB flags
- * @param nB length of the second vector
- * @return 0
+ * @like VB_VMergeVectorsDbl2, flags for numbers
  */
 KORVEL_FLAT int VB_VMergeVectorsBool2(short int* a, int nA, const short int* b, int nB);
 
 /**
  * Adds a vector of texts behind another, in place.
  *
- * @param a  [inout] nA + nB texts, of which the last nB receive the second vector
- * @param nA length that the first vector has already
- * @param b  [in] nB texts
- * @param nB length of the second vector
- * @return 0
+ * @like VB_VMergeVectorsDbl2, texts for numbers
  */
 KORVEL_FLAT int VB_VMergeVectorsStr2(OLECHAR** a, int nA, OLECHAR* const* b, int nB);
 
 /**
  * Puts a table of numbers below another.
  *
- * @param a     [in] rowsA by colsA numbers
- * @param rowsA rows of the first table
- * @param colsA columns of the first table; 0 stands for 1
- * @param b     [in] rowsB by colsB numbers
- * @param rowsB rows of the second table
- * @param colsB columns of the second table; 0 stands for 1
+ * @like VB_HMergeTablesDbl
  * @param out   [out] rowsA + rowsB rows by as many columns as the wider table numbers
- * @return 0
  */
 KORVEL_FLAT int VB_VMergeTablesDbl(const double* a, int rowsA, int colsA, const double* b, int rowsB,
                                    int colsB, double* out);

@@ -64,12 +64,7 @@ KORVEL_FLAT int VB_M_RemoveRows2(double* x, int rows, int cols, int first, int l
  * Takes a run of rows out of a table of texts in place: those below it move up. The table keeps its shape,
  * and the rows that become free at the bottom keep their texts.
  *
- * @param x     [inout] rows by cols texts
- * @param rows  rows of the table
- * @param cols  columns of the table; 0 stands for 1
- * @param first first row of the run; one below 1 counts as 1
- * @param last  last row of the run; one above rows counts as rows. Below first, nothing happens
- * @return 0
+ * @like VB_M_RemoveRows2, texts for numbers
  */
 KORVEL_FLAT int Cpp_M_RemoveRowsStr2(OLECHAR** x, int rows, int cols, int first, int last);
 
@@ -91,14 +86,10 @@ KORVEL_FLAT int VB_M_RemoveColsInList(const double* x, int rows, int cols, const
 /**
  * Copies a table without the rows in a list.
  *
- * @param x    [in] rows by cols numbers
- * @param rows rows of the table
- * @param cols columns of the table; 0 stands for 1
+ * @like VB_M_RemoveColsInList
  * @param list [in] n numbers of rows, in any order, also more than once. One that is not the number of a row
  * leaves out none
- * @param n    length of the list
  * @param out  [out] as many rows as stay by cols numbers
- * @return 0
  */
 KORVEL_FLAT int VB_M_RemoveRowsInList(const double* x, int rows, int cols, const int* list, int n,
                                       double* out);

@@ -23,13 +23,7 @@ KORVEL_FLAT int VB_M_CopyResize(const double* x, int rows, int cols, double* y, 
 /**
  * Copies a table of flags into another shape. Cells that it does not have become 0.
  *
- * @param x       [in] rows by cols flags
- * @param rows    rows of the table
- * @param cols    columns of the table; 0 stands for 1
- * @param y       [out] newRows by newCols flags; may be x
- * @param newRows rows of the result
- * @param newCols columns of the result; 0 stands for 1
- * @return 0
+ * @like VB_M_CopyResize, flags for numbers
  */
 KORVEL_FLAT int VB_M_CopyResizeBool(const short int* x, int rows, int cols, short int* y, int newRows,
                                     int newCols);
@@ -37,13 +31,7 @@ KORVEL_FLAT int VB_M_CopyResizeBool(const short int* x, int rows, int cols, shor
 /**
  * Copies a table of texts into another shape. Cells that it does not have become the empty text.
  *
- * @param x       [in] rows by cols texts
- * @param rows    rows of the table
- * @param cols    columns of the table; 0 stands for 1
- * @param y       [out] newRows by newCols texts; may be x
- * @param newRows rows of the result
- * @param newCols columns of the result; 0 stands for 1
- * @return 0
+ * @like VB_M_CopyResize, texts for numbers
  */
 KORVEL_FLAT int VB_M_CopyResizeStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y, int newRows,
                                    int newCols);

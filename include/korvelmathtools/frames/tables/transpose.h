@@ -21,23 +21,16 @@ KORVEL_FLAT int VB_M_Transpose(const double* x, int rows, int cols, double* y);
 /**
  * Transposes a table of integers.
  *
- * @param x    [in] rows by cols integers
- * @param rows rows of x
- * @param cols columns of x
- * @param y    [out] cols by rows integers; may be x. With rows 0, cols zeros are written
- * @return 0
+ * @like VB_M_Transpose, integers for numbers
  */
 KORVEL_FLAT int VB_M_TransposeLng(const int* x, int rows, int cols, int* y);
 
 /**
  * Transposes a table of texts.
  *
- * @param x    [in] rows by cols texts
- * @param rows rows of x
- * @param cols columns of x
+ * @like VB_M_Transpose, texts for numbers
  * @param y    [inout] cols by rows texts, replaced where they differ; may be x. With rows 0, cols texts are
  * emptied
- * @return 0
  */
 KORVEL_FLAT int VB_M_TransposeStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y);
 
@@ -54,10 +47,7 @@ KORVEL_FLAT int VB_M_Transpose2(double* x, int rows, int cols);
 /**
  * Transposes a table of integers in place.
  *
- * @param x    [inout] rows by cols integers; cols by rows on return. With rows 0, cols zeros are written
- * @param rows rows of x
- * @param cols columns of x
- * @return 0
+ * @like VB_M_Transpose2, integers for numbers
  */
 KORVEL_FLAT int VB_M_Transpose2Lng(int* x, int rows, int cols);
 

@@ -35,22 +35,15 @@ KORVEL_FLAT int Cpp_VectToMat(const double* v, const double* pattern, int rows, 
 /**
  * The rows of a table one after the other, as a vector.
  *
- * @param x    [in] rows by cols numbers
- * @param rows rows of x
- * @param cols columns of x
- * @param v    [out] rows * cols numbers; may be x
- * @return 0
+ * @like Cpp_MatToVect
  */
 KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowDbl(const double* x, int rows, int cols, double* v);
 
 /**
  * The rows of a table one after the other, as a vector.
  *
- * @param x    [in] rows by cols texts
- * @param rows rows of x
- * @param cols columns of x
+ * @like Cpp_MatToVect, texts for numbers
  * @param v    [inout] rows * cols texts, replaced where they differ; may be x
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowStr(OLECHAR* const* x, int rows, int cols, OLECHAR** v);
 
@@ -68,11 +61,8 @@ KORVEL_FLAT int Cpp_M_CopyVectortoTableByRowDbl(const double* v, int rows, int c
 /**
  * A vector cut into the rows of a table.
  *
- * @param v    [in] rows * cols texts, row after row
- * @param rows rows of x
- * @param cols columns of x
+ * @like Cpp_M_CopyVectortoTableByRowDbl, texts for numbers
  * @param x    [inout] rows by cols texts, replaced where they differ; may be v
- * @return 0
  */
 KORVEL_FLAT int Cpp_M_CopyVectortoTableByRowStr(OLECHAR* const* v, int rows, int cols, OLECHAR** x);
 
