@@ -90,7 +90,7 @@ TEST(OverlappingTables, MapsOfCellsMayReplaceWhatTheyRead)
         map(&x, 3, 4, &apart);
         map(&inPlace, 3, 4, &inPlace);
         EXPECT_EQ(linear(inPlace), linear(apart));
-        EXPECT_TRUE(sameBits(inPlace.oobValue, apart.oobValue));
+        EXPECT_SAME_BITS(inPlace.oobValue, apart.oobValue);
     };
     expectInPlace(M_LogMatrix);
     expectInPlace(M_Log10Matrix);
