@@ -6,7 +6,7 @@ namespace korvel
 namespace
 {
 
-constexpr std::size_t half = mersenne_twister::half_size;
+constexpr std::size_t half = mersenne_twister::halfSize;
 constexpr std::size_t shift = 397;
 
 /** The part of the recurrence that takes the top bit of one word and the other bits of the next. */

@@ -77,7 +77,7 @@ void startSource(CRand& source)
 {
     source.algo = 0;
     source.engine.words.fill(0);
-    source.engine.seed(mersenne_twister::default_seed);
+    source.engine.seed(mersenne_twister::defaultSeed);
     source.s1 = 0;
     source.s2 = 0;
     seedIfBlank(source);

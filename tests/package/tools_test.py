@@ -607,6 +607,26 @@ class Exports(Tree):
         self.assertEqual(self.read("exports/core.txt").splitlines(), self.CORE)
 
 
+class Names(Tree):
+    def test_names_that_callers_know_are_left_alone(self):
+        self.write("exports/core.txt", "V_Sum(matrix<double>*, int)\n")
+        self.write("exports/flat.txt", "VB_V_Sum\n")
+        self.write("include/korvelmathtools/containers/caller_records.h", "int CheckType;\n")
+        script = load("check_names")
+        known = script.known_names(self.root)
+        kinds = {"V_Sum": "function", "VB_V_Sum": "function", "CheckType": "member", "MISSING_DBL": "variable",
+                 "B2": "parameter", "sum_of": "function", "Count": "member", "B": "variable"}
+        output = "".join(f"{self.root}/src/tables/a.h:3:5: warning: invalid case style for {kind} '{name}' [x]\n"
+                         for name, kind in kinds.items())
+        output += f"{self.root}/include/korvelmathtools/platform/automation.h:9:1: " \
+                  "warning: invalid case style for struct 'VARIANT' [x]\n"
+        self.assertEqual(
+            list(script.broken_rules(self.root, output, known)),
+            [f"src/tables/a.h:3: {kind} {name} is not named as docs/names.md says"
+             for kind, name in (("function", "sum_of"), ("member", "Count"), ("variable", "B"))],
+        )
+
+
 class Includes(Tree):
     def expect(self, *lines):
         code, errors = self.run_tool("check_includes")

@@ -41,7 +41,7 @@ protected:
         now.wMinute = 9;
         now.wSecond = 26;
         setStates(0, 1, 1);
-        processSource.engine.seed(mersenne_twister::default_seed);
+        processSource.engine.seed(mersenne_twister::defaultSeed);
     }
 
     ~RandomState() override

@@ -7,7 +7,7 @@ from .flat_headers import one_line
 PREAMBLE = """\
 # Reference of the flat functions
 
-Made by `tools/generate` from the headers in `include/korvelmathtools/frames`: edit those instead.
+Made by `tools/generate` from the headers in `include/korvelmathtools/frames`: edit those instead. [How names are put together](names.md).
 """
 
 

@@ -19,11 +19,11 @@ namespace korvel
  * while it is still needed.
  */
 struct mersenne_twister {
-    static constexpr std::size_t half_size = 624;
-    static constexpr std::uint32_t default_seed = 5489;
+    static constexpr std::size_t halfSize = 624;
+    static constexpr std::uint32_t defaultSeed = 5489;
 
     std::uint32_t index;                            ///< The word that is handed out next.
-    std::array<std::uint32_t, 2 * half_size> words; ///< The ring.
+    std::array<std::uint32_t, 2 * halfSize> words; ///< The ring.
     std::uint32_t temperingMask;                    ///< Applied in the first tempering step; all bits set.
 
     /** Starts the sequence of `value`; the first refill is left to the first draw. */
@@ -32,7 +32,7 @@ struct mersenne_twister {
     /** The next number of the sequence. */
     std::uint32_t next() noexcept
     {
-        if (index == half_size || index >= words.size()) [[unlikely]] {
+        if (index == halfSize || index >= words.size()) [[unlikely]] {
             refill();
         }
         return temper(words[index++]);
@@ -42,10 +42,10 @@ struct mersenne_twister {
      */
     std::size_t available() noexcept
     {
-        if (index == half_size || index >= words.size()) {
+        if (index == halfSize || index >= words.size()) {
             refill();
         }
-        return (index < half_size ? half_size : words.size()) - index;
+        return (index < halfSize ? halfSize : words.size()) - index;
     }
 
     /** The number that a word of the ring is handed out as. */
