@@ -17,14 +17,14 @@ namespace
  */
 void combinedLanes(CRand& source, std::int32_t* out) noexcept
 {
-    std::array<std::int32_t, lanes> s1{source.s1};
-    std::array<std::int32_t, lanes> s2{source.s2};
-    for (std::size_t lane = 1; lane < lanes; ++lane) {
+    std::array<std::int32_t, laneCount> s1{source.s1};
+    std::array<std::int32_t, laneCount> s2{source.s2};
+    for (std::size_t lane = 1; lane < laneCount; ++lane) {
         s1[lane] = first_step::jump<laneLength>(s1[lane - 1]);
         s2[lane] = second_step::jump<laneLength>(s2[lane - 1]);
     }
     for (int i = 0; i < laneLength; ++i) {
-        for (std::size_t lane = 0; lane < lanes; ++lane) {
+        for (std::size_t lane = 0; lane < laneCount; ++lane) {
             out[lane * laneLength + static_cast<std::size_t>(i)] = nextCombined(s1[lane], s2[lane]);
         }
     }

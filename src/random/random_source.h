@@ -24,10 +24,10 @@ inline constexpr int mersenneTwisterSelected = 1;
 /** Turns a raw number into a uniform one: 1 / (2^31 - 1). */
 inline constexpr double RAND_SCALE = 4.656612875245797e-10;
 
-/** A block of the combined generator is walked in lanes side by side, each of this length. */
-inline constexpr int lanes = 4;
+/** A block of the combined generator is walked in lanes side by side, each of `laneLength` draws. */
+inline constexpr int laneCount = 4;
 inline constexpr int laneLength = 256;
-inline constexpr std::size_t laneBlock = std::size_t{lanes} * laneLength;
+inline constexpr std::size_t laneBlock = std::size_t{laneCount} * laneLength;
 
 /** Cells of a table that are drawn at a time. */
 inline constexpr int panelCells = 131072;
