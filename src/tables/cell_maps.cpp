@@ -31,7 +31,7 @@ void M_SquareRootAij2(matrix<double>* x, int rows, int cols)
 
 void M_SubstractFirstCol2(matrix<double>* x, int rows, int cols)
 {
-    // The first column comes last: the others need it.
+    // The first column is changed last, because the others are computed from it.
     for (int j = cols - 1; j >= 0; --j) {
         korvel::withCells(
             [rows](auto first, auto& cells) {

@@ -29,7 +29,7 @@ path::string_type fileCharacters(std::string_view bytes)
     return characters;
 }
 
-/** The first name in the folder for dumps that is not taken; none when there is no desktop. */
+/** The first unused file name in the folder for dumps; none when there is no desktop. */
 std::optional<path> freeFile(std::string_view name)
 {
     const auto desktop = platform::desktopFolder();
@@ -49,7 +49,7 @@ std::optional<path> freeFile(std::string_view name)
     return candidate;
 }
 
-/** The digits that a stream of precision 20 writes, whatever the C library makes of them. */
+/** The digits that a stream of precision 20 writes, the same with every C library. */
 std::string rendered(double value)
 {
     std::array<char, 40> digits{};

@@ -12,7 +12,7 @@ using korvel::writing;
 namespace
 {
 
-/** Rows or columns that stay and stand one behind the other, from 0. */
+/** A run of neighbouring rows or columns that are kept, counted from 0. */
 struct kept_run {
     int first;
     int count;
@@ -43,7 +43,7 @@ std::vector<kept_run> notListed(const matrix<T>& list, int n)
     return runs;
 }
 
-/** Of `n` rows or columns, how many stand before number `k`, and how many when it is counted with them. */
+/** Of `n` rows or columns: how many come before number `k`, and how many up to and including it. */
 struct neighbours {
     int before;
     int upTo;

@@ -21,7 +21,7 @@ template <class From, class To>
 void transposeDense(const matrix<From>& x, int rows, int cols, matrix<To>& y)
 {
     y.Redim(cols, rows);
-    // Every cell of the shape is about to be written: only what lies beyond is cleared.
+    // Every cell inside the shape will be written, so only the cells outside it are cleared.
     if (const std::uint64_t written = cellCount(rows, cols); written < y.nbElem) {
         std::fill(y.data + written, y.data + y.nbElem, To{});
     }
@@ -36,8 +36,8 @@ void transposeInPlace(matrix<T>& x, int rows, int cols)
 }
 
 /**
- * Column after column of the target, as the stores have to follow each other there; in strips and runs that
- * let a cache line of the source serve all of its rows.
+ * Goes column by column through the target, because the stores must happen in that order there. It works in
+ * strips, so that each cache line of the source is read once for all its rows.
  */
 template <class From, class To>
 void transposeView(const From& from, int rows, int cols, const To& to)

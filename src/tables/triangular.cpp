@@ -10,8 +10,7 @@ bool isFilled(double cell)
     return !(cell == 0.0 || cell == MISSING_DBL);
 }
 
-/** Calls `visit(i, j)` for each row i below the diagonal in each column j, until one call says that it is
- * enough. */
+/** Calls `visit(i, j)` for each row i below the diagonal in each column j, until a call returns true. */
 template <class Visit>
 bool untilOnePair(int n, Visit visit)
 {

@@ -2,7 +2,9 @@
 
 #include "support/random_cells.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <vector>
 
 using namespace korvel::test;

@@ -2,6 +2,7 @@
 
 #include "support/random_cells.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <vector>
 
