@@ -8,7 +8,8 @@
 namespace
 {
 
-/** Where row (or column) `i` of a table starts in its vector; for the number of rows, where the last one ends. */
+/** Where row (or column) `i` of a table starts in its vector; for the number of rows, where the last one
+ * ends. */
 constexpr std::int64_t placeOf(int i, int width)
 {
     return std::int64_t{i} * width;

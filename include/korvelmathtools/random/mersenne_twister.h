@@ -22,9 +22,9 @@ struct mersenne_twister {
     static constexpr std::size_t halfSize = 624;
     static constexpr std::uint32_t defaultSeed = 5489;
 
-    std::uint32_t index;                            ///< The word that is handed out next.
+    std::uint32_t index;                           ///< The word that is handed out next.
     std::array<std::uint32_t, 2 * halfSize> words; ///< The ring.
-    std::uint32_t temperingMask;                    ///< Applied in the first tempering step; all bits set.
+    std::uint32_t temperingMask;                   ///< Applied in the first tempering step; all bits set.
 
     /** Starts the sequence of `value`; the first refill is left to the first draw. */
     void seed(std::uint32_t value) noexcept;
