@@ -58,7 +58,7 @@ template <class T>
 
 /** The caller's array as it stands, when there is one. */
 template <class T>
-[[nodiscard]] std::optional<matrix<T>> borrowIfGiven(T* array, int rows, int cols = 1)
+[[nodiscard]] std::optional<matrix<T>> borrowIfGiven(const T* array, int rows, int cols = 1)
 {
     return array != nullptr ? std::optional<matrix<T>>(borrow(array, rows, cols)) : std::nullopt;
 }
@@ -175,7 +175,7 @@ template <numeric_element T, class R>
     return written ? besides(*written, array, rows, cols) : borrow(array, rows, cols);
 }
 template <numeric_element T, class R>
-[[nodiscard]] std::optional<matrix<T>> besidesIfGiven(const matrix<R>& written, T* array, int rows,
+[[nodiscard]] std::optional<matrix<T>> besidesIfGiven(const matrix<R>& written, const T* array, int rows,
                                                       int cols = 1)
 {
     return array != nullptr ? std::optional<matrix<T>>(besides(written, array, rows, cols)) : std::nullopt;

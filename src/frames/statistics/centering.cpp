@@ -32,8 +32,8 @@ int VB_M_Standardize3(double* x, int rows, int cols, double* means, double* sds,
     return 0;
 }
 
-int VB_M_StandardizeW(double* x, int rows, int cols, double* w, short int bUnbiased, short int bFreq,
-                      double* out)
+int VB_M_StandardizeW(const double* x, int rows, int cols, const double* w, short int bUnbiased,
+                      short int bFreq, double* out)
 {
     auto result = frame::borrow(out, rows, cols);
     auto table = frame::besides(result, x, rows, cols);
@@ -42,7 +42,7 @@ int VB_M_StandardizeW(double* x, int rows, int cols, double* w, short int bUnbia
     return 0;
 }
 
-int VB_M_StandardizeW2(double* x, int rows, int cols, double* w, short int bUnbiased, short int bFreq)
+int VB_M_StandardizeW2(double* x, int rows, int cols, const double* w, short int bUnbiased, short int bFreq)
 {
     auto values = frame::borrow(x, rows, cols);
     matrix<double>* table = &values;
@@ -51,7 +51,7 @@ int VB_M_StandardizeW2(double* x, int rows, int cols, double* w, short int bUnbi
     return 0;
 }
 
-int VB_M_StandardizeW3(double* x, int rows, int cols, double* w, double* means, double* sds,
+int VB_M_StandardizeW3(double* x, int rows, int cols, const double* w, double* means, double* sds,
                        short int bUnbiased, short int bFreq)
 {
     auto values = frame::borrow(x, rows, cols);
@@ -65,7 +65,7 @@ int VB_M_StandardizeW3(double* x, int rows, int cols, double* w, double* means, 
     return 0;
 }
 
-int VB_M_Center(double* x, int rows, int cols, double* out)
+int VB_M_Center(const double* x, int rows, int cols, double* out)
 {
     auto result = frame::borrow(out, rows, cols);
     auto table = frame::besides(result, x, rows, cols);
@@ -73,7 +73,7 @@ int VB_M_Center(double* x, int rows, int cols, double* out)
     return 0;
 }
 
-int VB_M_CenterW(double* x, int rows, int cols, double* w, double* out)
+int VB_M_CenterW(const double* x, int rows, int cols, const double* w, double* out)
 {
     auto result = frame::borrow(out, rows, cols);
     auto table = frame::besides(result, x, rows, cols);
@@ -97,7 +97,7 @@ int VB_M_Center2SPV(Hostarray** x, int rows, int cols)
     return 0;
 }
 
-int VB_M_CenterW2(double* x, int rows, int cols, double* w)
+int VB_M_CenterW2(double* x, int rows, int cols, const double* w)
 {
     auto values = frame::borrow(x, rows, cols);
     matrix<double>* table = &values;
@@ -106,7 +106,7 @@ int VB_M_CenterW2(double* x, int rows, int cols, double* w)
     return 0;
 }
 
-int VB_M_Reduce(double* x, int rows, int cols, double* out, short int bUnbiased, short int bFreq)
+int VB_M_Reduce(const double* x, int rows, int cols, double* out, short int bUnbiased, short int bFreq)
 {
     auto result = frame::borrow(out, rows, cols);
     auto table = frame::besides(result, x, rows, cols);
@@ -115,7 +115,8 @@ int VB_M_Reduce(double* x, int rows, int cols, double* out, short int bUnbiased,
     return 0;
 }
 
-int VB_M_ReduceW(double* x, int rows, int cols, double* w, double* out, short int bUnbiased, short int bFreq)
+int VB_M_ReduceW(const double* x, int rows, int cols, const double* w, double* out, short int bUnbiased,
+                 short int bFreq)
 {
     auto result = frame::borrow(out, rows, cols);
     auto table = frame::besides(result, x, rows, cols);
@@ -133,7 +134,7 @@ int VB_M_Reduce2(double* x, int rows, int cols, short int bUnbiased)
     return 0;
 }
 
-int VB_M_ReduceW2(double* x, int rows, int cols, double* w, short int bUnbiased, short int bFreq)
+int VB_M_ReduceW2(double* x, int rows, int cols, const double* w, short int bUnbiased, short int bFreq)
 {
     auto values = frame::borrow(x, rows, cols);
     matrix<double>* table = &values;

@@ -13,7 +13,7 @@ int VB_V_Norm(double* x, int n)
     return 0;
 }
 
-int VB_V_NormW(double* x, int n, double* w)
+int VB_V_NormW(double* x, int n, const double* w)
 {
     auto values = frame::borrow(x, n);
     matrix<double>* vector = &values;
@@ -30,7 +30,7 @@ int VB_V_NormToVal(double* x, int n, double value)
     return 0;
 }
 
-int VB_V_NormToValW(double* x, int n, double value, double* w)
+int VB_V_NormToValW(double* x, int n, double value, const double* w)
 {
     auto values = frame::borrow(x, n);
     matrix<double>* vector = &values;
@@ -39,12 +39,12 @@ int VB_V_NormToValW(double* x, int n, double value, double* w)
     return 0;
 }
 
-int VB_M_Normalize(double* x, int rows, int cols, double* w, short int* iMissing)
+int VB_M_Normalize(double* x, int rows, int cols, const double* w, const short int* iMissing)
 {
     auto values = frame::borrow(x, rows, cols);
     matrix<double>* table = &values;
     auto weights = frame::besidesIfGiven(values, w, rows);
-    M_Normalize(table, rows, cols, frame::pointerTo(weights), iMissing);
+    M_Normalize(table, rows, cols, frame::pointerTo(weights), frame::readOnly(iMissing));
     return 0;
 }
 

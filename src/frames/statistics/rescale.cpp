@@ -5,42 +5,43 @@
 
 using namespace korvel;
 
-int VB_V_Rescale(double* x, int n, double lo, double hi, short int* iMissing, double* out)
+int VB_V_Rescale(const double* x, int n, double lo, double hi, const short int* iMissing, double* out)
 {
     auto result = frame::borrow(out, n);
     auto values = frame::besides(result, x, n);
-    V_Rescale(&values, n, lo, hi, iMissing, &result);
+    V_Rescale(&values, n, lo, hi, frame::readOnly(iMissing), &result);
     return 0;
 }
 
-int VB_V_Rescale2(double* x, int n, double lo, double hi, short int* iMissing)
+int VB_V_Rescale2(double* x, int n, double lo, double hi, const short int* iMissing)
 {
     auto values = frame::borrow(x, n);
-    V_Rescale(&values, n, lo, hi, iMissing, nullptr);
+    V_Rescale(&values, n, lo, hi, frame::readOnly(iMissing), nullptr);
     return 0;
 }
 
-int VB_M_RescaleByVect(double* x, int rows, int cols, double* lo, double* hi, short int* iMissing,
-                       double* out)
+int VB_M_RescaleByVect(const double* x, int rows, int cols, const double* lo, const double* hi,
+                       const short int* iMissing, double* out)
 {
     auto result = frame::borrow(out, rows, cols);
     auto table = frame::besides(result, x, rows, cols);
     const auto lower = frame::besides(result, lo, cols);
     const auto upper = frame::besides(result, hi, cols);
-    rescaleColumns(table, rows, cols, lower, upper, iMissing, &result);
+    rescaleColumns(table, rows, cols, lower, upper, frame::readOnly(iMissing), &result);
     return 0;
 }
 
-int VB_M_RescaleByVect2(double* x, int rows, int cols, double* lo, double* hi, short int* iMissing)
+int VB_M_RescaleByVect2(double* x, int rows, int cols, const double* lo, const double* hi,
+                        const short int* iMissing)
 {
     auto table = frame::borrow(x, rows, cols);
     const auto lower = frame::besides(table, lo, cols);
     const auto upper = frame::besides(table, hi, cols);
-    rescaleColumns(table, rows, cols, lower, upper, iMissing, nullptr);
+    rescaleColumns(table, rows, cols, lower, upper, frame::readOnly(iMissing), nullptr);
     return 0;
 }
 
-int Cpp_V_ZScores(double* x, int n, short int bRobust, double* centre, double* scale, double* out)
+int Cpp_V_ZScores(const double* x, int n, short int bRobust, double* centre, double* scale, double* out)
 {
     auto result = frame::borrow(out, n);
     auto values = frame::besides(result, x, n);

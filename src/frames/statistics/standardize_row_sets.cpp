@@ -17,8 +17,8 @@ int VB_M_StandardizeMatrix(double* x, int rows, int cols, double* y, int yRows, 
     return 0;
 }
 
-int Cpp_M_StandardizeByGroup(double* x, int rows, int cols, int* groups, int nGroups, short int bStandardize,
-                             short int bUnbiased)
+int Cpp_M_StandardizeByGroup(double* x, int rows, int cols, const int* groups, int nGroups,
+                             short int bStandardize, short int bUnbiased)
 {
     auto table = frame::borrow(x, rows, cols);
     auto codes = frame::borrow(groups, rows);

@@ -67,7 +67,7 @@ KORVEL_FLAT int VB_M_Standardize3(double* x, int rows, int cols, double* means, 
  * @param out       [out] rows by cols numbers; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_StandardizeW(double* x, int rows, int cols, double* w, short int bUnbiased,
+KORVEL_FLAT int VB_M_StandardizeW(const double* x, int rows, int cols, const double* w, short int bUnbiased,
                                   short int bFreq, double* out);
 
 /**
@@ -81,7 +81,7 @@ KORVEL_FLAT int VB_M_StandardizeW(double* x, int rows, int cols, double* w, shor
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_M_StandardizeW2(double* x, int rows, int cols, double* w, short int bUnbiased,
+KORVEL_FLAT int VB_M_StandardizeW2(double* x, int rows, int cols, const double* w, short int bUnbiased,
                                    short int bFreq);
 
 /**
@@ -97,7 +97,7 @@ KORVEL_FLAT int VB_M_StandardizeW2(double* x, int rows, int cols, double* w, sho
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_M_StandardizeW3(double* x, int rows, int cols, double* w, double* means, double* sds,
+KORVEL_FLAT int VB_M_StandardizeW3(double* x, int rows, int cols, const double* w, double* means, double* sds,
                                    short int bUnbiased, short int bFreq);
 
 /**
@@ -109,7 +109,7 @@ KORVEL_FLAT int VB_M_StandardizeW3(double* x, int rows, int cols, double* w, dou
  * @param out  [out] rows by cols numbers; may be the array of x
  * @return 0
  */
-KORVEL_FLAT int VB_M_Center(double* x, int rows, int cols, double* out);
+KORVEL_FLAT int VB_M_Center(const double* x, int rows, int cols, double* out);
 
 /**
  * Centres, with weights, into a result.
@@ -121,7 +121,7 @@ KORVEL_FLAT int VB_M_Center(double* x, int rows, int cols, double* out);
  * @param out  [out] rows by cols numbers; may be the array of an argument
  * @return 0
  */
-KORVEL_FLAT int VB_M_CenterW(double* x, int rows, int cols, double* w, double* out);
+KORVEL_FLAT int VB_M_CenterW(const double* x, int rows, int cols, const double* w, double* out);
 
 /**
  * Centres in place.
@@ -152,7 +152,7 @@ KORVEL_FLAT int VB_M_Center2SPV(Hostarray** x, int rows, int cols);
  * @param w    [in] rows weights; may be a column of x
  * @return 0
  */
-KORVEL_FLAT int VB_M_CenterW2(double* x, int rows, int cols, double* w);
+KORVEL_FLAT int VB_M_CenterW2(double* x, int rows, int cols, const double* w);
 
 /**
  * Reduces into a result.
@@ -165,7 +165,8 @@ KORVEL_FLAT int VB_M_CenterW2(double* x, int rows, int cols, double* w);
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_M_Reduce(double* x, int rows, int cols, double* out, short int bUnbiased, short int bFreq);
+KORVEL_FLAT int VB_M_Reduce(const double* x, int rows, int cols, double* out, short int bUnbiased,
+                            short int bFreq);
 
 /**
  * Reduces, with weights, into a result.
@@ -179,8 +180,8 @@ KORVEL_FLAT int VB_M_Reduce(double* x, int rows, int cols, double* out, short in
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_M_ReduceW(double* x, int rows, int cols, double* w, double* out, short int bUnbiased,
-                             short int bFreq);
+KORVEL_FLAT int VB_M_ReduceW(const double* x, int rows, int cols, const double* w, double* out,
+                             short int bUnbiased, short int bFreq);
 
 /**
  * Reduces in place.
@@ -204,6 +205,7 @@ KORVEL_FLAT int VB_M_Reduce2(double* x, int rows, int cols, short int bUnbiased)
  * @param bFreq     how it is
  * @return 0
  */
-KORVEL_FLAT int VB_M_ReduceW2(double* x, int rows, int cols, double* w, short int bUnbiased, short int bFreq);
+KORVEL_FLAT int VB_M_ReduceW2(double* x, int rows, int cols, const double* w, short int bUnbiased,
+                              short int bFreq);
 
 #endif

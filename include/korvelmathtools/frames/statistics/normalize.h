@@ -27,7 +27,7 @@ KORVEL_FLAT int VB_V_Norm(double* x, int n);
  * @param w [in] n weights; may be the array of x
  * @return 0
  */
-KORVEL_FLAT int VB_V_NormW(double* x, int n, double* w);
+KORVEL_FLAT int VB_V_NormW(double* x, int n, const double* w);
 
 /**
  * Multiplies a vector by the root of value over its sum of squares, so that that becomes value.
@@ -48,7 +48,7 @@ KORVEL_FLAT int VB_V_NormToVal(double* x, int n, double value);
  * @param w     [in] n weights; may be the array of x
  * @return 0
  */
-KORVEL_FLAT int VB_V_NormToValW(double* x, int n, double value, double* w);
+KORVEL_FLAT int VB_V_NormToValW(double* x, int n, double value, const double* w);
 
 /**
  * Changes the cells of each column to (x / s) * sqrt(n / (n - 1)), where s is the root of the column's sum of
@@ -62,7 +62,7 @@ KORVEL_FLAT int VB_V_NormToValW(double* x, int n, double value, double* w);
  * is
  * @return 0
  */
-KORVEL_FLAT int VB_M_Normalize(double* x, int rows, int cols, double* w, short int* iMissing);
+KORVEL_FLAT int VB_M_Normalize(double* x, int rows, int cols, const double* w, const short int* iMissing);
 
 /**
  * VB_M_Normalize, without weights and flags, on a table and two companions, tables of other rows and the same

@@ -21,7 +21,8 @@
  * @param out      [out] n numbers, missing where an element is left out; may be the array of x
  * @return 0
  */
-KORVEL_FLAT int VB_V_Rescale(double* x, int n, double lo, double hi, short int* iMissing, double* out);
+KORVEL_FLAT int VB_V_Rescale(const double* x, int n, double lo, double hi, const short int* iMissing,
+                             double* out);
 
 /**
  * The same in place; an element left out stays.
@@ -33,7 +34,7 @@ KORVEL_FLAT int VB_V_Rescale(double* x, int n, double lo, double hi, short int* 
  * @param iMissing [in] n flags; may be null
  * @return 0
  */
-KORVEL_FLAT int VB_V_Rescale2(double* x, int n, double lo, double hi, short int* iMissing);
+KORVEL_FLAT int VB_V_Rescale2(double* x, int n, double lo, double hi, const short int* iMissing);
 
 /**
  * VB_V_Rescale on each column, each to a range of its own.
@@ -47,8 +48,8 @@ KORVEL_FLAT int VB_V_Rescale2(double* x, int n, double lo, double hi, short int*
  * @param out      [out] rows by cols numbers, missing where a cell is left out; may be the array of x
  * @return 0
  */
-KORVEL_FLAT int VB_M_RescaleByVect(double* x, int rows, int cols, double* lo, double* hi, short int* iMissing,
-                                   double* out);
+KORVEL_FLAT int VB_M_RescaleByVect(const double* x, int rows, int cols, const double* lo, const double* hi,
+                                   const short int* iMissing, double* out);
 
 /**
  * The same in place; a cell left out stays.
@@ -61,8 +62,8 @@ KORVEL_FLAT int VB_M_RescaleByVect(double* x, int rows, int cols, double* lo, do
  * @param iMissing [in] rows flags; may be null
  * @return 0
  */
-KORVEL_FLAT int VB_M_RescaleByVect2(double* x, int rows, int cols, double* lo, double* hi,
-                                    short int* iMissing);
+KORVEL_FLAT int VB_M_RescaleByVect2(double* x, int rows, int cols, const double* lo, const double* hi,
+                                    const short int* iMissing);
 
 /**
  * How far each number lies from the centre, in deviations. A missing number has a missing score, and so has
@@ -79,7 +80,7 @@ KORVEL_FLAT int VB_M_RescaleByVect2(double* x, int rows, int cols, double* lo, d
  * @param out     [out] n scores; may be the array of x
  * @return 0
  */
-KORVEL_FLAT int Cpp_V_ZScores(double* x, int n, short int bRobust, double* centre, double* scale,
+KORVEL_FLAT int Cpp_V_ZScores(const double* x, int n, short int bRobust, double* centre, double* scale,
                               double* out);
 
 #endif

@@ -33,8 +33,8 @@
  * @return 0
  */
 KORVEL_FLAT int VB_M_Standardize(double* x, int rows, int cols, double* out, double* means, double* sds,
-                                 double* vars, short int* iMissing, double* w, short int bUnbiased,
-                                 short int bFreq);
+                                 double* vars, const short int* iMissing, const double* w,
+                                 short int bUnbiased, short int bFreq);
 
 /**
  * VB_M_Standardize with a result, on one vector and with bFreq false.
@@ -47,8 +47,8 @@ KORVEL_FLAT int VB_M_Standardize(double* x, int rows, int cols, double* out, dou
  * @param out       [out] n numbers; may be the array of x
  * @return 0
  */
-KORVEL_FLAT int VB_V_Standardize(double* x, int n, short int* iMissing, double* w, short int bUnbiased,
-                                 double* out);
+KORVEL_FLAT int VB_V_Standardize(const double* x, int n, const short int* iMissing, const double* w,
+                                 short int bUnbiased, double* out);
 
 /**
  * VB_M_Standardize in place, on one vector and with bFreq false.
@@ -60,7 +60,8 @@ KORVEL_FLAT int VB_V_Standardize(double* x, int n, short int* iMissing, double* 
  * @param bUnbiased whether the denominator is corrected
  * @return 0
  */
-KORVEL_FLAT int VB_V_Standardize2(double* x, int n, short int* iMissing, double* w, short int bUnbiased);
+KORVEL_FLAT int VB_V_Standardize2(double* x, int n, const short int* iMissing, const double* w,
+                                  short int bUnbiased);
 
 /**
  * Standardises the columns by given statistics. A deviation of 0 is not divided by. Where the mean or the
@@ -78,8 +79,9 @@ KORVEL_FLAT int VB_V_Standardize2(double* x, int n, short int* iMissing, double*
  * @param iMissing [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
  * @return 0
  */
-KORVEL_FLAT int VB_M_StandardizeKnownMeansStDev(double* x, int rows, int cols, double* means, double* sds,
-                                                double* out, double* vars, short int* iMissing);
+KORVEL_FLAT int VB_M_StandardizeKnownMeansStDev(double* x, int rows, int cols, const double* means,
+                                                const double* sds, double* out, const double* vars,
+                                                const short int* iMissing);
 
 /**
  * VB_M_StandardizeKnownMeansStDev with deviations and a result, no row left out.
@@ -92,8 +94,8 @@ KORVEL_FLAT int VB_M_StandardizeKnownMeansStDev(double* x, int rows, int cols, d
  * @param out   [out] rows by cols numbers; may be the array of x
  * @return 0
  */
-KORVEL_FLAT int VB_M_StandardizeByVect(double* x, int rows, int cols, double* means, double* sds,
-                                       double* out);
+KORVEL_FLAT int VB_M_StandardizeByVect(const double* x, int rows, int cols, const double* means,
+                                       const double* sds, double* out);
 
 /**
  * VB_M_StandardizeKnownMeansStDev with deviations, in place, no row left out.
@@ -105,7 +107,8 @@ KORVEL_FLAT int VB_M_StandardizeByVect(double* x, int rows, int cols, double* me
  * @param sds   [in] cols deviations
  * @return 0
  */
-KORVEL_FLAT int VB_M_StandardizeByVect2(double* x, int rows, int cols, double* means, double* sds);
+KORVEL_FLAT int VB_M_StandardizeByVect2(double* x, int rows, int cols, const double* means,
+                                        const double* sds);
 
 /**
  * Standardises the columns in place by given statistics. All cells of a column become missing when its
@@ -118,6 +121,7 @@ KORVEL_FLAT int VB_M_StandardizeByVect2(double* x, int rows, int cols, double* m
  * @param sds   [in] cols deviations
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_StandardizeApply2(double* x, int rows, int cols, double* means, double* sds);
+KORVEL_FLAT int Cpp_M_StandardizeApply2(double* x, int rows, int cols, const double* means,
+                                        const double* sds);
 
 #endif

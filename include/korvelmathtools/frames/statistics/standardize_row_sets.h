@@ -39,7 +39,7 @@ KORVEL_FLAT int VB_M_StandardizeMatrix(double* x, int rows, int cols, double* y,
  * @param bUnbiased    whether the denominator is the number of cells less 1
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_StandardizeByGroup(double* x, int rows, int cols, int* groups, int nGroups,
+KORVEL_FLAT int Cpp_M_StandardizeByGroup(double* x, int rows, int cols, const int* groups, int nGroups,
                                          short int bStandardize, short int bUnbiased);
 
 #endif
