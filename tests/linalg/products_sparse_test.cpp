@@ -424,7 +424,7 @@ TEST(SparseProducts, WithVectorsOfNothingStoreNothing)
         M_ProductTrBV(&B, 2, count, &none, &none);
         M_ProductTrABV(&B, 2, count, &B, 2, &none, &none);
         EXPECT_EQ(none.nbElem, 0u);
-        EXPECT_TRUE(sameBits(M_ProductTrVBV(&none, count, &B), 0.0));
+        EXPECT_SAME_BITS(M_ProductTrVBV(&none, count, &B), 0.0);
         matrix<double> sums(2, 1, 9.0);
         M_ProductTrBV(&B, count, 2, &none, &sums);
         EXPECT_TRUE(sameTables(sums, vectorOf<double>({0.0, 0.0}))) << "no terms";

@@ -147,7 +147,7 @@ TEST(TripleProducts, OfATeamTakeNoMoreThanARowForEachThread)
     matrix<double> D(64, 1, 0.0);
     EXPECT_LE(doublesFor([&] { M_ProductABC(&tall, 64, 1, &row, wide, &column, 1, &D); }),
               std::int64_t{threads} * wide);
-    EXPECT_TRUE(sameBits(D.data[63], 3.0 * wide));
+    EXPECT_SAME_BITS(D.data[63], 3.0 * wide);
 }
 
 TEST(TripleProducts, WithAVectorTakeNoMoreThanARow)
@@ -157,7 +157,7 @@ TEST(TripleProducts, WithAVectorTakeNoMoreThanARow)
     matrix<double> v(wide, 1, 3.0);
     matrix<double> y(100, 1, 0.0);
     EXPECT_LE(doublesFor([&] { M_ProductTrABV(&few, 1, 100, &row, wide, &v, &y); }), wide);
-    EXPECT_TRUE(sameBits(y.data[99], 3.0 * wide));
+    EXPECT_SAME_BITS(y.data[99], 3.0 * wide);
 }
 
 TEST(TripleProducts, HaveTheBitsOfThePlainLoopOverSeveralBlocks)

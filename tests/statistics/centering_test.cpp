@@ -155,7 +155,7 @@ TEST(Centering, WithoutTheSecondFlagItIsTrue)
     for (const member& m : members) {
         if (!m.weighted && m.returnsStatistics) {
             EXPECT_TRUE(std::isnan(resultOf(m, columnTable(1, {none}), {1}, {-1, 0}).sds[0]));
-            EXPECT_TRUE(sameBits(resultOf(m, columnTable(1, {none}), {1}, {-1, -1}).sds[0], 0.0));
+            EXPECT_SAME_BITS(resultOf(m, columnTable(1, {none}), {1}, {-1, -1}).sds[0], 0.0);
         }
     }
 }
@@ -188,7 +188,7 @@ TEST(Centering, AColumnWithoutADeviation)
             EXPECT_EQ(found.cells[0], 8) << "left as it is";
             EXPECT_EQ(found.cells[2], -1 / std::sqrt(2.0)) << "and the work goes on";
         } else if (m.change == change_of_cell{reference::reduced}) {
-            EXPECT_TRUE(sameBits(found.cells[0], 8 / MISSING_DBL)) << "divided by like any number";
+            EXPECT_SAME_BITS(found.cells[0], 8 / MISSING_DBL) << "divided by like any number";
         }
         if (m.returnsStatistics) {
             EXPECT_EQ(found.sds, (doubles{none, std::sqrt(2.0)}));

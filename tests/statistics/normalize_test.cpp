@@ -90,13 +90,13 @@ TEST(Norm, AQuotientAndAFactor)
     auto x = vectorOf<double>({1, 1, 1});
     matrix<double>* vector = &x;
     V_Norm(vector, 3);
-    EXPECT_TRUE(sameBits(x.data[0], 1 / std::sqrt(3.0)));
+    EXPECT_SAME_BITS(x.data[0], 1 / std::sqrt(3.0));
     auto y = vectorOf<double>({0.3, 0.7});
     vector = &y;
     V_NormToVal(vector, 2, 0.1);
     const double factor = std::sqrt(0.1 / (0.3 * 0.3 + 0.7 * 0.7));
-    EXPECT_TRUE(sameBits(y.data[0], 0.3 * factor));
-    EXPECT_TRUE(sameBits(y.data[1], 0.7 * factor));
+    EXPECT_SAME_BITS(y.data[0], 0.3 * factor);
+    EXPECT_SAME_BITS(y.data[1], 0.7 * factor);
     V_NormToVal(vector, 2, -1);
     EXPECT_TRUE(std::isnan(y.data[0])) << "no root of a negative value";
 }

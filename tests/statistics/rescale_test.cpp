@@ -62,7 +62,7 @@ TEST(Rescale, SmallestAndLargestBecomeTheEnds)
 
 TEST(Rescale, TheProductIsFormedBeforeTheQuotient)
 {
-    EXPECT_TRUE(sameBits(rescaled({0, 0.1, 0.7}, 0, 0.3)[1], 0.1 * 0.3 / 0.7));
+    EXPECT_SAME_BITS(rescaled({0, 0.1, 0.7}, 0, 0.3)[1], 0.1 * 0.3 / 0.7);
     EXPECT_FALSE(sameBits(0.1 * 0.3 / 0.7, 0.1 * (0.3 / 0.7))) << "the cells tell them apart";
 }
 

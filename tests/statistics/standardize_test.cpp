@@ -140,8 +140,8 @@ TEST(Standardize, OnlyAnExactZeroEndsTheWork)
     EXPECT_TRUE(std::isnan(nothing.vars.data[0])) << "0 over 0 - 0/0";
     EXPECT_EQ(nothing.vars.data[1], 2);
     const auto minusOne = standardizedTable(columnTable(2, {MISSING_DBL, MISSING_DBL, 1, 3}), {-1, -1});
-    EXPECT_TRUE(sameBits(minusOne.vars.data[0], -0.0)) << "0 over -1";
-    EXPECT_TRUE(sameBits(minusOne.sds.data[0], -0.0));
+    EXPECT_SAME_BITS(minusOne.vars.data[0], -0.0) << "0 over -1";
+    EXPECT_SAME_BITS(minusOne.sds.data[0], -0.0);
     EXPECT_EQ(minusOne.vars.data[1], 2);
 }
 
