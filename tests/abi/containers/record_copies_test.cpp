@@ -93,9 +93,6 @@ TEST(FlatRecords, LetTheOverflowOfADimensionPass)
     EXPECT_EQ(numbersIn<double>(columnOf(record, 0).Vect), numbers{5.0});
 }
 
-maker.dispose();
-}
-
 #if !defined(_WIN32)
 TEST(FlatRecords, AllocateNoTextOfTheCallersAndNoArray)
 {

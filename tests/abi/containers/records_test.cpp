@@ -1,3 +1,4 @@
+#include "containers/records.h"
 #include "korvelmathtools/KORVELMathTools.h"
 #include "support/caller_memory.h"
 
@@ -33,3 +34,5 @@ TEST(RecordsOfASibling, WriteJsonThroughTheBase)
     const std::string json = maker.written();
     EXPECT_NE(json.find("\"Vect\": [0.0]"), std::string::npos);
     EXPECT_EQ(json.back(), '}');
+    maker.dispose();
+}
