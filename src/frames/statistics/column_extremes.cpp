@@ -6,37 +6,37 @@
 
 using namespace korvel;
 
-int VB_M_MinMax(double* x, int rows, int cols, double* mins, double* maxs, short int* iMissing,
+int VB_M_MinMax(const double* x, int rows, int cols, double* mins, double* maxs, const short int* iMissing,
                 short int flag)
 {
     auto table = frame::borrow(x, rows, cols);
     auto smallest = frame::borrow(mins, cols);
     auto largest = frame::borrow(maxs, cols);
-    M_MinMax(&table, rows, cols, &smallest, &largest, iMissing, flag);
+    M_MinMax(&table, rows, cols, &smallest, &largest, frame::readOnly(iMissing), flag);
     return 0;
 }
 
-int VB_M_MinMaxSPV(Hostarray** x, int rows, int cols, double* mins, double* maxs, short int* iMissing,
+int VB_M_MinMaxSPV(Hostarray** x, int rows, int cols, double* mins, double* maxs, const short int* iMissing,
                    short int flag)
 {
     const auto table = frame::chunks(x, cols, rows);
     auto smallest = frame::borrow(mins, cols);
     auto largest = frame::borrow(maxs, cols);
-    M_MinMaxSPV(table.get(), rows, cols, &smallest, &largest, iMissing, flag);
+    M_MinMaxSPV(table.get(), rows, cols, &smallest, &largest, frame::readOnly(iMissing), flag);
     return 0;
 }
 
-int VB_M_MinMaxSPV_T(Hostarray** x, int rows, int cols, double* mins, double* maxs, short int* iMissing,
+int VB_M_MinMaxSPV_T(Hostarray** x, int rows, int cols, double* mins, double* maxs, const short int* iMissing,
                      short int flag)
 {
     matrix3D<matrix<double>> table(cols, x);
     auto smallest = frame::borrow(mins, cols);
     auto largest = frame::borrow(maxs, cols);
-    M_MinMaxSPV_T(&table, rows, cols, &smallest, &largest, iMissing, flag);
+    M_MinMaxSPV_T(&table, rows, cols, &smallest, &largest, frame::readOnly(iMissing), flag);
     return 0;
 }
 
-int VB_M_Max(double* x, int rows, int cols, double* out)
+int VB_M_Max(const double* x, int rows, int cols, double* out)
 {
     auto table = frame::borrow(x, rows, cols);
     auto found = frame::borrow(out, cols);
@@ -44,7 +44,7 @@ int VB_M_Max(double* x, int rows, int cols, double* out)
     return 0;
 }
 
-int VB_M_Min(double* x, int rows, int cols, double* out)
+int VB_M_Min(const double* x, int rows, int cols, double* out)
 {
     auto table = frame::borrow(x, rows, cols);
     auto found = frame::borrow(out, cols);
@@ -52,7 +52,7 @@ int VB_M_Min(double* x, int rows, int cols, double* out)
     return 0;
 }
 
-double Cpp_M_MinAll(double* x, int rows, int cols)
+double Cpp_M_MinAll(const double* x, int rows, int cols)
 {
     auto table = frame::borrow(x, rows, cols);
     return M_MinAll(&table, rows, cols);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_Mean(double* x, int rows, int cols, double* means, double* w)
+int VB_M_Mean(const double* x, int rows, int cols, double* means, const double* w)
 {
     auto table = frame::borrow(x, rows, cols);
     auto weights = frame::borrow(w, rows);
@@ -16,7 +16,7 @@ int VB_M_Mean(double* x, int rows, int cols, double* means, double* w)
     return 0;
 }
 
-int Cpp_M_MeanSPV(Hostarray** x, int rows, int cols, double* means, double* w)
+int Cpp_M_MeanSPV(Hostarray** x, int rows, int cols, double* means, const double* w)
 {
     const auto table = frame::chunks(x, cols, rows);
     auto weights = frame::borrow(w, rows);
@@ -27,7 +27,7 @@ int Cpp_M_MeanSPV(Hostarray** x, int rows, int cols, double* means, double* w)
     return 0;
 }
 
-int Cpp_M_Mean2(double* x, int rows, int cols, double* w, double* means)
+int Cpp_M_Mean2(const double* x, int rows, int cols, const double* w, double* means)
 {
     auto table = frame::borrow(x, rows, cols);
     auto weights = frame::borrow(w, rows);
@@ -36,7 +36,7 @@ int Cpp_M_Mean2(double* x, int rows, int cols, double* w, double* means)
     return 0;
 }
 
-int Cpp_M_Mean3(double* x, int rows, int cols, double* means)
+int Cpp_M_Mean3(const double* x, int rows, int cols, double* means)
 {
     auto table = frame::borrow(x, rows, cols);
     auto found = frame::borrow(means, cols);

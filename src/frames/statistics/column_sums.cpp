@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_SumByRows(double* x, int rows, int cols, double* out)
+int VB_M_SumByRows(const double* x, int rows, int cols, double* out)
 {
     auto table = frame::borrow(x, rows, cols);
     auto sums = frame::borrow(out, rows);
@@ -13,7 +13,7 @@ int VB_M_SumByRows(double* x, int rows, int cols, double* out)
     return 0;
 }
 
-int VB_M_SumByCols(double* x, int rows, int cols, double* out)
+int VB_M_SumByCols(const double* x, int rows, int cols, double* out)
 {
     auto table = frame::borrow(x, rows, cols);
     auto sums = frame::borrow(out, cols);
@@ -21,12 +21,12 @@ int VB_M_SumByCols(double* x, int rows, int cols, double* out)
     return 0;
 }
 
-double VB_M_SumOfElem(double* x, int rows, int cols)
+double VB_M_SumOfElem(const double* x, int rows, int cols)
 {
     return sumOfCells(frame::borrow(x, rows, cols), rows, cols);
 }
 
-int Cpp_M_SumBySquareCols(double* x, int rows, int cols, double* out)
+int Cpp_M_SumBySquareCols(const double* x, int rows, int cols, double* out)
 {
     auto table = frame::borrow(x, rows, cols);
     auto sums = frame::borrow(out, cols);
@@ -34,7 +34,7 @@ int Cpp_M_SumBySquareCols(double* x, int rows, int cols, double* out)
     return 0;
 }
 
-int Cpp_M_SumBySquareRows(double* x, int rows, int cols, double* out)
+int Cpp_M_SumBySquareRows(const double* x, int rows, int cols, double* out)
 {
     auto table = frame::borrow(x, rows, cols);
     auto sums = frame::borrow(out, rows);
@@ -42,7 +42,7 @@ int Cpp_M_SumBySquareRows(double* x, int rows, int cols, double* out)
     return 0;
 }
 
-int VB_M_SquaredRows(double* x, int rows, int cols, double* out)
+int VB_M_SquaredRows(const double* x, int rows, int cols, double* out)
 {
     auto table = frame::borrow(x, rows, cols);
     auto sums = frame::blank<double>(rows);
@@ -52,7 +52,7 @@ int VB_M_SquaredRows(double* x, int rows, int cols, double* out)
     return 0;
 }
 
-int VB_M_SquaredColumns(double* x, int rows, int cols, double* out)
+int VB_M_SquaredColumns(const double* x, int rows, int cols, double* out)
 {
     auto table = frame::borrow(x, rows, cols);
     auto sums = frame::blank<double>(cols);

@@ -6,7 +6,7 @@
 
 using namespace korvel;
 
-int VB_M_CorrMatFromCovMat(double* cov, int n, double* out, short int bUndefinedIsZero)
+int VB_M_CorrMatFromCovMat(const double* cov, int n, double* out, short int bUndefinedIsZero)
 {
     auto correlations = frame::borrow(out, n, n);
     auto covariances = frame::besides(correlations, cov, n, n);
@@ -21,7 +21,7 @@ int Cpp_M_CorrMatFromCovMatSPV2_T(Hostarray** table, int n)
     return 0;
 }
 
-int Cpp_M_CovMatFromCorrMat(double* corr, int n, double* vars, double* out)
+int Cpp_M_CovMatFromCorrMat(const double* corr, int n, const double* vars, double* out)
 {
     auto covariances = frame::borrow(out, n, n);
     auto correlations = frame::besides(covariances, corr, n, n);

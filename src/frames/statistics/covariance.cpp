@@ -5,29 +5,31 @@
 
 using namespace korvel;
 
-int VB_M_CovCorr(double* x, int rows, int cols, double* out, short int bCorr, short int* iMissing, double* w,
-                 short int bUnbiased, short int bFreq, short int bUndefinedIsZero)
+int VB_M_CovCorr(const double* x, int rows, int cols, double* out, short int bCorr, const short int* iMissing,
+                 const double* w, short int bUnbiased, short int bFreq, short int bUndefinedIsZero)
 {
     auto found = frame::borrow(out, cols, cols);
     auto table = frame::besides(found, x, rows, cols);
     auto weights = frame::borrow(w, rows);
     auto* from = &table;
     auto* result = &found;
-    return M_CovCorr(from, rows, cols, result, bCorr, iMissing, &weights, bUnbiased, bFreq, bUndefinedIsZero);
+    return M_CovCorr(from, rows, cols, result, bCorr, frame::readOnly(iMissing), &weights, bUnbiased, bFreq,
+                     bUndefinedIsZero);
 }
 
-int Cpp_M_CovCorr_ST(ST_MVect* x, int rows, int cols, ST_MVect* out, short int bCorr, short int* iMissing,
-                     double* w, short int bUnbiased, short int bFreq, short int bUndefinedIsZero)
+int Cpp_M_CovCorr_ST(ST_MVect* x, int rows, int cols, ST_MVect* out, short int bCorr,
+                     const short int* iMissing, const double* w, short int bUnbiased, short int bFreq,
+                     short int bUndefinedIsZero)
 {
     auto table = frame::record<double>(x);
     auto found = frame::record<double>(out);
     auto weights = frame::borrow(w, rows);
-    return M_CovCorr_ST(table, rows, cols, found, bCorr, iMissing, &weights, bUnbiased, bFreq,
-                        bUndefinedIsZero);
+    return M_CovCorr_ST(table, rows, cols, found, bCorr, frame::readOnly(iMissing), &weights, bUnbiased,
+                        bFreq, bUndefinedIsZero);
 }
 
 int VB_M_CovCorrAndMeanStDevVar(double* x, int rows, int cols, double* out, double* means, double* sds,
-                                double* vars, short int bCorr, short int* iMissing, double* w,
+                                double* vars, short int bCorr, const short int* iMissing, const double* w,
                                 short int bUnbiased, short int bFreq, short int bCenter, short int bReduce,
                                 short int bUndefinedIsZero)
 {
@@ -38,14 +40,15 @@ int VB_M_CovCorrAndMeanStDevVar(double* x, int rows, int cols, double* out, doub
     auto foundVars = frame::borrow(vars, cols);
     auto weights = frame::borrow(w, rows);
     return M_CovCorrAndMeanStDevVar(&table, rows, cols, &found, &foundMeans, &foundSds, &foundVars, bCorr,
-                                    iMissing, &weights, bUnbiased, bFreq, bCenter, bReduce, bUndefinedIsZero);
+                                    frame::readOnly(iMissing), &weights, bUnbiased, bFreq, bCenter, bReduce,
+                                    bUndefinedIsZero);
 }
 
 int VB_M_CovCorrVAndMeanStDevVar(double* x, int rows, int cols, double* out, double* means, double* sds,
-                                 double* vars, short int bCorr, short int* iMissing, double* w,
+                                 double* vars, short int bCorr, const short int* iMissing, const double* w,
                                  short int bUnbiased, short int bFreq, short int bCenter, short int bReduce,
                                  short int bUndefinedIsZero)
 {
-    return VB_M_CovCorrAndMeanStDevVar(x, rows, cols, out, means, sds, vars, bCorr, iMissing, w, bUnbiased,
-                                       bFreq, bCenter, bReduce, bUndefinedIsZero);
+    return VB_M_CovCorrAndMeanStDevVar(x, rows, cols, out, means, sds, vars, bCorr, frame::readOnly(iMissing),
+                                       w, bUnbiased, bFreq, bCenter, bReduce, bUndefinedIsZero);
 }

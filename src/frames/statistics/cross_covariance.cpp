@@ -5,32 +5,33 @@
 
 using namespace korvel;
 
-int VB_M_CorrMatMat(double* x, int rows, int colsX, double* y, int colsY, double* out, short int* iMissing,
-                    double* w, short int bCorr, short int bSquare, short int bUnbiased, short int bFreq,
-                    short int bUndefinedIsZero)
+int VB_M_CorrMatMat(const double* x, int rows, int colsX, const double* y, int colsY, double* out,
+                    const short int* iMissing, const double* w, short int bCorr, short int bSquare,
+                    short int bUnbiased, short int bFreq, short int bUndefinedIsZero)
 {
     auto found = frame::borrow(out, colsX, colsY);
     auto left = frame::besides(found, x, rows, colsX);
     auto right = frame::besides(found, y, rows, colsY);
     auto weights = frame::borrow(w, rows);
     auto* result = &found;
-    return M_CorrMatMat(&left, rows, colsX, &right, colsY, result, iMissing, &weights, bCorr, bSquare,
-                        bUnbiased, bFreq, bUndefinedIsZero);
+    return M_CorrMatMat(&left, rows, colsX, &right, colsY, result, frame::readOnly(iMissing), &weights, bCorr,
+                        bSquare, bUnbiased, bFreq, bUndefinedIsZero);
 }
 
 int VB_M_CorrMatMatSPV(Hostarray** x, int rows, int colsX, Hostarray** y, int colsY, Hostarray** out,
-                       short int* iMissing, double* w, short int bCorr, short int bSquare,
+                       const short int* iMissing, const double* w, short int bCorr, short int bSquare,
                        short int bUnbiased, short int bFreq, short int bUndefinedIsZero)
 {
     const auto left = frame::chunks(x, colsX, rows);
     const auto right = frame::chunks(y, colsY, rows);
     const auto found = frame::chunks(out, colsY, colsX);
     auto weights = frame::borrow(w, rows);
-    return M_CorrMatMatSPV(left.get(), rows, colsX, right.get(), colsY, found.get(), iMissing, &weights,
-                           bCorr, bSquare, bUnbiased, bFreq, bUndefinedIsZero);
+    return M_CorrMatMatSPV(left.get(), rows, colsX, right.get(), colsY, found.get(),
+                           frame::readOnly(iMissing), &weights, bCorr, bSquare, bUnbiased, bFreq,
+                           bUndefinedIsZero);
 }
 
-double Cpp_V_Correl2W(double* x, int n, double* y, double* w)
+double Cpp_V_Correl2W(const double* x, int n, const double* y, const double* w)
 {
     auto left = frame::borrow(x, n);
     auto right = frame::borrow(y, n);

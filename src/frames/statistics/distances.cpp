@@ -5,7 +5,8 @@
 
 using namespace korvel;
 
-int VB_M_EuclidDist2(double* x, int rows, int cols, double* w, double* out, short int bRows, int nRows)
+int VB_M_EuclidDist2(const double* x, int rows, int cols, const double* w, double* out, short int bRows,
+                     int nRows)
 {
     const bool byRow = bRows == -1;
     const int points = byRow ? nRows : cols;
@@ -16,7 +17,8 @@ int VB_M_EuclidDist2(double* x, int rows, int cols, double* w, double* out, shor
     return 0;
 }
 
-int Cpp_M_EuclidDistToVector(double* x, int rows, int cols, double* v, short int bRows, double* out)
+int Cpp_M_EuclidDistToVector(const double* x, int rows, int cols, const double* v, short int bRows,
+                             double* out)
 {
     const bool byRow = bRows == -1;
     auto table = frame::borrow(x, rows, cols);
@@ -26,7 +28,7 @@ int Cpp_M_EuclidDistToVector(double* x, int rows, int cols, double* v, short int
     return 0;
 }
 
-int Cpp_M_GetMaxDistToOrigin(double* x, int rows, int cols, double* d, int* row)
+int Cpp_M_GetMaxDistToOrigin(const double* x, int rows, int cols, double* d, int* row)
 {
     auto table = frame::borrow(x, rows, cols);
     M_GetMaxDistToOrigin(&table, rows, cols, *d, *row);

@@ -5,7 +5,7 @@
 
 using namespace korvel;
 
-int VB_M_Sums1As2B(double* A, int rows, int cols, double* B, double a, double b, double* out)
+int VB_M_Sums1As2B(const double* A, int rows, int cols, const double* B, double a, double b, double* out)
 {
     auto sums = frame::borrow(out, rows, cols);
     auto left = frame::besides(sums, A, rows, cols);

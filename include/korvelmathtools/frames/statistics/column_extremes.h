@@ -22,8 +22,8 @@
  * counts, a missing one too; any other value: none counts
  * @return 0
  */
-KORVEL_FLAT int VB_M_MinMax(double* x, int rows, int cols, double* mins, double* maxs, short int* iMissing,
-                            short int flag);
+KORVEL_FLAT int VB_M_MinMax(const double* x, int rows, int cols, double* mins, double* maxs,
+                            const short int* iMissing, short int flag);
 
 /**
  * VB_M_MinMax on a table of separate columns.
@@ -39,7 +39,7 @@ KORVEL_FLAT int VB_M_MinMax(double* x, int rows, int cols, double* mins, double*
  * @return 0
  */
 KORVEL_FLAT int VB_M_MinMaxSPV(Hostarray** x, int rows, int cols, double* mins, double* maxs,
-                               short int* iMissing, short int flag);
+                               const short int* iMissing, short int flag);
 
 /**
  * VB_M_MinMax on a symmetric table, of which each separate column starts at the diagonal. A column is a whole
@@ -56,7 +56,7 @@ KORVEL_FLAT int VB_M_MinMaxSPV(Hostarray** x, int rows, int cols, double* mins, 
  * @return 0
  */
 KORVEL_FLAT int VB_M_MinMaxSPV_T(Hostarray** x, int rows, int cols, double* mins, double* maxs,
-                                 short int* iMissing, short int flag);
+                                 const short int* iMissing, short int flag);
 
 /**
  * The largest number of each column; missing numbers do not count.
@@ -67,7 +67,7 @@ KORVEL_FLAT int VB_M_MinMaxSPV_T(Hostarray** x, int rows, int cols, double* mins
  * @param out  [out] cols numbers
  * @return 0
  */
-KORVEL_FLAT int VB_M_Max(double* x, int rows, int cols, double* out);
+KORVEL_FLAT int VB_M_Max(const double* x, int rows, int cols, double* out);
 
 /**
  * The smallest number of each column; missing numbers do not count.
@@ -78,7 +78,7 @@ KORVEL_FLAT int VB_M_Max(double* x, int rows, int cols, double* out);
  * @param out  [out] cols numbers
  * @return 0
  */
-KORVEL_FLAT int VB_M_Min(double* x, int rows, int cols, double* out);
+KORVEL_FLAT int VB_M_Min(const double* x, int rows, int cols, double* out);
 
 /**
  * The smallest number of a table; missing numbers do not count.
@@ -88,6 +88,6 @@ KORVEL_FLAT int VB_M_Min(double* x, int rows, int cols, double* out);
  * @param cols columns
  * @return the number
  */
-KORVEL_FLAT double Cpp_M_MinAll(double* x, int rows, int cols);
+KORVEL_FLAT double Cpp_M_MinAll(const double* x, int rows, int cols);
 
 #endif

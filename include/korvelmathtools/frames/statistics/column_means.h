@@ -18,7 +18,7 @@
  * @param w     [in] rows weights
  * @return 0
  */
-KORVEL_FLAT int VB_M_Mean(double* x, int rows, int cols, double* means, double* w);
+KORVEL_FLAT int VB_M_Mean(const double* x, int rows, int cols, double* means, const double* w);
 
 /**
  * VB_M_Mean on a table of separate columns.
@@ -30,7 +30,7 @@ KORVEL_FLAT int VB_M_Mean(double* x, int rows, int cols, double* means, double* 
  * @param w     [in] rows weights
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_MeanSPV(Hostarray** x, int rows, int cols, double* means, double* w);
+KORVEL_FLAT int Cpp_M_MeanSPV(Hostarray** x, int rows, int cols, double* means, const double* w);
 
 /**
  * Weighted means over the cells greater than the missing value, so that a NaN is not kept. A weight of 0 is a
@@ -43,7 +43,7 @@ KORVEL_FLAT int Cpp_M_MeanSPV(Hostarray** x, int rows, int cols, double* means, 
  * @param means [out] cols means; missing for a column with nothing kept
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_Mean2(double* x, int rows, int cols, double* w, double* means);
+KORVEL_FLAT int Cpp_M_Mean2(const double* x, int rows, int cols, const double* w, double* means);
 
 /**
  * Cpp_M_Mean2 with all weights 1.0.
@@ -54,6 +54,6 @@ KORVEL_FLAT int Cpp_M_Mean2(double* x, int rows, int cols, double* w, double* me
  * @param means [out] cols means; missing for a column with nothing kept
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_Mean3(double* x, int rows, int cols, double* means);
+KORVEL_FLAT int Cpp_M_Mean3(const double* x, int rows, int cols, double* means);
 
 #endif

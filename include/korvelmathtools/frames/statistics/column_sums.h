@@ -18,7 +18,7 @@
  * @param out  [out] rows sums
  * @return 0
  */
-KORVEL_FLAT int VB_M_SumByRows(double* x, int rows, int cols, double* out);
+KORVEL_FLAT int VB_M_SumByRows(const double* x, int rows, int cols, double* out);
 
 /**
  * The sum of each column.
@@ -29,7 +29,7 @@ KORVEL_FLAT int VB_M_SumByRows(double* x, int rows, int cols, double* out);
  * @param out  [out] cols sums
  * @return 0
  */
-KORVEL_FLAT int VB_M_SumByCols(double* x, int rows, int cols, double* out);
+KORVEL_FLAT int VB_M_SumByCols(const double* x, int rows, int cols, double* out);
 
 /**
  * The sum of all cells.
@@ -39,7 +39,7 @@ KORVEL_FLAT int VB_M_SumByCols(double* x, int rows, int cols, double* out);
  * @param cols columns
  * @return the sum
  */
-KORVEL_FLAT double VB_M_SumOfElem(double* x, int rows, int cols);
+KORVEL_FLAT double VB_M_SumOfElem(const double* x, int rows, int cols);
 
 /**
  * The sum of squares of each column.
@@ -50,7 +50,7 @@ KORVEL_FLAT double VB_M_SumOfElem(double* x, int rows, int cols);
  * @param out  [out] cols sums
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_SumBySquareCols(double* x, int rows, int cols, double* out);
+KORVEL_FLAT int Cpp_M_SumBySquareCols(const double* x, int rows, int cols, double* out);
 
 /**
  * The sum of squares of each row.
@@ -61,7 +61,7 @@ KORVEL_FLAT int Cpp_M_SumBySquareCols(double* x, int rows, int cols, double* out
  * @param out  [out] rows sums
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_SumBySquareRows(double* x, int rows, int cols, double* out);
+KORVEL_FLAT int Cpp_M_SumBySquareRows(const double* x, int rows, int cols, double* out);
 
 /**
  * The sum of squares of each row.
@@ -72,7 +72,7 @@ KORVEL_FLAT int Cpp_M_SumBySquareRows(double* x, int rows, int cols, double* out
  * @param out  [out] rows sums
  * @return 0
  */
-KORVEL_FLAT int VB_M_SquaredRows(double* x, int rows, int cols, double* out);
+KORVEL_FLAT int VB_M_SquaredRows(const double* x, int rows, int cols, double* out);
 
 /**
  * The sum of squares of each column.
@@ -83,6 +83,6 @@ KORVEL_FLAT int VB_M_SquaredRows(double* x, int rows, int cols, double* out);
  * @param out  [out] cols sums
  * @return 0
  */
-KORVEL_FLAT int VB_M_SquaredColumns(double* x, int rows, int cols, double* out);
+KORVEL_FLAT int VB_M_SquaredColumns(const double* x, int rows, int cols, double* out);
 
 #endif

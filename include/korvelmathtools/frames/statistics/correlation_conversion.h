@@ -18,7 +18,7 @@
  * @param bUndefinedIsZero other than 0: an undefined cell is 0.0; otherwise it is missing
  * @return 0
  */
-KORVEL_FLAT int VB_M_CorrMatFromCovMat(double* cov, int n, double* out, short int bUndefinedIsZero);
+KORVEL_FLAT int VB_M_CorrMatFromCovMat(const double* cov, int n, double* out, short int bUndefinedIsZero);
 
 /**
  * The same in place on a symmetric table, of which each separate column starts at the diagonal; an undefined
@@ -40,6 +40,6 @@ KORVEL_FLAT int Cpp_M_CorrMatFromCovMatSPV2_T(Hostarray** table, int n);
  * @param out  [out] n by n covariances
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_CovMatFromCorrMat(double* corr, int n, double* vars, double* out);
+KORVEL_FLAT int Cpp_M_CovMatFromCorrMat(const double* corr, int n, const double* vars, double* out);
 
 #endif

@@ -35,8 +35,9 @@
  * @param bUndefinedIsZero what an undefined cell is
  * @return 0
  */
-KORVEL_FLAT int VB_M_CovCorr(double* x, int rows, int cols, double* out, short int bCorr, short int* iMissing,
-                             double* w, short int bUnbiased, short int bFreq, short int bUndefinedIsZero);
+KORVEL_FLAT int VB_M_CovCorr(const double* x, int rows, int cols, double* out, short int bCorr,
+                             const short int* iMissing, const double* w, short int bUnbiased, short int bFreq,
+                             short int bUndefinedIsZero);
 
 /**
  * VB_M_CovCorr on a labelled table.
@@ -54,8 +55,8 @@ KORVEL_FLAT int VB_M_CovCorr(double* x, int rows, int cols, double* out, short i
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_CovCorr_ST(ST_MVect* x, int rows, int cols, ST_MVect* out, short int bCorr,
-                                 short int* iMissing, double* w, short int bUnbiased, short int bFreq,
-                                 short int bUndefinedIsZero);
+                                 const short int* iMissing, const double* w, short int bUnbiased,
+                                 short int bFreq, short int bUndefinedIsZero);
 
 /**
  * Covariances, or correlations, with the mean, the standard deviation and the variance of each column; on
@@ -81,9 +82,10 @@ KORVEL_FLAT int Cpp_M_CovCorr_ST(ST_MVect* x, int rows, int cols, ST_MVect* out,
  * @return 0
  */
 KORVEL_FLAT int VB_M_CovCorrAndMeanStDevVar(double* x, int rows, int cols, double* out, double* means,
-                                            double* sds, double* vars, short int bCorr, short int* iMissing,
-                                            double* w, short int bUnbiased, short int bFreq,
-                                            short int bCenter, short int bReduce, short int bUndefinedIsZero);
+                                            double* sds, double* vars, short int bCorr,
+                                            const short int* iMissing, const double* w, short int bUnbiased,
+                                            short int bFreq, short int bCenter, short int bReduce,
+                                            short int bUndefinedIsZero);
 
 /**
  * The same as VB_M_CovCorrAndMeanStDevVar.
@@ -106,9 +108,9 @@ KORVEL_FLAT int VB_M_CovCorrAndMeanStDevVar(double* x, int rows, int cols, doubl
  * @return 0
  */
 KORVEL_FLAT int VB_M_CovCorrVAndMeanStDevVar(double* x, int rows, int cols, double* out, double* means,
-                                             double* sds, double* vars, short int bCorr, short int* iMissing,
-                                             double* w, short int bUnbiased, short int bFreq,
-                                             short int bCenter, short int bReduce,
+                                             double* sds, double* vars, short int bCorr,
+                                             const short int* iMissing, const double* w, short int bUnbiased,
+                                             short int bFreq, short int bCenter, short int bReduce,
                                              short int bUndefinedIsZero);
 
 #endif

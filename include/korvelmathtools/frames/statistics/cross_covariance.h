@@ -31,9 +31,10 @@
  * @param bUndefinedIsZero other than 0: an undefined cell is 0.0; otherwise it is missing
  * @return 0
  */
-KORVEL_FLAT int VB_M_CorrMatMat(double* x, int rows, int colsX, double* y, int colsY, double* out,
-                                short int* iMissing, double* w, short int bCorr, short int bSquare,
-                                short int bUnbiased, short int bFreq, short int bUndefinedIsZero);
+KORVEL_FLAT int VB_M_CorrMatMat(const double* x, int rows, int colsX, const double* y, int colsY, double* out,
+                                const short int* iMissing, const double* w, short int bCorr,
+                                short int bSquare, short int bUnbiased, short int bFreq,
+                                short int bUndefinedIsZero);
 
 /**
  * VB_M_CorrMatMat on tables of separate columns.
@@ -55,8 +56,8 @@ KORVEL_FLAT int VB_M_CorrMatMat(double* x, int rows, int colsX, double* y, int c
  * @return 0
  */
 KORVEL_FLAT int VB_M_CorrMatMatSPV(Hostarray** x, int rows, int colsX, Hostarray** y, int colsY,
-                                   Hostarray** out, short int* iMissing, double* w, short int bCorr,
-                                   short int bSquare, short int bUnbiased, short int bFreq,
+                                   Hostarray** out, const short int* iMissing, const double* w,
+                                   short int bCorr, short int bSquare, short int bUnbiased, short int bFreq,
                                    short int bUndefinedIsZero);
 
 /**
@@ -69,6 +70,6 @@ KORVEL_FLAT int VB_M_CorrMatMatSPV(Hostarray** x, int rows, int colsX, Hostarray
  * @param w [in] n weights
  * @return the correlation; missing unless the product of the two sums of squares is greater than 0
  */
-KORVEL_FLAT double Cpp_V_Correl2W(double* x, int n, double* y, double* w);
+KORVEL_FLAT double Cpp_V_Correl2W(const double* x, int n, const double* y, const double* w);
 
 #endif

@@ -21,8 +21,8 @@
  * @param nRows the number of first rows to compare; not used between columns
  * @return 0
  */
-KORVEL_FLAT int VB_M_EuclidDist2(double* x, int rows, int cols, double* w, double* out, short int bRows,
-                                 int nRows);
+KORVEL_FLAT int VB_M_EuclidDist2(const double* x, int rows, int cols, const double* w, double* out,
+                                 short int bRows, int nRows);
 
 /**
  * The root mean square difference of each column, or row, from a vector, over the coordinates in which both
@@ -36,8 +36,8 @@ KORVEL_FLAT int VB_M_EuclidDist2(double* x, int rows, int cols, double* w, doubl
  * @param out   [out] cols or rows distances; missing where no coordinate is kept
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_EuclidDistToVector(double* x, int rows, int cols, double* v, short int bRows,
-                                         double* out);
+KORVEL_FLAT int Cpp_M_EuclidDistToVector(const double* x, int rows, int cols, const double* v,
+                                         short int bRows, double* out);
 
 /**
  * The row that lies farthest from the origin.
@@ -49,6 +49,6 @@ KORVEL_FLAT int Cpp_M_EuclidDistToVector(double* x, int rows, int cols, double* 
  * @param row  [out] the number of the first such row, from 1; 0 without rows
  * @return 0
  */
-KORVEL_FLAT int Cpp_M_GetMaxDistToOrigin(double* x, int rows, int cols, double* d, int* row);
+KORVEL_FLAT int Cpp_M_GetMaxDistToOrigin(const double* x, int rows, int cols, double* d, int* row);
 
 #endif

@@ -19,7 +19,8 @@
  * @param out  [out] rows by cols numbers, 0.0 where one is missing in either table; may be A or B
  * @return 0
  */
-KORVEL_FLAT int VB_M_Sums1As2B(double* A, int rows, int cols, double* B, double a, double b, double* out);
+KORVEL_FLAT int VB_M_Sums1As2B(const double* A, int rows, int cols, const double* B, double a, double b,
+                               double* out);
 
 /**
  * VB_M_Sums1As2B on labelled tables.
