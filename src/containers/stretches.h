@@ -13,6 +13,7 @@
 #include "platform/lanes.h"
 
 #include <algorithm>
+#include <bit>
 #include <concepts>
 #include <cstdint>
 #include <type_traits>
@@ -119,24 +120,29 @@ template <class Test, class... Cells>
 
 /**
  * Calls `visit(i)` for each of the positions 0 to `n - 1` at which `isFound(x[i])` holds, in ascending order.
- * Stretches without any are passed over at the speed of reading them.
+ * Numbers are tested 64 at a time, without a branch: which cells are found is seldom foreseen.
  */
 template <class Test, class Cells, class Visit>
-void forEachFound(std::int64_t n, Test isFound, const Cells& x, Visit visit)
+void forEachFound(int n, Test isFound, const Cells& x, Visit visit)
 {
-    whileStretches(0, n, [&](std::int64_t from, std::int64_t to) {
-        if constexpr (detail::pointer_to<Cells, double>) {
-            if (detail::countInLanes(from, to, isFound, x) == 0) {
-                return true;
+    int i = 0;
+    if constexpr (detail::pointer_to<Cells, double> || detail::pointer_to<Cells, int>) {
+        constexpr int bits = 64;
+        for (; i + bits <= n; i += bits) {
+            std::uint64_t found = 0;
+            for (int k = 0; k < bits; k += 2) {
+                found |= std::uint64_t{lanes::chosenBits(isFound(lanes::load<2>(x + i + k)))} << k;
+            }
+            for (; found != 0; found &= found - 1) {
+                visit(i + std::countr_zero(found));
             }
         }
-        for (std::int64_t i = from; i < to; ++i) {
-            if (isFound(x[i])) {
-                visit(static_cast<int>(i));
-            }
+    }
+    for (; i < n; ++i) {
+        if (isFound(x[i])) {
+            visit(i);
         }
-        return true;
-    });
+    }
 }
 
 } // namespace korvel

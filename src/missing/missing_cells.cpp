@@ -89,7 +89,8 @@ void M_ReplaceMissingByValSPV_T(matrix3D<matrix<double>>* x, int rows, int cols,
 void M_ReplaceByMissingIfVal(matrix<double>* x, int n, int p, matrix<int>* marks, int markColumns, int value,
                              short int wholeRow)
 {
-    const auto isMark = [value](int mark) { return mark == value; };
+    // A double, as lanes of integers are.
+    const auto isMark = [value = static_cast<double>(value)](auto mark) { return mark == value; };
     for (int k = 0; k < markColumns; ++k) {
         const int first = wholeRow == -1 ? 0 : k;
         const int last = wholeRow == -1 ? p : k + 1;

@@ -2,53 +2,22 @@
 
 #include "containers/cells.h"
 #include "containers/missing.h"
-#include "statistics/pairs.h"
+#include "containers/stretches.h"
 #include "statistics/running_variance.h"
-
-#include <bit>
-#include <cstdint>
 
 namespace
 {
 
 using korvel::isMissing;
 using korvel::overPositive;
-using korvel::pair;
-using korvel::pairAt;
-using korvel::twice;
 using korvel::withCells;
-
-/**
- * Calls `visit(i)` for each position whose code passes `test`, in ascending order. Codes are tested 64 at a
- * time, without a branch: which row belongs to a group is seldom foreseen.
- */
-template <class Codes, class Test, class Visit>
-void forEachPassing(const Codes& g, int n, Test test, Visit visit)
-{
-    constexpr int bits = 64;
-    int i = 0;
-    for (; i + bits <= n; i += bits) {
-        std::uint64_t passed = 0;
-        for (int k = 0; k < bits; k += 2) {
-            passed |= std::uint64_t{korvel::lanes::chosenBits(test(pairAt(g, i + k)))} << k;
-        }
-        for (; passed != 0; passed &= passed - 1) {
-            visit(i + std::countr_zero(passed));
-        }
-    }
-    for (; i < n; ++i) {
-        if (korvel::lanes::any(test(twice(g, i)))) {
-            visit(i);
-        }
-    }
-}
 
 auto equalTo(double val)
 {
-    return [val](pair codes) { return codes == val; };
+    return [val](auto codes) { return codes == val; };
 }
 
-constexpr auto aboveZero = [](pair codes) { return codes > 1e-12; };
+constexpr auto aboveZero = [](auto codes) { return codes > 1e-12; };
 
 constexpr auto isPresent = [](auto y) { return !isMissing(y); };
 constexpr auto isAboveSentinel = [](double y) { return y > MISSING_DBL; };
@@ -61,7 +30,7 @@ State stateOf(State start, Test test, Kept kept, const matrix<Y>& y, int n, cons
         n,
         [=](auto values, auto codes, auto... weights) {
             State state = start;
-            forEachPassing(codes, n, test, [&](int i) {
+            korvel::forEachFound(n, test, codes, [&](int i) {
                 if (kept(values[i])) {
                     state.add(values[i], weights[i]...);
                 }
@@ -135,28 +104,23 @@ double varianceOf(const State& state, short int bUnbiased)
 }
 
 template <class T>
-double countOf(const matrix<T>& x, int n, T val)
+double countEqual(const matrix<T>& x, int n, T val)
 {
-    const auto count = [=](auto cells) {
-        std::int64_t found = 0;
-        for (int i = 0; i < n; ++i) {
-            found += cells[i] == val ? 1 : 0;
-        }
-        return static_cast<double>(found);
-    };
-    return withCells(n, count, x);
+    const auto isEqual = [val](auto cell) { return cell == val; };
+    return withCells(
+        n, [=](auto cells) { return static_cast<double>(korvel::countOf(n, isEqual, cells)); }, x);
 }
 
 } // namespace
 
 double V_NbIf(matrix<double>* x, int n, double val)
 {
-    return countOf(*x, n, val);
+    return countEqual(*x, n, val);
 }
 
 double V_NbIf(matrix<int>* x, int n, int val)
 {
-    return countOf(*x, n, val);
+    return countEqual(*x, n, val);
 }
 
 double V_NbIfW(matrix<double>* x, int n, matrix<double>* w, double val)
