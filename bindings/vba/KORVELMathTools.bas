@@ -762,15 +762,16 @@ Public Declare PtrSafe Function VB_SortMatrixSeqQP1toP2Lng Lib "KORVELMathTools.
 ' ---- ordering/sort_table.h
 
 ' Orders the rows of a table of numbers by a key, on copies that then replace the caller's arrays.
+' aux (Double) may be null.
 Public Declare PtrSafe Function VB_SortQDbl Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
-' Orders the rows of a table of numbers by a key, in the caller's arrays.
+' Orders the rows of a table of numbers by a key, in the caller's arrays. aux (Double) may be null.
 Public Declare PtrSafe Function VB_SortQDbl2 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
 ' Orders the columns of a table of numbers by a key with one entry a column: the column of rank k,
@@ -780,16 +781,16 @@ Public Declare PtrSafe Function VB_SortQByColDbl Lib "KORVELMathTools.dll" ( _
     ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxRows As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
-' Orders the rows of a table of integers by a key of integers.
+' Orders the rows of a table of integers by a key of integers. aux (Long) may be null.
 Public Declare PtrSafe Function VB_SortQLng Lib "KORVELMathTools.dll" ( _
     ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Long, ByRef aux As Long, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Long, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
-' Orders the rows of a table of flags by a key of numbers.
+' Orders the rows of a table of flags by a key of numbers. aux (Integer) may be null.
 Public Declare PtrSafe Function VB_SortQBool Lib "KORVELMathTools.dll" ( _
     ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Double, ByRef aux As Integer, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
 ' Orders the rows of a table of texts by a key of numbers.
@@ -798,17 +799,17 @@ Public Declare PtrSafe Function VB_SortQStr Lib "KORVELMathTools.dll" ( _
     ByVal toValue As Long, ByRef key As Double, ByVal aux As LongPtr, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
-' Orders the rows of a record of labelled columns of numbers by a key.
+' Orders the rows of a record of labelled columns of numbers by a key. aux (Double) may be null.
 Public Declare PtrSafe Function Cpp_SortQDbl_ST Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
 ' Orders the rows of a table of integers, a single array that comes out of a record, by a key of
-' integers.
+' integers. aux (Long) may be null.
 Public Declare PtrSafe Function Cpp_SortQLng_ST Lib "KORVELMathTools.dll" ( _
     ByRef x() As Long, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Long, ByRef aux As Long, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Long, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
 ' Orders the rows of a record of labelled columns of texts by a key.
@@ -1122,16 +1123,16 @@ Public Declare PtrSafe Function VB_M_ReduceW2 Lib "KORVELMathTools.dll" ( _
 
 ' ---- statistics/column_deviations.h
 
-' Means and standard deviations of the columns.
+' Means and standard deviations of the columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MeanStDev Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
-    ByRef sds As Double, ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByRef sds As Double, ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, _
     ByVal bFreq As Integer, ByVal flag As Integer) As Long
 
-' Means, standard deviations and variances of the columns.
+' Means, standard deviations and variances of the columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MeanStDevVar Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
-    ByRef sds As Double, ByRef vars As Double, ByRef iMissing As Integer, ByRef w As Double, _
+    ByRef sds As Double, ByRef vars As Double, ByRef iMissing As Any, ByRef w As Double, _
     ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
 
 ' Means and standard deviations of the rows.
@@ -1148,20 +1149,21 @@ Public Declare PtrSafe Function VB_M_MeanStDevVarOneInMat Lib "KORVELMathTools.d
 
 ' ---- statistics/column_extremes.h
 
-' Both extremes of each column.
+' Both extremes of each column. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MinMax Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef mins As Double, _
-    ByRef maxs As Double, ByRef iMissing As Integer, ByVal flag As Integer) As Long
+    ByRef maxs As Double, ByRef iMissing As Any, ByVal flag As Integer) As Long
 
-' VB_M_MinMax on a table of separate columns.
+' VB_M_MinMax on a table of separate columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MinMaxSPV Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef mins As Double, _
-    ByRef maxs As Double, ByRef iMissing As Integer, ByVal flag As Integer) As Long
+    ByRef maxs As Double, ByRef iMissing As Any, ByVal flag As Integer) As Long
 
-' VB_M_MinMax on a symmetric table, of which each separate column starts at the diagonal.
+' VB_M_MinMax on a symmetric table, of which each separate column starts at the diagonal. iMissing
+' (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MinMaxSPV_T Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef mins As Double, _
-    ByRef maxs As Double, ByRef iMissing As Integer, ByVal flag As Integer) As Long
+    ByRef maxs As Double, ByRef iMissing As Any, ByVal flag As Integer) As Long
 
 ' The largest number of each column; missing numbers do not count.
 Public Declare PtrSafe Function VB_M_Max Lib "KORVELMathTools.dll" ( _
@@ -1325,48 +1327,47 @@ Public Declare PtrSafe Function Cpp_M_CovMatFromCorrMat Lib "KORVELMathTools.dll
 
 ' ---- statistics/covariance.h
 
-' Covariances, or correlations, of all pairs of columns.
+' Covariances, or correlations, of all pairs of columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CovCorr Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
-    ByVal bCorr As Integer, ByRef iMissing As Integer, ByRef w As Double, _
-    ByVal bUnbiased As Integer, ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
+    ByVal bCorr As Integer, ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
-' VB_M_CovCorr on a labelled table.
+' VB_M_CovCorr on a labelled table. iMissing (Integer) may be null.
 Public Declare PtrSafe Function Cpp_M_CovCorr_ST Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr, _
-    ByVal bCorr As Integer, ByRef iMissing As Integer, ByRef w As Double, _
-    ByVal bUnbiased As Integer, ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
+    ByVal bCorr As Integer, ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
 ' Covariances, or correlations, with the mean, the standard deviation and the variance of each
-' column; on request the table itself is centred and reduced.
+' column; on request the table itself is centred and reduced. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CovCorrAndMeanStDevVar Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
     ByRef means As Double, ByRef sds As Double, ByRef vars As Double, ByVal bCorr As Integer, _
-    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, _
-    ByVal bFreq As Integer, ByVal bCenter As Integer, ByVal bReduce As Integer, _
-    ByVal bUndefinedIsZero As Integer) As Long
+    ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer, _
+    ByVal bCenter As Integer, ByVal bReduce As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
-' The same as VB_M_CovCorrAndMeanStDevVar.
+' The same as VB_M_CovCorrAndMeanStDevVar. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CovCorrVAndMeanStDevVar Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
     ByRef means As Double, ByRef sds As Double, ByRef vars As Double, ByVal bCorr As Integer, _
-    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, _
-    ByVal bFreq As Integer, ByVal bCenter As Integer, ByVal bReduce As Integer, _
-    ByVal bUndefinedIsZero As Integer) As Long
+    ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer, _
+    ByVal bCenter As Integer, ByVal bReduce As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
 ' ---- statistics/cross_covariance.h
 
-' Covariances, or correlations, of each column of one table with each column of another.
+' Covariances, or correlations, of each column of one table with each column of another. iMissing
+' (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CorrMatMat Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal colsX As Long, ByRef y As Double, _
-    ByVal colsY As Long, ByRef out As Double, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal colsY As Long, ByRef out As Double, ByRef iMissing As Any, ByRef w As Double, _
     ByVal bCorr As Integer, ByVal bSquare As Integer, ByVal bUnbiased As Integer, _
     ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
-' VB_M_CorrMatMat on tables of separate columns.
+' VB_M_CorrMatMat on tables of separate columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CorrMatMatSPV Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal colsX As Long, ByVal y As LongPtr, _
-    ByVal colsY As Long, ByVal out As LongPtr, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal colsY As Long, ByVal out As LongPtr, ByRef iMissing As Any, ByRef w As Double, _
     ByVal bCorr As Integer, ByVal bSquare As Integer, ByVal bUnbiased As Integer, _
     ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
@@ -1434,43 +1435,44 @@ Public Declare PtrSafe Function VB_V_NormToValW Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal value As Double, ByRef w As Double) As Long
 
 ' Changes the cells of each column to (x / s) * sqrt(n / (n - 1)), where s is the root of the
-' column's sum of x * x * w and n is rows, whatever is left out.
+' column's sum of x * x * w and n is rows, whatever is left out. w (Double) may be null. iMissing
+' (Integer) may be null.
 Public Declare PtrSafe Function VB_M_Normalize Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
-    ByRef iMissing As Integer) As Long
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Any, ByRef iMissing As Any) As Long
 
 ' VB_M_Normalize, without weights and flags, on a table and two companions, tables of other rows and
-' the same columns, which are changed by the sums of squares and the number of rows of x.
+' the same columns, which are changed by the sums of squares and the number of rows of x. y (Double)
+' may be null. z (Double) may be null.
 Public Declare PtrSafe Function VB_M_NormalizeMatrix Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
-    ByVal yRows As Long, ByRef z As Double, ByVal zRows As Long) As Long
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Any, ByVal yRows As Long, _
+    ByRef z As Any, ByVal zRows As Long) As Long
 
 ' ---- statistics/rescale.h
 
 ' Brings a vector to the range from lo to hi: (x - a) * (hi - lo) / r + lo, where a is the smallest
-' number kept and r the largest less the smallest.
+' number kept and r the largest less the smallest. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_V_Rescale Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
-    ByRef iMissing As Integer, ByRef out As Double) As Long
+    ByRef iMissing As Any, ByRef out As Double) As Long
 
-' The same in place; an element left out stays.
+' The same in place; an element left out stays. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_V_Rescale2 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
-    ByRef iMissing As Integer) As Long
+    ByRef iMissing As Any) As Long
 
-' VB_V_Rescale on each column, each to a range of its own.
+' VB_V_Rescale on each column, each to a range of its own. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_RescaleByVect Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
-    ByRef hi As Double, ByRef iMissing As Integer, ByRef out As Double) As Long
+    ByRef hi As Double, ByRef iMissing As Any, ByRef out As Double) As Long
 
-' The same in place; a cell left out stays.
+' The same in place; a cell left out stays. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_RescaleByVect2 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
-    ByRef hi As Double, ByRef iMissing As Integer) As Long
+    ByRef hi As Double, ByRef iMissing As Any) As Long
 
-' How far each number lies from the centre, in deviations.
+' How far each number lies from the centre, in deviations. centre (Double) may be null.
 Public Declare PtrSafe Function Cpp_V_ZScores Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal bRobust As Integer, ByRef centre As Double, _
+    ByRef x As Double, ByVal n As Long, ByVal bRobust As Integer, ByRef centre As Any, _
     ByRef scaleValue As Double, ByRef out As Double) As Long
 
 ' ---- statistics/row_grouping.h
@@ -1493,26 +1495,31 @@ Public Declare PtrSafe Function VB_M_Dedupe Lib "KORVELMathTools.dll" ( _
 
 ' ---- statistics/standardize.h
 
-' Standardises each column in turn.
+' Standardises each column in turn. out (Double) may be null. means (Double) may be null. sds
+' (Double) may be null. vars (Double) may be null. iMissing (Integer) may be null. w (Double) may be
+' null.
 Public Declare PtrSafe Function VB_M_Standardize Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
-    ByRef means As Double, ByRef sds As Double, ByRef vars As Double, ByRef iMissing As Integer, _
-    ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Any, ByRef means As Any, _
+    ByRef sds As Any, ByRef vars As Any, ByRef iMissing As Any, ByRef w As Any, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
 
-' VB_M_Standardize with a result, on one vector and with bFreq false.
+' VB_M_Standardize with a result, on one vector and with bFreq false. iMissing (Integer) may be
+' null. w (Double) may be null.
 Public Declare PtrSafe Function VB_V_Standardize Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any, ByRef w As Any, _
     ByVal bUnbiased As Integer, ByRef out As Double) As Long
 
-' VB_M_Standardize in place, on one vector and with bFreq false.
+' VB_M_Standardize in place, on one vector and with bFreq false. iMissing (Integer) may be null. w
+' (Double) may be null.
 Public Declare PtrSafe Function VB_V_Standardize2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any, ByRef w As Any, _
     ByVal bUnbiased As Integer) As Long
 
-' Standardises the columns by given statistics.
+' Standardises the columns by given statistics. sds (Double) may be null. out (Double) may be null.
+' iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_StandardizeKnownMeansStDev Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
-    ByRef sds As Double, ByRef out As Double, ByRef vars As Double, ByRef iMissing As Integer) As Long
+    ByRef sds As Any, ByRef out As Any, ByRef vars As Double, ByRef iMissing As Any) As Long
 
 ' VB_M_StandardizeKnownMeansStDev with deviations and a result, no row left out.
 Public Declare PtrSafe Function VB_M_StandardizeByVect Lib "KORVELMathTools.dll" ( _
@@ -1533,10 +1540,10 @@ Public Declare PtrSafe Function Cpp_M_StandardizeApply2 Lib "KORVELMathTools.dll
 
 ' Standardises a table in place, (x - mean) / sd by column, the sum of squares divided by the number
 ' of cells less 1, and by the same means and deviations two companions, tables of other rows and the
-' same columns.
+' same columns. y (Double) may be null. z (Double) may be null.
 Public Declare PtrSafe Function VB_M_StandardizeMatrix Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
-    ByVal yRows As Long, ByRef z As Double, ByVal zRows As Long) As Long
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Any, ByVal yRows As Long, _
+    ByRef z As Any, ByVal zRows As Long) As Long
 
 ' Standardises or centres each group of rows for itself, in place.
 Public Declare PtrSafe Function Cpp_M_StandardizeByGroup Lib "KORVELMathTools.dll" ( _

@@ -177,3 +177,23 @@ TEST(Counts, OfNoneLeaveTheArraysAlone)
     leavesAllAlone(flags);
     leavesAllAlone(blocks);
 }
+
+TEST(Counts, BelowNoneMeanThatASortHasNoSecondTable)
+{
+    const codes rows{4, 5, 6};
+    const codes sorted{6, 4, 5};
+    caller_cells<double> key{2, 3, 1};
+    caller_cells<int> integerKey{2, 3, 1};
+    caller_cells<double> copied(rows);
+    caller_cells<double> numbersInPlace(rows);
+    caller_cells<int> integersInPlace(rows);
+    caller_cells<text_cell> texts(rows);
+    VB_SortQDbl(copied.data(), 3, 1, 1, 3, key.data(), nullptr, -1, 0, 0);
+    VB_SortQDbl2(numbersInPlace.data(), 3, 1, 1, 3, key.data(), nullptr, -1, 0, 0);
+    VB_SortQLng(integersInPlace.data(), 3, 1, 1, 3, integerKey.data(), nullptr, -1, 0, 0);
+    VB_SortQStr(texts.data(), 3, 1, 1, 3, key.data(), nullptr, -1, 0, 0);
+    EXPECT_EQ(copied.values(), sorted);
+    EXPECT_EQ(numbersInPlace.values(), sorted);
+    EXPECT_EQ(integersInPlace.values(), sorted);
+    EXPECT_EQ(texts.values(), sorted);
+}

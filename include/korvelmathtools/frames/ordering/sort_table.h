@@ -21,8 +21,9 @@
  * @param to       last row to sort, included
  * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
  * set
- * @param aux      [inout] rows by auxCols numbers, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
+ * @param aux      [inout] rows by auxCols numbers, a second table that moves along; may be null when auxCols
+ * is below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  * @param bDesc    not 0: descending
  * @param bSortKey not 0: the key is rewritten in sorted order
  * @return 0
@@ -41,8 +42,9 @@ KORVEL_FLAT int VB_SortQDbl(double* x, int rows, int cols, int from, int to, dou
  * @param to       last row to sort, included
  * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
  * set
- * @param aux      [inout] rows by auxCols numbers, moved along unless it is the key or the table itself
- * @param auxCols  columns of aux; 0 counts as 1, below 0 aux is left alone
+ * @param aux      [inout] rows by auxCols numbers, moved along unless it is the key or the table itself; may
+ * be null when auxCols is below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  * @param bDesc    not 0: descending
  * @param bSortKey not 0: the key is rewritten in sorted order
  * @return 0
@@ -80,8 +82,9 @@ KORVEL_FLAT int VB_SortQByColDbl(double* x, int rows, int cols, int from, int to
  * @param to       last row to sort, included
  * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
  * set
- * @param aux      [inout] rows by auxCols integers, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
+ * @param aux      [inout] rows by auxCols integers, a second table that moves along; may be null when auxCols
+ * is below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  * @param bDesc    not 0: descending
  * @param bSortKey not 0: the key is rewritten in sorted order
  * @return 0
@@ -99,8 +102,9 @@ KORVEL_FLAT int VB_SortQLng(int* x, int rows, int cols, int from, int to, int* k
  * @param to       last row to sort, included
  * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
  * set
- * @param aux      [inout] rows by auxCols flags, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
+ * @param aux      [inout] rows by auxCols flags, a second table that moves along; may be null when auxCols is
+ * below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  * @param bDesc    not 0: descending
  * @param bSortKey not 0: the key is rewritten in sorted order
  * @return 0
@@ -118,8 +122,9 @@ KORVEL_FLAT int VB_SortQBool(short int* x, int rows, int cols, int from, int to,
  * @param to       last row to sort, included
  * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
  * set
- * @param aux      [inout] rows by auxCols texts, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
+ * @param aux      [inout] rows by auxCols texts, a second table that moves along; may be null when auxCols is
+ * below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  * @param bDesc    not 0: descending
  * @param bSortKey not 0: the key is rewritten in sorted order
  * @return 0
@@ -138,8 +143,9 @@ KORVEL_FLAT int VB_SortQStr(OLECHAR** x, int rows, int cols, int from, int to, d
  * @param to       last row to sort, included
  * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
  * set
- * @param aux      [inout] rows by auxCols numbers, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
+ * @param aux      [inout] rows by auxCols numbers, a second table that moves along; may be null when auxCols
+ * is below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  * @param bDesc    not 0: descending
  * @param bSortKey not 0: the key is rewritten in sorted order
  * @return 0
@@ -157,8 +163,9 @@ KORVEL_FLAT int Cpp_SortQDbl_ST(ST_MVect* x, int rows, int cols, int from, int t
  * @param to       last row to sort, included
  * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
  * set
- * @param aux      [inout] rows by auxCols integers, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
+ * @param aux      [inout] rows by auxCols integers, a second table that moves along; may be null when auxCols
+ * is below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  * @param bDesc    not 0: descending
  * @param bSortKey not 0: the key is rewritten in sorted order
  * @return 0
@@ -177,8 +184,9 @@ KORVEL_FLAT int Cpp_SortQLng_ST(SAFEARRAY** x, int rows, int cols, int from, int
  * @param to       last row to sort, included
  * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
  * set
- * @param aux      [inout] rows by auxCols texts, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
+ * @param aux      [inout] rows by auxCols texts, a second table that moves along; may be null when auxCols is
+ * below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  * @param bDesc    not 0: descending
  * @param bSortKey not 0: the key is rewritten in sorted order
  * @return 0

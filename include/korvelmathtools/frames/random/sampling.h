@@ -20,7 +20,7 @@
  * @param sample   [inout] k by cols texts
  * @param selected [out] k numbers: the row number of each row of the sample, ascending
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -67,7 +67,7 @@ KORVEL_FLAT int VB_M_SampleUserDefinedSPV(Hostarray** table, int rows, int cols,
  * @param sample   [inout] k by cols texts
  * @param selected [inout] rows numbers: receives rows + 1 for each row that is not taken; the others stay
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -84,7 +84,7 @@ KORVEL_FLAT int VB_M_SamplingSystematicRdStart(OLECHAR** table, int rows, int co
  * @param sample   [inout] host array of cols records, each with a text column of k texts
  * @param selected [inout] rows numbers: receives rows + 1 for each row that is not taken; the others stay
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -130,7 +130,7 @@ KORVEL_FLAT int VB_M_SamplingSystematicCenteredSPV(Hostarray** table, int rows, 
  * @param sample   [inout] k by cols texts
  * @param selected [inout] k numbers: the row number of each row of the sample
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -147,7 +147,7 @@ KORVEL_FLAT int VB_M_SamplingRandomStratified(OLECHAR** table, int rows, int col
  * @param sample   [inout] host array of cols records, each with a text column of k texts
  * @param selected [inout] k numbers: the row number of each row of the sample
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -168,7 +168,7 @@ KORVEL_FLAT int VB_M_SamplingRandomStratifiedSPV(Hostarray** table, int rows, in
  * @param counts   [in] the size of the sample from each stratum, truncated, as many as nCounts
  * @param nCounts  number of strata
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */

@@ -15,7 +15,7 @@
  * @param x        [inout] n numbers
  * @param n        number of elements
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -27,7 +27,7 @@ KORVEL_FLAT int Cpp_V_Shuffle(double* x, int n, int* seed, short int flag, int* 
  * @param x        [inout] n integers
  * @param n        number of elements
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -40,7 +40,7 @@ KORVEL_FLAT int Cpp_V_ShuffleLng(int* x, int n, int* seed, short int flag, int* 
  * @param rows     number of rows
  * @param cols     number of columns
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -53,7 +53,7 @@ KORVEL_FLAT int Cpp_M_ShuffleDbl2(double* x, int rows, int cols, int* seed, shor
  * @param rows     number of rows
  * @param cols     number of columns
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -67,7 +67,7 @@ KORVEL_FLAT int Cpp_M_ShuffleStr2(OLECHAR** x, int rows, int cols, int* seed, sh
  * @param cols     number of columns
  * @param out      [out] rows by cols numbers; may be x
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -82,7 +82,7 @@ KORVEL_FLAT int Cpp_M_ShuffleDbl(double* x, int rows, int cols, double* out, int
  * @param cols     number of columns
  * @param out      [inout] rows by cols texts, replaced where they differ; may be x
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */

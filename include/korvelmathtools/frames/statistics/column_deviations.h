@@ -26,8 +26,8 @@
  * @param sds       [out] cols deviations
  * @param iMissing  [in] rows flags, read only when flag is 0; may be null, then none is set
  * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @param flag      0: rows with a flag other than 0 are left out; -1: all rows are kept, whatever their
  * flags; any other value: no row is kept
  * @return 0
@@ -46,8 +46,8 @@ KORVEL_FLAT int VB_M_MeanStDev(double* x, int rows, int cols, double* means, dou
  * @param vars      [out] cols variances
  * @param iMissing  [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
  * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_MeanStDevVar(double* x, int rows, int cols, double* means, double* sds, double* vars,
@@ -62,8 +62,8 @@ KORVEL_FLAT int VB_M_MeanStDevVar(double* x, int rows, int cols, double* means, 
  * @param means     [out] rows means
  * @param sds       [out] rows deviations
  * @param w         [in] cols weights, one for each column
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_MeanStDevByRow(double* x, int rows, int cols, double* means, double* sds, double* w,
@@ -80,8 +80,8 @@ KORVEL_FLAT int VB_M_MeanStDevByRow(double* x, int rows, int cols, double* means
  * @param sd        [out] the deviation
  * @param var       [out] the variance
  * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_MeanStDevVarOneInMat(double* x, int rows, int cols, double* mean, double* sd,

@@ -18,8 +18,8 @@
  * @param n         number of elements
  * @param iMissing  [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @param w         [in] n weights; a missing one is a number like any other
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return the variance; missing when the denominator is exactly 0. A negative denominator is divided by like
  * any other; when nothing is kept the result is missing unless unbiased, -0.0 with frequency weights, and a
  * NaN without
@@ -32,8 +32,8 @@ KORVEL_FLAT double VB_V_Var(double* x, int n, short int* iMissing, double* w, sh
  *
  * @param x         [in] n numbers
  * @param n         number of elements
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return as for VB_V_Var
  */
 KORVEL_FLAT double Cpp_V_Var2(double* x, int n, short int bUnbiased, short int bFreq);
@@ -45,8 +45,8 @@ KORVEL_FLAT double Cpp_V_Var2(double* x, int n, short int bUnbiased, short int b
  * @param n         number of elements
  * @param iMissing  [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @param w         [in] n weights; a missing one is a number like any other
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return the root; 0.0 for a variance of 0; missing for a negative one and for a missing one
  */
 KORVEL_FLAT double VB_V_Stdev(double* x, int n, short int* iMissing, double* w, short int bUnbiased,
@@ -61,8 +61,8 @@ KORVEL_FLAT double VB_V_Stdev(double* x, int n, short int* iMissing, double* w, 
  * @param var       [out] the variance: missing unless the denominator is greater than 0
  * @param iMissing  [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @param w         [in] n weights; a missing one is a number like any other
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_V_MeanVar(double* x, int n, double* mean, double* var, short int* iMissing, double* w,
@@ -76,8 +76,8 @@ KORVEL_FLAT int VB_V_MeanVar(double* x, int n, double* mean, double* var, short 
  * @param w         [in] n weights; a missing one is a number like any other
  * @param mean      [out] the mean; 0.0 when there is no such element
  * @param var       [out] the variance: missing unless the denominator is greater than 0
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int Cpp_V_MeanVarW2(double* x, int n, double* w, double* mean, double* var, short int bUnbiased,
@@ -93,8 +93,8 @@ KORVEL_FLAT int Cpp_V_MeanVarW2(double* x, int n, double* w, double* mean, doubl
  * negative variance
  * @param iMissing  [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @param w         [in] n weights; a missing one is a number like any other
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_V_MeanStdev(double* x, int n, double* mean, double* sd, short int* iMissing, double* w,
