@@ -413,33 +413,35 @@ Public Declare PtrSafe Function VB_M_NbMissingSPV_T Lib "KORVELMathTools.dll" ( 
 ' ---- missing/missing_flags.h
 
 ' Combines the two sources of missingness of a vector: a flag, and a number at or below the missing
-' one.
+' one. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_V_GetMissingDbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef iMissingOut As Integer) As Long
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any, ByRef iMissingOut As Integer) As Long
 
-' The same for texts, which are missing when empty.
+' The same for texts, which are missing when empty. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_V_GetMissingStr Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal n As Long, ByRef iMissing As Integer, ByRef iMissingOut As Integer) As Long
+    ByVal x As LongPtr, ByVal n As Long, ByRef iMissing As Any, ByRef iMissingOut As Integer) As Long
 
-' Flags the rows of a table that have a missing number, one at or below the missing one.
+' Flags the rows of a table that have a missing number, one at or below the missing one. iMissing
+' (Integer) may be null.
 Public Declare PtrSafe Function Cpp_M_GetMissingDbl Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Integer, _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Any, _
     ByRef iMissingOut As Integer) As Long
 
-' The same for texts, which are missing when empty.
+' The same for texts, which are missing when empty. iMissing (Integer) may be null.
 Public Declare PtrSafe Function Cpp_M_GetMissingStr Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Integer, _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Any, _
     ByRef iMissingOut As Integer) As Long
 
-' The same for a chunked table of numbers.
+' The same for a chunked table of numbers. iMissing (Integer) may be null.
 Public Declare PtrSafe Function Cpp_M_GetMissingDblSPV Lib "KORVELMathTools.dll" ( _
-    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Integer, _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Any, _
     ByRef iMissingOut As Integer) As Long
 
-' Sets the result to -1 where one of the flags is -1, and leaves the other entries as they were.
+' Sets the result to -1 where one of the flags is -1, and leaves the other entries as they were. c
+' (Integer) may be null.
 Public Declare PtrSafe Function VB_SummarizeMissing Lib "KORVELMathTools.dll" ( _
     ByVal n As Long, ByRef count As Long, ByRef result As Integer, ByRef a As Integer, _
-    ByRef b As Integer, ByRef c As Integer) As Long
+    ByRef b As Integer, ByRef c As Any) As Long
 
 ' Sets the result to -1 where both flags are -1, and leaves the other entries as they were.
 Public Declare PtrSafe Function VB_SummarizeAllMissing Lib "KORVELMathTools.dll" ( _
@@ -1396,19 +1398,21 @@ Public Declare PtrSafe Function Cpp_M_GetMaxDistToOrigin Lib "KORVELMathTools.dl
 
 ' ---- statistics/error_measures.h
 
-' Mean absolute percentage error, weighted, over the rows whose observed value is not 0.
+' Mean absolute percentage error, weighted, over the rows whose observed value is not 0. w (Double)
+' may be null.
 Public Declare PtrSafe Function VB_MAPE Lib "KORVELMathTools.dll" ( _
-    ByRef actual As Double, ByRef predicted As Double, ByVal n As Long, ByRef w As Double, _
+    ByRef actual As Double, ByRef predicted As Double, ByVal n As Long, ByRef w As Any, _
     ByVal first As Long) As Double
 
-' Mean percentage error, weighted, over the rows whose observed value is not 0.
+' Mean percentage error, weighted, over the rows whose observed value is not 0. w (Double) may be
+' null.
 Public Declare PtrSafe Function VB_MPE Lib "KORVELMathTools.dll" ( _
-    ByRef actual As Double, ByRef predicted As Double, ByVal n As Long, ByRef w As Double, _
+    ByRef actual As Double, ByRef predicted As Double, ByVal n As Long, ByRef w As Any, _
     ByVal first As Long) As Double
 
-' Mean absolute error, weighted.
+' Mean absolute error, weighted. w (Double) may be null.
 Public Declare PtrSafe Function VB_MAE Lib "KORVELMathTools.dll" ( _
-    ByRef actual As Double, ByRef predicted As Double, ByVal n As Long, ByRef w As Double, _
+    ByRef actual As Double, ByRef predicted As Double, ByVal n As Long, ByRef w As Any, _
     ByVal first As Long) As Double
 
 ' Root mean squared error of one column of two tables, over the rows whose first value is above the

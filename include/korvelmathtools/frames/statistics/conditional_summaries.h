@@ -113,7 +113,7 @@ KORVEL_FLAT double VB_V_MinIf(double* y, int n, double* g, double val);
  * @param n         number of rows
  * @param g         [in] n codes
  * @param val       code of the group
- * @param bUnbiased -1 to divide by the number of rows less 1; otherwise by their number
+ * @param bUnbiased -1: divided by the number of rows less 1; otherwise by their number
  * @return the variance; the missing number unless the divisor is greater than 0
  */
 KORVEL_FLAT double Cpp_V_VarIf(double* y, int n, double* g, double val, short int bUnbiased);
@@ -126,7 +126,7 @@ KORVEL_FLAT double Cpp_V_VarIf(double* y, int n, double* g, double val, short in
  * @param g         [in] n codes
  * @param w         [in] n weights
  * @param val       code of the group
- * @param bUnbiased -1 to divide by the total weight less 1; otherwise by the total weight
+ * @param bUnbiased -1: divided by the total weight less 1; otherwise by the total weight
  * @return the variance; the missing number unless the divisor is greater than 0
  */
 KORVEL_FLAT double Cpp_V_VarIfW(double* y, int n, double* g, double* w, double val, short int bUnbiased);
@@ -139,7 +139,7 @@ KORVEL_FLAT double Cpp_V_VarIfW(double* y, int n, double* g, double* w, double v
  * @param n         number of rows
  * @param g         [in] n codes
  * @param w         [in] n weights
- * @param bUnbiased -1 to divide by the total weight less 1; otherwise by the total weight
+ * @param bUnbiased -1: divided by the total weight less 1; otherwise by the total weight
  * @return the variance; the missing number unless the divisor is greater than 0
  */
 KORVEL_FLAT double Cpp_V_VarIfSup0W(double* y, int n, double* g, double* w, short int bUnbiased);

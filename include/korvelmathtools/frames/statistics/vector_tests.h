@@ -13,7 +13,7 @@
  *
  * @param x       [in] n numbers
  * @param n       number of elements
- * @param bStrict 0: a number may be 0; otherwise it must be above 0
+ * @param bStrict not 0: a number must be above 0; 0: it may be 0
  * @return -1 or 0
  */
 KORVEL_FLAT short int VB_V_IsPositive(double* x, int n, short int bStrict);
@@ -25,7 +25,7 @@ KORVEL_FLAT short int VB_V_IsPositive(double* x, int n, short int bStrict);
  * @param rows     rows of the table
  * @param cols     columns of the table; 0 stands for 1
  * @param iMissing [in] a flag for each row; a row with a flag other than 0 is left out. Null: none is
- * @param bStrict  0: a number may be 0; otherwise it must be above 0
+ * @param bStrict  not 0: a number must be above 0; 0: it may be 0
  * @return -1 or 0
  */
 KORVEL_FLAT short int Cpp_M_IsPositive(double* x, int rows, int cols, short int* iMissing, short int bStrict);
@@ -37,7 +37,7 @@ KORVEL_FLAT short int Cpp_M_IsPositive(double* x, int rows, int cols, short int*
  * @param rows     rows to test
  * @param cols     columns to test
  * @param iMissing [in] a flag for each row; a row with a flag other than 0 is left out. Null: none is
- * @param bStrict  0: a number may be 0; otherwise it must be above 0
+ * @param bStrict  not 0: a number must be above 0; 0: it may be 0
  * @return -1 or 0
  */
 KORVEL_FLAT short int Cpp_M_IsPositive_ST(ST_MVect* x, int rows, int cols, short int* iMissing,
