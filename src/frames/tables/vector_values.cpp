@@ -5,6 +5,8 @@
 #include "tables/remove.h"
 #include "tables/vector_values.h"
 
+#include <algorithm>
+
 using namespace korvel;
 
 namespace
@@ -13,7 +15,7 @@ namespace
 template <class Cell, class T>
 int setAll(Cell* x, int n, const T& value)
 {
-    auto values = frame::filling(x, n);
+    auto values = frame::changing(x, n);
     setToValue(values, n, value);
     frame::bringBack(values, x);
     return 0;
@@ -81,7 +83,7 @@ int VB_V_ReplaceVal2(double* x, int n, double oldValue, double newValue)
 
 int VB_V_RemoveVal(double* x, int n, int pos, double* out)
 {
-    auto result = frame::filling(out, n - 1);
+    auto result = frame::filling(out, std::max(n, 1) - 1);
     auto values = frame::besides(result, x, n);
     M_RemoveRow(&values, n, 1, pos, &result);
     return 0;
