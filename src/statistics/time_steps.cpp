@@ -48,7 +48,8 @@ struct calendar_steps {
 std::optional<calendar_steps> dateOf(double date)
 {
     SYSTEMTIME moment{};
-    if (VariantTimeToSystemTime(date, &moment) == 0) {
+    // Not every system refuses a NaN.
+    if (std::isnan(date) || VariantTimeToSystemTime(date, &moment) == 0) {
         return std::nullopt;
     }
     return calendar_steps{12 * moment.wYear + moment.wMonth, moment.wDay};
