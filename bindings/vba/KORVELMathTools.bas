@@ -324,6 +324,218 @@ Public Declare PtrSafe Function VB_V_Product1toNDbl Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function VB_V_Product1toNLng Lib "KORVELMathTools.dll" ( _
     ByRef v As Long, ByVal n As Long) As Double
 
+' ---- missing/missing_cells.h
+
+' Replaces the missing numbers of a table.
+Public Declare PtrSafe Function VB_M_ReplaceMissingByVal Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal val As Double) As Long
+
+' Replaces the missing numbers of a chunked table.
+Public Declare PtrSafe Function VB_M_ReplaceMissingByValSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal val As Double) As Long
+
+' Replaces the empty texts of a table.
+Public Declare PtrSafe Function VB_M_ReplaceMissingByStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal val As LongPtr) As Long
+
+' Replaces the missing numbers of a labelled table, as far as it has columns.
+Public Declare PtrSafe Function Cpp_M_ReplaceMissingByVal_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal val As Double) As Long
+
+' Replaces the empty texts of a labelled table, as far as it has columns.
+Public Declare PtrSafe Function Cpp_M_ReplaceMissingByStr_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal val As LongPtr) As Long
+
+' Makes cells missing where a table of marks has a 1.
+Public Declare PtrSafe Function Cpp_M_ReplaceByMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef marks As Long, _
+    ByVal markColumns As Long, ByVal wholeRow As Integer) As Long
+
+' Makes cells missing where a table of marks has a value.
+Public Declare PtrSafe Function Cpp_M_ReplaceByMissingIfVal Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef marks As Long, _
+    ByVal markColumns As Long, ByVal value As Long, ByVal wholeRow As Integer) As Long
+
+' Marks the missing numbers of a table.
+Public Declare PtrSafe Function Cpp_M_IdentifyMissingInMat Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef marks As Long) As Long
+
+' Marks the missing numbers of a chunked table.
+Public Declare PtrSafe Function Cpp_M_IdentifyMissingInMatSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef marks As Long) As Long
+
+' Sets weights to 0 where numbers are missing.
+Public Declare PtrSafe Function VB_M_SetWeightsToZeroForMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef weights As Double, ByVal mode As Long) As Long
+
+' ---- missing/missing_counts.h
+
+' Counts the missing numbers.
+Public Declare PtrSafe Function VB_V_NbMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' Counts the empty texts.
+Public Declare PtrSafe Function VB_V_NbMissingStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long) As Long
+
+' Counts the numbers that are not missing.
+Public Declare PtrSafe Function VB_V_NbNonMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' Counts the missing numbers of each column.
+Public Declare PtrSafe Function VB_M_NbMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef counts As Long) As Long
+
+' Counts the empty texts of each column.
+Public Declare PtrSafe Function VB_M_NbMissingStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef counts As Long) As Long
+
+' Counts the numbers of each column that are not missing.
+Public Declare PtrSafe Function VB_M_NbNonMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef counts As Long) As Long
+
+' Counts the missing numbers of a whole table.
+Public Declare PtrSafe Function VB_M_NbMissing2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Counts the empty texts of a whole table.
+Public Declare PtrSafe Function VB_M_NbMissing2Str Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Counts the missing numbers of a chunked table.
+Public Declare PtrSafe Function Cpp_M_NbMissingSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+
+' Counts the missing numbers of a triangle.
+Public Declare PtrSafe Function VB_M_NbMissingSPV_T Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Long
+
+' ---- missing/missing_flags.h
+
+' Combines the two sources of missingness of a vector: a flag, and a number at or below the missing
+' one. iMissing (Integer) may be null.
+Public Declare PtrSafe Function VB_V_GetMissingDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any, ByRef iMissingOut As Integer) As Long
+
+' The same for texts, which are missing when empty. iMissing (Integer) may be null.
+Public Declare PtrSafe Function VB_V_GetMissingStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByRef iMissing As Any, ByRef iMissingOut As Integer) As Long
+
+' Flags the rows of a table that have a missing number, one at or below the missing one. iMissing
+' (Integer) may be null.
+Public Declare PtrSafe Function Cpp_M_GetMissingDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Any, _
+    ByRef iMissingOut As Integer) As Long
+
+' The same for texts, which are missing when empty. iMissing (Integer) may be null.
+Public Declare PtrSafe Function Cpp_M_GetMissingStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Any, _
+    ByRef iMissingOut As Integer) As Long
+
+' The same for a chunked table of numbers. iMissing (Integer) may be null.
+Public Declare PtrSafe Function Cpp_M_GetMissingDblSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Any, _
+    ByRef iMissingOut As Integer) As Long
+
+' Sets the result to -1 where one of the flags is -1, and leaves the other entries as they were. c
+' (Integer) may be null.
+Public Declare PtrSafe Function VB_SummarizeMissing Lib "KORVELMathTools.dll" ( _
+    ByVal n As Long, ByRef count As Long, ByRef result As Integer, ByRef a As Integer, _
+    ByRef b As Integer, ByRef c As Any) As Long
+
+' Sets the result to -1 where both flags are -1, and leaves the other entries as they were.
+Public Declare PtrSafe Function VB_SummarizeAllMissing Lib "KORVELMathTools.dll" ( _
+    ByVal n As Long, ByRef a As Integer, ByRef b As Integer, ByRef count As Long, _
+    ByRef result As Integer) As Long
+
+' Flags the flagged rows that have nothing but missing numbers.
+Public Declare PtrSafe Function VB_M_AllMissingRows Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef flagsIn As Integer, _
+    ByRef flagsOut As Integer) As Long
+
+' Flags the flagged rows that have nothing but empty texts.
+Public Declare PtrSafe Function VB_M_AllMissingRowsStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal p As Long, ByRef flagsIn As Integer, _
+    ByRef flagsOut As Integer) As Long
+
+' Whether some cell (i, j), i below j, of a square table is missing while the cells (i, i) and (j,
+' j) are both above the missing number.
+Public Declare PtrSafe Function Cpp_M_IsMissingOutOfDiagonalAndNotOnDiags Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Integer
+
+' The same for a symmetric table of which column j holds the cells from the diagonal down.
+Public Declare PtrSafe Function Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long) As Integer
+
+' ---- missing/missing_rows.h
+
+' Takes the flagged rows out in place: those below move up, and the rows that become free stay as
+' they were.
+Public Declare PtrSafe Function Cpp_M_RemoveRowsWithMissing2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef flags As Integer) As Long
+
+' Copies a table without the flagged rows.
+Public Declare PtrSafe Function VB_RemoveRowsWithMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByVal removed As Long, _
+    ByRef flags As Integer, ByRef result As Double) As Long
+
+' Takes the flagged rows out of a table of texts in place, as Cpp_M_RemoveRowsWithMissing2 does, and
+' copies its first rows.
+Public Declare PtrSafe Function VB_RemoveRowsWithMissingStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal p As Long, ByVal removed As Long, _
+    ByRef flags As Integer, ByVal result As LongPtr) As Long
+
+' Copies a table of flags without the flagged rows.
+Public Declare PtrSafe Function VB_RemoveRowsWithMissingBool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal n As Long, ByVal p As Long, ByVal removed As Long, _
+    ByRef flags As Integer, ByRef result As Integer) As Long
+
+' Copies a table without the flagged rows, and tells how many stay.
+Public Declare PtrSafe Function Cpp_RemoveRowsWithMissingOniMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Integer, _
+    ByRef result As Double) As Long
+
+' The same for texts.
+Public Declare PtrSafe Function Cpp_RemoveRowsWithMissingOniMissingStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal p As Long, ByRef iMissing As Integer, _
+    ByVal result As LongPtr) As Long
+
+' Spreads the rows of a table, with rows of missing numbers between them.
+Public Declare PtrSafe Function Cpp_M_InsertMissingDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef flags As Integer, ByVal m As Long, _
+    ByRef result As Double) As Long
+
+' The same for integers; the missing one is -2147483648.
+Public Declare PtrSafe Function Cpp_M_InsertMissingLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByVal p As Long, ByRef flags As Integer, ByVal m As Long, _
+    ByRef result As Long) As Long
+
+' ---- missing/missing_summaries.h
+
+' Sum of the numbers of one vector where neither it nor another vector is missing.
+Public Declare PtrSafe Function VB_V_SumIfNotMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Double) As Double
+
+' Strings the numbers that are not missing together, column after column.
+Public Declare PtrSafe Function Cpp_MatToVect_NoMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef counts As Double, _
+    ByRef emptyColumns As Double, ByRef vector As Double) As Long
+
+' The smallest number that is not missing.
+Public Declare PtrSafe Function Cpp_V_MinIgnoreMissing Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Double
+
+' The smallest number of a labelled table that is not missing.
+Public Declare PtrSafe Function Cpp_M_MinIgnoreMissing_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Double
+
+' ---- missing/observation_labels.h
+
+' Makes a label for each flagged row: the prefix and the row number, and a further number while
+' another row has that label.
+Public Declare PtrSafe Function VB_ReplaceMissingObsLabels Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long, ByRef flags As Integer, ByVal prefix As LongPtr) As Long
+
 ' ---- ordering/apply_order.h
 
 ' Takes the rows of a table of numbers in a given order: row i of the result is row order[i] of the
@@ -552,9 +764,10 @@ Public Declare PtrSafe Function VB_SortMatrixSeqQP1toP2Lng Lib "KORVELMathTools.
 ' ---- ordering/sort_table.h
 
 ' Orders the rows of a table of numbers by a key, on copies that then replace the caller's arrays.
+' aux (Double) may be null.
 Public Declare PtrSafe Function VB_SortQDbl Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
 ' Orders the rows of a table of numbers by a key, in the caller's arrays.
@@ -570,16 +783,16 @@ Public Declare PtrSafe Function VB_SortQByColDbl Lib "KORVELMathTools.dll" ( _
     ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxRows As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
-' Orders the rows of a table of integers by a key of integers.
+' Orders the rows of a table of integers by a key of integers. aux (Long) may be null.
 Public Declare PtrSafe Function VB_SortQLng Lib "KORVELMathTools.dll" ( _
     ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Long, ByRef aux As Long, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Long, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
-' Orders the rows of a table of flags by a key of numbers.
+' Orders the rows of a table of flags by a key of numbers. aux (Integer) may be null.
 Public Declare PtrSafe Function VB_SortQBool Lib "KORVELMathTools.dll" ( _
     ByRef x As Integer, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Double, ByRef aux As Integer, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
 ' Orders the rows of a table of texts by a key of numbers.
@@ -588,17 +801,17 @@ Public Declare PtrSafe Function VB_SortQStr Lib "KORVELMathTools.dll" ( _
     ByVal toValue As Long, ByRef key As Double, ByVal aux As LongPtr, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
-' Orders the rows of a record of labelled columns of numbers by a key.
+' Orders the rows of a record of labelled columns of numbers by a key. aux (Double) may be null.
 Public Declare PtrSafe Function Cpp_SortQDbl_ST Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
 ' Orders the rows of a table of integers, a single array that comes out of a record, by a key of
-' integers.
+' integers. aux (Long) may be null.
 Public Declare PtrSafe Function Cpp_SortQLng_ST Lib "KORVELMathTools.dll" ( _
     ByRef x() As Long, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Long, ByRef aux As Long, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Long, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
 ' Orders the rows of a record of labelled columns of texts by a key.
@@ -645,6 +858,18 @@ Public Declare PtrSafe Function Cpp_SortQVector2Str Lib "KORVELMathTools.dll" ( 
 ' Tells whether a vector is in ascending order.
 Public Declare PtrSafe Function VB_V_IsSorted Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal bStrict As Integer) As Integer
+
+' ---- ordering/sorted_insertion.h
+
+' Puts a value into an ascending vector and lets the smallest fall out, unless the value is not
+' above it.
+Public Declare PtrSafe Function Cpp_V_InsertValueLow Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal val As Double, ByVal bSort As Integer) As Long
+
+' Puts a value into an ascending vector and lets the largest fall out, unless the value is not below
+' it.
+Public Declare PtrSafe Function Cpp_V_InsertValueUp Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal val As Double, ByVal bSort As Integer) As Long
 
 ' ---- ordering/survey_boxes.h
 
@@ -905,16 +1130,16 @@ Public Declare PtrSafe Function VB_M_ReduceW2 Lib "KORVELMathTools.dll" ( _
 
 ' ---- statistics/column_deviations.h
 
-' Means and standard deviations of the columns.
+' Means and standard deviations of the columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MeanStDev Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
-    ByRef sds As Double, ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByRef sds As Double, ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, _
     ByVal bFreq As Integer, ByVal flag As Integer) As Long
 
-' Means, standard deviations and variances of the columns.
+' Means, standard deviations and variances of the columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MeanStDevVar Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
-    ByRef sds As Double, ByRef vars As Double, ByRef iMissing As Integer, ByRef w As Double, _
+    ByRef sds As Double, ByRef vars As Double, ByRef iMissing As Any, ByRef w As Double, _
     ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
 
 ' Means and standard deviations of the rows.
@@ -931,20 +1156,21 @@ Public Declare PtrSafe Function VB_M_MeanStDevVarOneInMat Lib "KORVELMathTools.d
 
 ' ---- statistics/column_extremes.h
 
-' Both extremes of each column.
+' Both extremes of each column. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MinMax Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef mins As Double, _
-    ByRef maxs As Double, ByRef iMissing As Integer, ByVal flag As Integer) As Long
+    ByRef maxs As Double, ByRef iMissing As Any, ByVal flag As Integer) As Long
 
-' VB_M_MinMax on a table of separate columns.
+' VB_M_MinMax on a table of separate columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MinMaxSPV Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef mins As Double, _
-    ByRef maxs As Double, ByRef iMissing As Integer, ByVal flag As Integer) As Long
+    ByRef maxs As Double, ByRef iMissing As Any, ByVal flag As Integer) As Long
 
-' VB_M_MinMax on a symmetric table, of which each separate column starts at the diagonal.
+' VB_M_MinMax on a symmetric table, of which each separate column starts at the diagonal. iMissing
+' (Integer) may be null.
 Public Declare PtrSafe Function VB_M_MinMaxSPV_T Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef mins As Double, _
-    ByRef maxs As Double, ByRef iMissing As Integer, ByVal flag As Integer) As Long
+    ByRef maxs As Double, ByRef iMissing As Any, ByVal flag As Integer) As Long
 
 ' The largest number of each column; missing numbers do not count.
 Public Declare PtrSafe Function VB_M_Max Lib "KORVELMathTools.dll" ( _
@@ -1009,6 +1235,86 @@ Public Declare PtrSafe Function VB_M_SquaredRows Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function VB_M_SquaredColumns Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double) As Long
 
+' ---- statistics/conditional_summaries.h
+
+' Counts the elements that equal a value, exactly; the missing number is one like the others.
+Public Declare PtrSafe Function VB_V_NbIf Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal val As Double) As Double
+
+' The same for integers.
+Public Declare PtrSafe Function VB_V_NbIfLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByVal val As Long) As Double
+
+' Total weight of the elements that equal a value, exactly.
+Public Declare PtrSafe Function VB_V_NbIfW Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByVal val As Double) As Double
+
+' Sum of the values of a group.
+Public Declare PtrSafe Function VB_V_SumIf Lib "KORVELMathTools.dll" ( _
+    ByRef y As Double, ByVal n As Long, ByRef g As Double, ByVal val As Double) As Double
+
+' Mean of the values of a group.
+Public Declare PtrSafe Function VB_V_MeanIf Lib "KORVELMathTools.dll" ( _
+    ByRef y As Double, ByVal n As Long, ByRef g As Double, ByVal val As Double) As Double
+
+' Sum of weight times value of a group, over the rows of a weight above 0 of which neither is
+' missing.
+Public Declare PtrSafe Function VB_V_SumIfW Lib "KORVELMathTools.dll" ( _
+    ByRef y As Double, ByVal n As Long, ByRef g As Double, ByRef w As Double, ByVal val As Double) As Double
+
+' Weighted mean of a group.
+Public Declare PtrSafe Function VB_V_MeanIfW Lib "KORVELMathTools.dll" ( _
+    ByRef y As Double, ByVal n As Long, ByRef g As Double, ByRef w As Double, ByVal val As Double) As Double
+
+' Largest value of a group.
+Public Declare PtrSafe Function VB_V_MaxIf Lib "KORVELMathTools.dll" ( _
+    ByRef y As Double, ByVal n As Long, ByRef g As Double, ByVal val As Double) As Double
+
+' Smallest value of a group, below 1.79769313486231e308.
+Public Declare PtrSafe Function VB_V_MinIf Lib "KORVELMathTools.dll" ( _
+    ByRef y As Double, ByVal n As Long, ByRef g As Double, ByVal val As Double) As Double
+
+' Variance of a group.
+Public Declare PtrSafe Function Cpp_V_VarIf Lib "KORVELMathTools.dll" ( _
+    ByRef y As Double, ByVal n As Long, ByRef g As Double, ByVal val As Double, _
+    ByVal bUnbiased As Integer) As Double
+
+' Weighted variance of a group.
+Public Declare PtrSafe Function Cpp_V_VarIfW Lib "KORVELMathTools.dll" ( _
+    ByRef y As Double, ByVal n As Long, ByRef g As Double, ByRef w As Double, ByVal val As Double, _
+    ByVal bUnbiased As Integer) As Double
+
+' Weighted variance of the rows whose code is above 1e-12, with a step of its own.
+Public Declare PtrSafe Function Cpp_V_VarIfSup0W Lib "KORVELMathTools.dll" ( _
+    ByRef y As Double, ByVal n As Long, ByRef g As Double, ByRef w As Double, _
+    ByVal bUnbiased As Integer) As Double
+
+' ---- statistics/constant_tests.h
+
+' Tests a column of a table.
+Public Declare PtrSafe Function VB_V_IsConstant Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bSkipMissing As Integer, ByVal col As Long) As Integer
+
+' Tests integers.
+Public Declare PtrSafe Function VB_V_IsConstantLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByVal bSkipMissing As Integer) As Integer
+
+' Tests texts.
+Public Declare PtrSafe Function VB_V_IsConstantStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal bSkipMissing As Integer) As Integer
+
+' Tests flags.
+Public Declare PtrSafe Function VB_V_IsConstantBool Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal n As Long) As Integer
+
+' Tests each column of a table by itself, passing over missing numbers.
+Public Declare PtrSafe Function VB_M_IsColConstant Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Integer
+
+' The same for a chunked table.
+Public Declare PtrSafe Function VB_M_IsColConstantSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Integer
+
 ' ---- statistics/correlation_conversion.h
 
 ' Correlations from covariances: each cell over the root of the product of the two variances on the
@@ -1028,48 +1334,47 @@ Public Declare PtrSafe Function Cpp_M_CovMatFromCorrMat Lib "KORVELMathTools.dll
 
 ' ---- statistics/covariance.h
 
-' Covariances, or correlations, of all pairs of columns.
+' Covariances, or correlations, of all pairs of columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CovCorr Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
-    ByVal bCorr As Integer, ByRef iMissing As Integer, ByRef w As Double, _
-    ByVal bUnbiased As Integer, ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
+    ByVal bCorr As Integer, ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
-' VB_M_CovCorr on a labelled table.
+' VB_M_CovCorr on a labelled table. iMissing (Integer) may be null.
 Public Declare PtrSafe Function Cpp_M_CovCorr_ST Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal out As LongPtr, _
-    ByVal bCorr As Integer, ByRef iMissing As Integer, ByRef w As Double, _
-    ByVal bUnbiased As Integer, ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
+    ByVal bCorr As Integer, ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, _
+    ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
 ' Covariances, or correlations, with the mean, the standard deviation and the variance of each
-' column; on request the table itself is centred and reduced.
+' column; on request the table itself is centred and reduced. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CovCorrAndMeanStDevVar Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
     ByRef means As Double, ByRef sds As Double, ByRef vars As Double, ByVal bCorr As Integer, _
-    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, _
-    ByVal bFreq As Integer, ByVal bCenter As Integer, ByVal bReduce As Integer, _
-    ByVal bUndefinedIsZero As Integer) As Long
+    ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer, _
+    ByVal bCenter As Integer, ByVal bReduce As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
-' The same as VB_M_CovCorrAndMeanStDevVar.
+' The same as VB_M_CovCorrAndMeanStDevVar. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CovCorrVAndMeanStDevVar Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
     ByRef means As Double, ByRef sds As Double, ByRef vars As Double, ByVal bCorr As Integer, _
-    ByRef iMissing As Integer, ByRef w As Double, ByVal bUnbiased As Integer, _
-    ByVal bFreq As Integer, ByVal bCenter As Integer, ByVal bReduce As Integer, _
-    ByVal bUndefinedIsZero As Integer) As Long
+    ByRef iMissing As Any, ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer, _
+    ByVal bCenter As Integer, ByVal bReduce As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
 ' ---- statistics/cross_covariance.h
 
-' Covariances, or correlations, of each column of one table with each column of another.
+' Covariances, or correlations, of each column of one table with each column of another. iMissing
+' (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CorrMatMat Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal colsX As Long, ByRef y As Double, _
-    ByVal colsY As Long, ByRef out As Double, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal colsY As Long, ByRef out As Double, ByRef iMissing As Any, ByRef w As Double, _
     ByVal bCorr As Integer, ByVal bSquare As Integer, ByVal bUnbiased As Integer, _
     ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
-' VB_M_CorrMatMat on tables of separate columns.
+' VB_M_CorrMatMat on tables of separate columns. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_CorrMatMatSPV Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal colsX As Long, ByVal y As LongPtr, _
-    ByVal colsY As Long, ByVal out As LongPtr, ByRef iMissing As Integer, ByRef w As Double, _
+    ByVal colsY As Long, ByVal out As LongPtr, ByRef iMissing As Any, ByRef w As Double, _
     ByVal bCorr As Integer, ByVal bSquare As Integer, ByVal bUnbiased As Integer, _
     ByVal bFreq As Integer, ByVal bUndefinedIsZero As Integer) As Long
 
@@ -1096,6 +1401,30 @@ Public Declare PtrSafe Function Cpp_M_EuclidDistToVector Lib "KORVELMathTools.dl
 Public Declare PtrSafe Function Cpp_M_GetMaxDistToOrigin Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef d As Double, ByRef row As Long) As Long
 
+' ---- statistics/error_measures.h
+
+' Mean absolute percentage error, weighted, over the rows whose observed value is not 0. w (Double)
+' may be null.
+Public Declare PtrSafe Function VB_MAPE Lib "KORVELMathTools.dll" ( _
+    ByRef actual As Double, ByRef predicted As Double, ByVal n As Long, ByRef w As Any, _
+    ByVal first As Long) As Double
+
+' Mean percentage error, weighted, over the rows whose observed value is not 0. w (Double) may be
+' null.
+Public Declare PtrSafe Function VB_MPE Lib "KORVELMathTools.dll" ( _
+    ByRef actual As Double, ByRef predicted As Double, ByVal n As Long, ByRef w As Any, _
+    ByVal first As Long) As Double
+
+' Mean absolute error, weighted. w (Double) may be null.
+Public Declare PtrSafe Function VB_MAE Lib "KORVELMathTools.dll" ( _
+    ByRef actual As Double, ByRef predicted As Double, ByVal n As Long, ByRef w As Any, _
+    ByVal first As Long) As Double
+
+' Root mean squared error of one column of two tables, over the rows whose first value is above the
+' missing number.
+Public Declare PtrSafe Function VB_RMSE Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal col As Long, ByRef y As Double, ByVal df As Double) As Double
+
 ' ---- statistics/normalize.h
 
 ' Divides a vector by the root of its sum of squares, so that that becomes 1.
@@ -1115,43 +1444,44 @@ Public Declare PtrSafe Function VB_V_NormToValW Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal value As Double, ByRef w As Double) As Long
 
 ' Changes the cells of each column to (x / s) * sqrt(n / (n - 1)), where s is the root of the
-' column's sum of x * x * w and n is rows, whatever is left out.
+' column's sum of x * x * w and n is rows, whatever is left out. w (Double) may be null. iMissing
+' (Integer) may be null.
 Public Declare PtrSafe Function VB_M_Normalize Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Double, _
-    ByRef iMissing As Integer) As Long
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef w As Any, ByRef iMissing As Any) As Long
 
 ' VB_M_Normalize, without weights and flags, on a table and two companions, tables of other rows and
-' the same columns, which are changed by the sums of squares and the number of rows of x.
+' the same columns, which are changed by the sums of squares and the number of rows of x. y (Double)
+' may be null. z (Double) may be null.
 Public Declare PtrSafe Function VB_M_NormalizeMatrix Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
-    ByVal yRows As Long, ByRef z As Double, ByVal zRows As Long) As Long
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Any, ByVal yRows As Long, _
+    ByRef z As Any, ByVal zRows As Long) As Long
 
 ' ---- statistics/rescale.h
 
 ' Brings a vector to the range from lo to hi: (x - a) * (hi - lo) / r + lo, where a is the smallest
-' number kept and r the largest less the smallest.
+' number kept and r the largest less the smallest. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_V_Rescale Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
-    ByRef iMissing As Integer, ByRef out As Double) As Long
+    ByRef iMissing As Any, ByRef out As Double) As Long
 
-' The same in place; an element left out stays.
+' The same in place; an element left out stays. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_V_Rescale2 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
-    ByRef iMissing As Integer) As Long
+    ByRef iMissing As Any) As Long
 
-' VB_V_Rescale on each column, each to a range of its own.
+' VB_V_Rescale on each column, each to a range of its own. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_RescaleByVect Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
-    ByRef hi As Double, ByRef iMissing As Integer, ByRef out As Double) As Long
+    ByRef hi As Double, ByRef iMissing As Any, ByRef out As Double) As Long
 
-' The same in place; a cell left out stays.
+' The same in place; a cell left out stays. iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_RescaleByVect2 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef lo As Double, _
-    ByRef hi As Double, ByRef iMissing As Integer) As Long
+    ByRef hi As Double, ByRef iMissing As Any) As Long
 
-' How far each number lies from the centre, in deviations.
+' How far each number lies from the centre, in deviations. centre (Double) may be null.
 Public Declare PtrSafe Function Cpp_V_ZScores Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByVal bRobust As Integer, ByRef centre As Double, _
+    ByRef x As Double, ByVal n As Long, ByVal bRobust As Integer, ByRef centre As Any, _
     ByRef scaleValue As Double, ByRef out As Double) As Long
 
 ' ---- statistics/row_grouping.h
@@ -1174,26 +1504,31 @@ Public Declare PtrSafe Function VB_M_Dedupe Lib "KORVELMathTools.dll" ( _
 
 ' ---- statistics/standardize.h
 
-' Standardises each column in turn.
+' Standardises each column in turn. out (Double) may be null. means (Double) may be null. sds
+' (Double) may be null. vars (Double) may be null. iMissing (Integer) may be null. w (Double) may be
+' null.
 Public Declare PtrSafe Function VB_M_Standardize Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Double, _
-    ByRef means As Double, ByRef sds As Double, ByRef vars As Double, ByRef iMissing As Integer, _
-    ByRef w As Double, ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef out As Any, ByRef means As Any, _
+    ByRef sds As Any, ByRef vars As Any, ByRef iMissing As Any, ByRef w As Any, _
+    ByVal bUnbiased As Integer, ByVal bFreq As Integer) As Long
 
-' VB_M_Standardize with a result, on one vector and with bFreq false.
+' VB_M_Standardize with a result, on one vector and with bFreq false. iMissing (Integer) may be
+' null. w (Double) may be null.
 Public Declare PtrSafe Function VB_V_Standardize Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any, ByRef w As Any, _
     ByVal bUnbiased As Integer, ByRef out As Double) As Long
 
-' VB_M_Standardize in place, on one vector and with bFreq false.
+' VB_M_Standardize in place, on one vector and with bFreq false. iMissing (Integer) may be null. w
+' (Double) may be null.
 Public Declare PtrSafe Function VB_V_Standardize2 Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal n As Long, ByRef iMissing As Integer, ByRef w As Double, _
+    ByRef x As Double, ByVal n As Long, ByRef iMissing As Any, ByRef w As Any, _
     ByVal bUnbiased As Integer) As Long
 
-' Standardises the columns by given statistics.
+' Standardises the columns by given statistics. sds (Double) may be null. out (Double) may be null.
+' iMissing (Integer) may be null.
 Public Declare PtrSafe Function VB_M_StandardizeKnownMeansStDev Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef means As Double, _
-    ByRef sds As Double, ByRef out As Double, ByRef vars As Double, ByRef iMissing As Integer) As Long
+    ByRef sds As Any, ByRef out As Any, ByRef vars As Double, ByRef iMissing As Any) As Long
 
 ' VB_M_StandardizeKnownMeansStDev with deviations and a result, no row left out.
 Public Declare PtrSafe Function VB_M_StandardizeByVect Lib "KORVELMathTools.dll" ( _
@@ -1214,10 +1549,10 @@ Public Declare PtrSafe Function Cpp_M_StandardizeApply2 Lib "KORVELMathTools.dll
 
 ' Standardises a table in place, (x - mean) / sd by column, the sum of squares divided by the number
 ' of cells less 1, and by the same means and deviations two companions, tables of other rows and the
-' same columns.
+' same columns. y (Double) may be null. z (Double) may be null.
 Public Declare PtrSafe Function VB_M_StandardizeMatrix Lib "KORVELMathTools.dll" ( _
-    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Double, _
-    ByVal yRows As Long, ByRef z As Double, ByVal zRows As Long) As Long
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef y As Any, ByVal yRows As Long, _
+    ByRef z As Any, ByVal zRows As Long) As Long
 
 ' Standardises or centres each group of rows for itself, in place.
 Public Declare PtrSafe Function Cpp_M_StandardizeByGroup Lib "KORVELMathTools.dll" ( _
@@ -1229,6 +1564,17 @@ Public Declare PtrSafe Function Cpp_M_StandardizeByGroup Lib "KORVELMathTools.dl
 ' The smallest element of a record of labelled columns that is not missing.
 Public Declare PtrSafe Function Cpp_V_Min3 Lib "KORVELMathTools.dll" ( _
     ByVal record As LongPtr, ByVal nRows As Long, ByVal nCols As Long) As Double
+
+' ---- statistics/time_steps.h
+
+' The step of a time scale, whose differences must all be within 1e-6 of the first.
+Public Declare PtrSafe Function VB_V_TimeIntervalSize Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bSort As Integer) As Double
+
+' The step of numbers, whose differences must all be within 1e-8 of the first, or of dates, which
+' must agree in days and months.
+Public Declare PtrSafe Function Cpp_V_CheckDateInterval Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal kind As Long, ByRef d As Double) As Long
 
 ' ---- statistics/vector_extremes.h
 
@@ -1405,6 +1751,96 @@ Public Declare PtrSafe Function Cpp_V_DiffSqStart Lib "KORVELMathTools.dll" ( _
 ' Running sum over all elements, missing ones too.
 Public Declare PtrSafe Function Cpp_V_CuSum Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal n As Long, ByRef out As Double) As Long
+
+' ---- statistics/vector_tests.h
+
+' Whether no number is negative, missing ones left aside.
+Public Declare PtrSafe Function VB_V_IsPositive Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal bStrict As Integer) As Integer
+
+' The same for a table. iMissing (Integer) may be null.
+Public Declare PtrSafe Function Cpp_M_IsPositive Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Any, _
+    ByVal bStrict As Integer) As Integer
+
+' The same for a labelled table, as far as it has columns. iMissing (Integer) may be null.
+Public Declare PtrSafe Function Cpp_M_IsPositive_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long, ByRef iMissing As Any, _
+    ByVal bStrict As Integer) As Integer
+
+' Whether numbers can be weights: none is negative and their sum is above 0, missing ones left
+' aside.
+Public Declare PtrSafe Function VB_V_IsWeights Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Integer
+
+' The same for a host array.
+Public Declare PtrSafe Function Cpp_V_IsWeights_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Double, ByVal n As Long) As Integer
+
+' The same, which also looks for weights that are all 1.
+Public Declare PtrSafe Function Cpp_V_IsWeightsAndAll1_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Double, ByVal n As Long, ByRef bAll1 As Integer) As Integer
+
+' Whether numbers can be counts: weights, each of them an integer within 1e-12.
+Public Declare PtrSafe Function VB_V_IsCWeights Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Integer
+
+' Whether every number is 0 or 1, and some number is 1.
+Public Declare PtrSafe Function VB_V_IsIndicator Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Integer
+
+' The same for a column of a chunked table.
+Public Declare PtrSafe Function VB_V_IsIndicatorSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal col As Long) As Integer
+
+' Whether every number is exactly 0 or 1; a missing one is not.
+Public Declare PtrSafe Function VB_V_Is01 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Integer
+
+' Whether every number lies from 0 to 1; a missing one does not.
+Public Declare PtrSafe Function VB_M_IsIn01 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Integer
+
+' Whether every number lies in an interval.
+Public Declare PtrSafe Function VB_V_IsInInterval Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal lo As Double, ByVal hi As Double, _
+    ByVal bOpen As Integer, ByVal bSkipMissing As Integer) As Integer
+
+' Whether every number is an integer within 1e-12; the missing number is.
+Public Declare PtrSafe Function VB_M_IsLong Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal rows As Long, ByVal cols As Long) As Integer
+
+' The same for a labelled table, as far as it has columns.
+Public Declare PtrSafe Function Cpp_M_IsLong_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Integer
+
+' Whether each row of a vector is at least as large as every number in that row of a table.
+Public Declare PtrSafe Function VB_V_V1GreaterThanMatCols Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef m As Double, ByVal cols As Long) As Integer
+
+' Whether each number of one vector is at most that of another.
+Public Declare PtrSafe Function VB_V_V1inferiorV2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef b As Double) As Integer
+
+' Whether an integer occurs.
+Public Declare PtrSafe Function Cpp_V_FindLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByVal val As Long) As Integer
+
+' Whether a text occurs.
+Public Declare PtrSafe Function Cpp_V_FindStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal val As LongPtr) As Integer
+
+' Counts the flags that are -1; another value than 0 does not count.
+Public Declare PtrSafe Function VB_V_NbTrue Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal n As Long) As Long
+
+' The same for a host array.
+Public Declare PtrSafe Function Cpp_V_NbTrue_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Boolean, ByVal n As Long) As Long
+
+' The same for a stretch of flags.
+Public Declare PtrSafe Function VB_V_NbTrueFromTo Lib "KORVELMathTools.dll" ( _
+    ByRef x As Integer, ByVal from As Long, ByVal toValue As Long) As Long
 
 ' ---- statistics/vector_variance.h
 
@@ -1729,6 +2165,17 @@ Public Declare PtrSafe Function Cpp_M_SetBooleanIfLng Lib "KORVELMathTools.dll" 
     ByRef x As Long, ByVal rows As Long, ByVal cols As Long, ByVal value As Long, _
     ByRef flags As Integer) As Long
 
+' ---- tables/labels.h
+
+' Makes repeated labels distinct: a repeat gets a number behind it, from 2 on.
+Public Declare PtrSafe Function VB_V_ReplaceDoubles Lib "KORVELMathTools.dll" ( _
+    ByVal labels As LongPtr, ByVal n As Long) As Long
+
+' Joins two vectors of labels.
+Public Declare PtrSafe Function Cpp_V_MergeVectorsStr Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal b As LongPtr, ByVal sep As LongPtr, _
+    ByVal out As LongPtr) As Long
+
 ' ---- tables/matrix_dump.h
 
 ' Writes a table of numbers to a text file.
@@ -2037,3 +2484,71 @@ Public Declare PtrSafe Function Cpp_M_CopyVectortoTableByRowDbl Lib "KORVELMathT
 ' A vector cut into the rows of a table.
 Public Declare PtrSafe Function Cpp_M_CopyVectortoTableByRowStr Lib "KORVELMathTools.dll" ( _
     ByVal v As LongPtr, ByVal rows As Long, ByVal cols As Long, ByVal x As LongPtr) As Long
+
+' ---- tables/vector_values.h
+
+' Adds a number to the elements that are not flagged, missing ones too. iMissing (Integer) may be
+' null.
+Public Declare PtrSafe Function VB_V_PlusVal Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal val As Double, ByRef iMissing As Any) As Long
+
+' Adds a number to the elements that are not missing.
+Public Declare PtrSafe Function VB_V_PlusVal2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal val As Double) As Long
+
+' Copies a vector, in which each element that equals a number, exactly, becomes another.
+Public Declare PtrSafe Function VB_V_ReplaceVal Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal oldValue As Double, ByVal newValue As Double, _
+    ByRef out As Double) As Long
+
+' Replaces each element that equals a number, exactly, by another.
+Public Declare PtrSafe Function VB_V_ReplaceVal2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal oldValue As Double, ByVal newValue As Double) As Long
+
+' Copies a vector without one element.
+Public Declare PtrSafe Function VB_V_RemoveVal Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal pos As Long, ByRef out As Double) As Long
+
+' Sets every element to one number.
+Public Declare PtrSafe Function VB_V_SetToValue Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal value As Double) As Long
+
+' Sets the elements of a host array to one number.
+Public Declare PtrSafe Function Cpp_V_SetToValue_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Double, ByVal n As Long, ByVal value As Double) As Long
+
+' Sets every element to one integer.
+Public Declare PtrSafe Function VB_V_SetToValueLng Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByVal value As Long) As Long
+
+' Sets the elements of a host array to one integer.
+Public Declare PtrSafe Function Cpp_V_SetToValueLng_ST Lib "KORVELMathTools.dll" ( _
+    ByRef x() As Long, ByVal n As Long, ByVal value As Long) As Long
+
+' Sets every element to one text.
+Public Declare PtrSafe Function VB_V_SetToValueStr Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal value As LongPtr) As Long
+
+' Copies numbers to integers, without their fraction.
+Public Declare PtrSafe Function Cpp_V_CopyDoubleToLong Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Long) As Long
+
+' Copies integers to numbers.
+Public Declare PtrSafe Function Cpp_V_CopyLongToDouble Lib "KORVELMathTools.dll" ( _
+    ByRef x As Long, ByVal n As Long, ByRef y As Double) As Long
+
+' Exchanges two vectors of numbers.
+Public Declare PtrSafe Function Cpp_V_SwapDbl Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef b As Double) As Long
+
+' Exchanges two vectors of texts.
+Public Declare PtrSafe Function Cpp_V_SwapStr Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal b As LongPtr) As Long
+
+' Moves the numbers above the missing one to the front, in their order.
+Public Declare PtrSafe Function Cpp_V_CleanVectDbl2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef m As Long) As Long
+
+' The same, with weights moved along.
+Public Declare PtrSafe Function Cpp_V_CleanVectDblW2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef w As Double, ByRef m As Long) As Long

@@ -1,6 +1,6 @@
 /**
  * @file
- * Numbers to integers as the machine does it.
+ * Numbers to integers as the machine does it, and conditions to flags.
  */
 #ifndef KORVEL_CONTAINERS_CONVERSION_H
 #define KORVEL_CONTAINERS_CONVERSION_H
@@ -19,6 +19,12 @@ namespace korvel
     constexpr double below = -2147483649.0;
     constexpr double above = 2147483648.0;
     return x > below && x < above ? static_cast<int>(x) : std::numeric_limits<int>::min();
+}
+
+/** A condition as the flag that callers know: -1 for true, 0 for false. */
+[[nodiscard]] constexpr short int flagOf(bool isTrue) noexcept
+{
+    return isTrue ? -1 : 0;
 }
 
 } // namespace korvel

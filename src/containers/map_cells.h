@@ -5,6 +5,7 @@
 #ifndef KORVEL_CONTAINERS_MAP_CELLS_H
 #define KORVEL_CONTAINERS_MAP_CELLS_H
 
+#include "containers/stretches.h"
 #include "containers/views.h"
 
 namespace korvel
@@ -40,21 +41,12 @@ void mapCells(int rows, int cols, Cell cell, const To& to, const From&... from)
         rows, cols, [&](int) { return cell; }, to, from...);
 }
 
-/** Whether `isGood` holds for every cell of the table. */
+/** Whether `isGood`, a test as `allOf` takes it, holds for every cell of the table. */
 template <class From, class Test>
 [[nodiscard]] bool allCells(int rows, int cols, Test isGood, const From& from)
 {
     for (int j = 0; j < cols; ++j) {
-        const bool good = withCells(
-            [&](auto& in) {
-                for (int i = 0; i < rows; ++i) {
-                    if (!isGood(in[i])) {
-                        return false;
-                    }
-                }
-                return true;
-            },
-            from.column(j, rows));
+        const bool good = withCells([&](auto in) { return allOf(rows, isGood, in); }, from.column(j, rows));
         if (!good) {
             return false;
         }

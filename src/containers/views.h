@@ -44,7 +44,7 @@ public:
 
     dense_column(matrix_of<T>& owner, int j) : owner_(&owner), j_(j) {}
 
-    const value_type& operator[](int i) const { return owner_->getElement(i, j_); }
+    const value_type& operator[](std::int64_t i) const { return owner_->getElement(static_cast<int>(i), j_); }
 
     void set(int i, const value_type& value) const requires(!std::is_const_v<T>)
     {

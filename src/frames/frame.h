@@ -12,10 +12,13 @@
 #include "containers/matrix.h"
 #include "containers/records.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <memory>
+#include <new>
 #include <optional>
 
 namespace korvel::frame
@@ -42,18 +45,51 @@ template <class T>
     return matrix<T>(rows, cols, readOnly(array), true);
 }
 
+// The other steps stand for an owned table, also where they borrow because nobody could tell. So all of them
+// refuse counts of which no table can be made, numbers and texts alike; and a table without columns has no
+// cell, so that nothing of the caller's memory is touched for it.
+
+/** @throws std::bad_alloc for a row count below 0, and for more cells than a table can have */
+inline void refuseImpossible(int rows, int cols)
+{
+    constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int32_t>::max());
+    if (elementCount(rows, std::max(cols, 1)) > most) {
+        throw std::bad_alloc();
+    }
+}
+
+/** A table without columns, which no core routine can give any. */
+template <class T>
+[[nodiscard]] matrix<T> withoutCells(int rows)
+{
+    refuseImpossible(rows, 0);
+    if constexpr (is_text<T>) {
+        return matrix<text>(rows, 0, static_cast<text*>(nullptr));
+    } else {
+        return borrow(static_cast<T*>(nullptr), rows, 0);
+    }
+}
+
 /** An owned copy of the caller's array. */
 template <class T>
 [[nodiscard]] matrix<T> copyIn(const T* array, int rows, int cols = 1)
 {
-    return matrix<T>(rows, cols, readOnly(array), false);
+    return cols > 0 ? matrix<T>(rows, cols, readOnly(array), false) : withoutCells<T>(rows);
+}
+
+/** What would be such a copy, were it not that nothing is written while it is read. */
+template <class T>
+[[nodiscard]] matrix<T> insteadOfCopy(const T* array, int rows, int cols = 1)
+{
+    refuseImpossible(rows, cols);
+    return cols > 0 ? borrow(array, rows, cols) : withoutCells<T>(rows);
 }
 
 /** An owned copy on the heap, for core routines that take over or overwrite a table of their own. */
 template <class T>
 [[nodiscard]] std::unique_ptr<matrix<T>> copyToHeap(const T* array, int rows, int cols = 1)
 {
-    return std::make_unique<matrix<T>>(rows, cols, readOnly(array), false);
+    return std::make_unique<matrix<T>>(copyIn(array, rows, cols));
 }
 
 /** The caller's array as it stands, when there is one. */
@@ -81,7 +117,7 @@ template <class T>
 template <class T>
 [[nodiscard]] matrix<T> blank(int rows, int cols = 1)
 {
-    return matrix<T>(rows, cols, T{});
+    return cols > 0 ? matrix<T>(rows, cols, T{}) : withoutCells<T>(rows);
 }
 
 /** Copies all elements of a result over the caller's array, which must have room for them. */
@@ -96,7 +132,7 @@ void copyOut(const matrix<T>& result, T* array)
 /** An owned copy of the caller's texts. */
 [[nodiscard]] inline matrix<text> readTexts(OLECHAR* const* block, int rows, int cols = 1)
 {
-    return matrix<text>(rows, cols, readOnly(block), 0, 0);
+    return cols > 0 ? matrix<text>(rows, cols, readOnly(block), 0, 0) : withoutCells<text>(rows);
 }
 
 /** Writes texts back over the caller's block; a BSTR that reads the same stays untouched. */
@@ -119,18 +155,15 @@ template <numeric_element T>
     return readTexts(block, rows, cols);
 }
 
-/**
- * What a core routine fills for the caller: the numbers in place, or empty texts for `bringBack`. A result
- * without columns has no cell.
- */
+/** What a core routine fills for the caller: the numbers in place, or empty texts for `bringBack`. */
 template <numeric_element T>
 [[nodiscard]] matrix<T> filling(T* array, int rows, int cols = 1)
 {
-    return borrow(array, rows, cols);
+    return insteadOfCopy(array, rows, cols);
 }
 [[nodiscard]] inline matrix<text> filling(OLECHAR**, int rows, int cols = 1)
 {
-    return cols > 0 ? blank<text>(rows, cols) : matrix<text>();
+    return blank<text>(rows, cols);
 }
 
 /** Sets numbers to be filled to 0, for a core routine that may leave some of them out. */
@@ -184,6 +217,15 @@ template <class R>
 [[nodiscard]] matrix<text> besides(const matrix<R>&, OLECHAR* const* block, int rows, int cols = 1)
 {
     return readTexts(block, rows, cols);
+}
+
+/** The table that a result of `filling` is made from: read as `besides` it, where a copy of it could be made.
+ */
+template <class Cell, class R>
+[[nodiscard]] auto source(const matrix<R>& result, Cell* array, int rows, int cols = 1)
+{
+    refuseImpossible(rows, cols);
+    return besides(result, array, rows, cols);
 }
 
 /** The caller's host array, in the shape of its descriptor. Numbers stay in place; texts return on

@@ -212,6 +212,16 @@ KORVEL_IN_LANES bool any(Mask chosen)
     }
 }
 
+/** Which of two lanes are chosen: bit k for lane k. */
+KORVEL_IN_LANES unsigned chosenBits(mask<2> chosen)
+{
+#if defined(__SSE2__)
+    return static_cast<unsigned>(_mm_movemask_pd(reinterpret_cast<__m128d>(chosen)));
+#else
+    return static_cast<unsigned>((chosen[0] & 1) | (chosen[1] & 2));
+#endif
+}
+
 /** `a < b ? a : b`: where one of the two is a NaN, and for two zeros, that is `b`. */
 template <class Doubles>
 KORVEL_IN_LANES Doubles smaller(Doubles a, Doubles b)

@@ -96,6 +96,10 @@ struct changed_table {
     }
 };
 
+// Clang 14 does not deduce the arguments of an aggregate by itself.
+template <class From, class To>
+changed_table(From, To, bool) -> changed_table<From, To>;
+
 /** A table of any form, in place. */
 template <class Table>
 [[nodiscard]] auto changing(Table&& x)

@@ -120,6 +120,27 @@ struct running_count_variance {
 };
 
 /**
+ * The update of the variance of a group: `spread(w, d, sumW)` is what a weight and its deviation add to the
+ * sum of squares. A total weight of 0 is not looked for, and gives 0/0.
+ */
+template <class Spread>
+struct running_group_variance : running_weight {
+    Spread spread;
+    double mean = 0.0;
+    double m2 = 0.0;
+
+    explicit running_group_variance(Spread ofGroup) : spread(ofGroup) {}
+
+    void add(double x, double w)
+    {
+        running_weight::add(w);
+        const double d = x - mean;
+        mean += w * d / sumW;
+        m2 += spread(w, d, sumW);
+    }
+};
+
+/**
  * Adds the elements that are kept: flag 0 and value not missing.
  * @param state has `add(x, w)`; it is a copy, so that it lives in registers
  */
@@ -133,6 +154,12 @@ template <class State, class Values, class Flags, class Weights>
         }
     }
     return state;
+}
+
+/** A variance whose denominator has to be greater than 0. */
+[[nodiscard]] inline double overPositive(double m2, double denominator)
+{
+    return denominator > 0.0 ? m2 / denominator : MISSING_DBL;
 }
 
 /** `rootOrMissing`, but 0.0 for a variance of either zero. */

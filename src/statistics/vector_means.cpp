@@ -1,12 +1,11 @@
 #include "statistics/vector_means.h"
 
 #include "containers/cells.h"
-#include "statistics/pairs.h"
 #include "statistics/running_variance.h"
 #include "statistics/stand_ins.h"
+#include "statistics/weighted_total.h"
 
 #include <cmath>
-#include <cstdint>
 
 namespace
 {
@@ -14,39 +13,20 @@ namespace
 using korvel::absolute;
 using korvel::only;
 using korvel::pair;
-using korvel::pairAt;
 using korvel::present;
-using korvel::twice;
+using korvel::weighted_total;
 using korvel::withCells;
 
-/** A sum of terms and the sum of their weights. */
-struct weighted_total {
-    double sum;
-    double sumW;
-
-    /** Their quotient, missing for a total weight of exactly 0. */
-    [[nodiscard]] double mean() const { return sumW == 0.0 ? MISSING_DBL : sum / sumW; }
-};
-
-/** The sums of `term(x, w)` and of `w` over the elements kept: two chains of additions, side by side in a
- * pair. */
+/** The sums of `term(x, w)` and of `w` over the elements kept. */
 template <class Values, class Flags, class Weights, class Term>
-weighted_total totalOf(Values x, int n, Flags flags, Weights w, Term term)
+weighted_total keptTotal(Values x, int n, Flags flags, Weights w, Term term)
 {
-    pair total{};
-    const auto addPair = [&](std::int64_t i) {
-        const pair kept = only(pairAt(flags, i), present(pairAt(x, i)));
-        const pair weights = only(kept, pairAt(w, i));
-        const pair terms = only(kept, term(pairAt(x, i), weights));
-        total += korvel::lanes::firstOf(terms, weights);
-        total += korvel::lanes::secondOf(terms, weights);
+    const auto termsOf = [term](pair value, pair unflagged, pair weight) {
+        const pair kept = only(unflagged, present(value));
+        const pair weights = only(kept, weight);
+        return korvel::weighted_terms{only(kept, term(value, weights)), weights};
     };
-    const std::int64_t i = korvel::forEachPair(0, n, addPair, x, flags, w);
-    if (i < n) {
-        const pair kept = only(twice(flags, i), present(twice(x, i)));
-        total += only(kept, korvel::lanes::firstOf(term(twice(x, i), twice(w, i)), twice(w, i)));
-    }
-    return {total[0], total[1]};
+    return korvel::totalOf(0, n, termsOf, x, flags, w);
 }
 
 constexpr auto product = [](pair x, pair w) { return w * x; };
@@ -56,7 +36,7 @@ constexpr auto product = [](pair x, pair w) { return w * x; };
 double V_Mean(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
 {
     const auto total = [=](auto values, auto weights) {
-        return totalOf(values, n, iMissing, weights, product);
+        return keptTotal(values, n, iMissing, weights, product);
     };
     return withCells(n, total, *x, *w).mean();
 }
@@ -64,8 +44,8 @@ double V_Mean(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
 double V_MeanAbs(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
 {
     const auto total = [=](auto values, auto weights) {
-        return totalOf(values, n, iMissing, weights,
-                       [](pair value, pair weight) { return weight * absolute(value); });
+        return keptTotal(values, n, iMissing, weights,
+                         [](pair value, pair weight) { return weight * absolute(value); });
     };
     return withCells(n, total, *x, *w).mean();
 }
@@ -73,7 +53,7 @@ double V_MeanAbs(matrix<double>* x, int n, short int* iMissing, matrix<double>* 
 double V_Mean2(const matrix<double>& x, int n)
 {
     const auto total = [n](auto values) {
-        return totalOf(values, n, korvel::no_flags{}, korvel::unit_weights{}, product);
+        return keptTotal(values, n, korvel::no_flags{}, korvel::unit_weights{}, product);
     };
     return withCells(n, total, x).mean();
 }
@@ -86,7 +66,7 @@ double V_Mean2(matrix<double>* x, int n)
 double V_MeanW2(matrix<double>* x, int n, matrix<double>* w)
 {
     const auto total = [n](auto values, auto weights) {
-        return totalOf(values, n, korvel::no_flags{}, weights, product);
+        return keptTotal(values, n, korvel::no_flags{}, weights, product);
     };
     const weighted_total result = withCells(n, total, *x, *w);
     return result.sumW > 0.0 ? result.sum / result.sumW : MISSING_DBL;
@@ -96,7 +76,7 @@ double V_HarmonicMean(matrix<double>* x, int n, short int* iMissing, matrix<doub
 {
     const auto mean = [=](auto values, auto weights) {
         const auto total =
-            totalOf(values, n, iMissing, weights, [](pair value, pair weight) { return weight / value; });
+            keptTotal(values, n, iMissing, weights, [](pair value, pair weight) { return weight / value; });
         // A division by zero makes the sum infinite or a NaN, but so may other elements: look for the zero.
         for (int i = 0; i < n && !std::isfinite(total.sum); ++i) {
             if (iMissing[i] == 0 && values[i] == 0.0) {

@@ -9,6 +9,7 @@
 namespace
 {
 
+using korvel::overPositive;
 using korvel::withCells;
 
 /** The state after all elements of a vector that are kept, each with its weight. */
@@ -36,11 +37,6 @@ korvel::running_count_variance unweightedState(const matrix<double>& x, int n, K
             return state;
         },
         x);
-}
-
-double overPositive(double m2, double denominator)
-{
-    return denominator > 0.0 ? m2 / denominator : MISSING_DBL;
 }
 
 } // namespace

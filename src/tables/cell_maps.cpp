@@ -1,5 +1,6 @@
 #include "tables/cell_maps.h"
 
+#include "containers/cell_tests.h"
 #include "containers/map_cells.h"
 #include "containers/missing.h"
 
@@ -47,11 +48,6 @@ void M_SubstractFirstCol2(matrix<double>* x, int rows, int cols)
 short int M_IsInIntervalSPV(matrix<double>** x, int rows, int cols, double lo, double hi, short int bOpen,
                             short int bSkipMissing)
 {
-    const auto isInside = [=](double cell) {
-        if (bSkipMissing == -1 && cell == MISSING_DBL) {
-            return true;
-        }
-        return bOpen == -1 ? lo < cell && cell < hi : lo <= cell && cell <= hi;
-    };
-    return korvel::allCells(rows, cols, isInside, korvel::reading(x)) ? -1 : 0;
+    const auto test = [&](auto isGood) { return korvel::allCells(rows, cols, isGood, korvel::reading(x)); };
+    return korvel::withInterval(lo, hi, bOpen, bSkipMissing, test) ? -1 : 0;
 }

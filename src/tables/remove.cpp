@@ -1,25 +1,21 @@
 #include "tables/remove.h"
 
 #include "tables/block_copy.h"
+#include "tables/runs_of_rows.h"
 
 #include <algorithm>
 #include <vector>
 
 using korvel::copyBlock;
 using korvel::reading;
+using korvel::run_of_rows;
 using korvel::writing;
 
 namespace
 {
 
-/** A run of neighbouring rows or columns that are kept, counted from 0. */
-struct kept_run {
-    int first;
-    int count;
-};
-
 template <class T>
-std::vector<kept_run> notListed(const matrix<T>& list, int n)
+std::vector<run_of_rows> notListed(const matrix<T>& list, int n)
 {
     std::vector<bool> listed(static_cast<std::size_t>(std::max(n, 0)));
     const auto length = static_cast<std::int64_t>(list.nbElem);
@@ -30,17 +26,7 @@ std::vector<kept_run> notListed(const matrix<T>& list, int n)
             listed[static_cast<std::size_t>(number) - 1] = true;
         }
     }
-    std::vector<kept_run> runs;
-    for (int k = 0; k < n; ++k) {
-        if (listed[static_cast<std::size_t>(k)]) {
-            continue;
-        }
-        if (runs.empty() || runs.back().first + runs.back().count != k) {
-            runs.push_back({k, 0});
-        }
-        ++runs.back().count;
-    }
-    return runs;
+    return korvel::runsOf(n, [&](int k) { return !listed[static_cast<std::size_t>(k)]; });
 }
 
 /** Of `n` rows or columns: how many come before number `k`, and how many up to and including it. */
@@ -100,7 +86,7 @@ void M_RemoveRows2(matrix<text>*& x, int rows, int cols, int first, int last)
 int M_RemoveColsInList(matrix<double>* x, int rows, int cols, matrix<double>* list, matrix<double>* out)
 {
     int stored = 0;
-    for (const kept_run& run : notListed(*list, cols)) {
+    for (const run_of_rows& run : notListed(*list, cols)) {
         copyBlock(reading(*x), {0, run.first}, writing(*out), {0, stored}, rows, run.count);
         stored += run.count;
     }
@@ -109,14 +95,7 @@ int M_RemoveColsInList(matrix<double>* x, int rows, int cols, matrix<double>* li
 
 int M_RemoveRowsInList(matrix<double>* x, int rows, int cols, matrix<int>* list, matrix<double>* out)
 {
-    const std::vector<kept_run> runs = notListed(*list, rows);
-    for (int j = 0; j < cols; ++j) {
-        int stored = 0;
-        for (const kept_run& run : runs) {
-            copyBlock(reading(*x), {run.first, j}, writing(*out), {stored, j}, run.count, 1);
-            stored += run.count;
-        }
-    }
+    korvel::copyRuns(notListed(*list, rows), reading(*x), writing(*out), cols);
     return 0;
 }
 
@@ -126,11 +105,7 @@ namespace korvel
 template <class T>
 int countNotListed(const matrix<T>& list, int n)
 {
-    int count = 0;
-    for (const kept_run& run : notListed(list, n)) {
-        count += run.count;
-    }
-    return count;
+    return rowsOf(notListed(list, n));
 }
 
 template int countNotListed(const matrix<double>&, int);

@@ -6,7 +6,9 @@
 
 #include <array>
 #include <boost/numeric/conversion/cast.hpp>
+#include <new>
 #include <type_traits>
+#include <utility>
 
 using namespace korvel;
 using namespace korvel::test;
@@ -122,7 +124,36 @@ TEST(Frame, BlankIsZeroOrEmpty)
     EXPECT_EQ(linear(zeros), std::vector<double>(6, 0.0));
     EXPECT_EQ(linear(frame::blank<int>(3)), std::vector<int>(3, 0));
     EXPECT_EQ(linear(frame::blank<text>(2, 2)), std::vector<text>(4));
-    expectShape(frame::blank<double>(2, 0), 2, 1, 2);
+}
+
+TYPED_TEST(NumericFrame, WithoutColumnsThereIsNoCellAndNoneIsMade)
+{
+    TypeParam* const nowhere = nullptr;
+    for (const int cols : {0, -1}) {
+        matrix<TypeParam> made[]{frame::copyIn(nowhere, 3, cols), frame::insteadOfCopy(nowhere, 3, cols),
+                                 frame::blank<TypeParam>(3, cols), frame::filling(nowhere, 3, cols),
+                                 std::move(*frame::copyToHeap(nowhere, 3, cols))};
+        for (matrix<TypeParam>& table : made) {
+            expectShape(table, 3, 0, 0);
+            table.Redim(3, 0, TypeParam{});
+            expectShape(table, 3, 0, 0);
+            frame::copyOut(table, nowhere);
+        }
+    }
+}
+
+TYPED_TEST(NumericFrame, WhatStandsForACopyIsRefusedWhereTheCopyIs)
+{
+    auto cell = element<TypeParam>(1);
+    for (const int cols : {-1, 0, 1, 3}) {
+        EXPECT_THROW((void)frame::copyIn(&cell, -1, cols), std::bad_alloc);
+        EXPECT_THROW((void)frame::insteadOfCopy(&cell, -1, cols), std::bad_alloc);
+        EXPECT_THROW((void)frame::blank<TypeParam>(-1, cols), std::bad_alloc);
+        EXPECT_THROW((void)frame::filling(&cell, -1, cols), std::bad_alloc);
+        EXPECT_THROW((void)frame::source(matrix<TypeParam>(), &cell, -1, cols), std::bad_alloc);
+    }
+    EXPECT_THROW((void)frame::insteadOfCopy(&cell, 65536, 32768), std::bad_alloc);
+    EXPECT_EQ(frame::insteadOfCopy(&cell, 65535, 32768).data, &cell);
 }
 
 TEST(Frame, TextsComeInAndOnlyWhatChangedGoesOut)
@@ -205,7 +236,13 @@ TEST(Frame, WhatIsToBeFilledIsInPlaceOrEmptyTexts)
     EXPECT_EQ(linear(frame::filling(noBlock, 3, 2)), std::vector<text>(6));
     for (const int cols : {0, -1}) {
         const auto nothing = frame::filling(noBlock, 3, cols);
-        expectShape(nothing, 0, 0, 0);
+        expectShape(nothing, 3, 0, 0);
         frame::bringBack(nothing, noBlock);
+        auto texts = frame::readTexts(noBlock, 3, cols);
+        expectShape(texts, 3, 0, 0);
+        texts.Redim(3, 0, text());
+        expectShape(texts, 3, 0, 0);
+        EXPECT_THROW((void)frame::readTexts(noBlock, -1, cols), std::bad_alloc);
+        EXPECT_THROW((void)frame::filling(noBlock, -1, cols), std::bad_alloc);
     }
 }

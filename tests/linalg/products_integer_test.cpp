@@ -5,6 +5,7 @@
 #include "reference/products.h"
 #include "support/sparse_tables.h"
 
+#include <cmath>
 #include <limits>
 
 using namespace korvel::test;
@@ -162,7 +163,9 @@ TEST(IntegerProducts, WithThemselvesHaveTheBitsOfThePlainLoop)
                 ASSERT_TRUE(sameTables(other, along)) << n << ", " << p;
             }
             for (std::uint64_t k = 0; p > 0 && k < cut.nbElem; ++k) {
-                ASSERT_EQ(cut.data[k], static_cast<int>(down.data[k])) << n << ", " << p;
+                const double whole = down.data[k];
+                const bool isHeld = std::abs(whole) < 2147483648.0;
+                ASSERT_EQ(cut.data[k], isHeld ? static_cast<int>(whole) : smallestInt) << n << ", " << p;
             }
         }
     }

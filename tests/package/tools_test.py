@@ -144,13 +144,24 @@ class MadeFiles(Tree):
             ],
         )
 
+    def test_knows_what_may_be_null(self):
+        for text in ("n flags. Null: none is", "n flags; may be null", "n flags; null: none is"):
+            self.functions(SUM.replace("n flags;\n *              Null: none is set", text))
+            self.make()
+            self.assertIn("flags (Integer) may be null", self.declarations()[0])
+            self.assertIn("`flags` [in, may be null]", self.read("docs/reference.md"))
+        self.functions(SUM.replace("n flags;\n *              Null: none is set", "n flags; not null unless n is 0"))
+        self.make()
+        self.assertNotIn("may be null", self.declarations()[0])
+        self.assertIn("`flags` [in, not null]", self.read("docs/reference.md"))
+
     def test_declares_every_type(self):
         self.functions(
             """\
 /**
  * Takes all.
  *
- * @param a a
+ * @param a -1: yes
  * @param b [in] b
  * @param c [out] c
  * @param d [inout] block
@@ -256,9 +267,9 @@ KORVEL_FLAT void openValue(void);
                     - up
                     - down
 
-                    - `x` [in]: n numbers
+                    - `x` [in, not null]: n numbers
                     - `n`: their number
-                    - `flags` [in]: n flags; Null: none is set
+                    - `flags` [in, may be null]: n flags; Null: none is set
                     - Result: the sum
                     """
                 )
@@ -436,6 +447,20 @@ class BrokenHeaders(Tree):
 
     def test_scalar_with_direction(self):
         self.broken("n their", "n [in] their", 5, "VB_Sum: @param n is passed by value and has no direction")
+
+    def with_boolean(self, text):
+        self.functions(f"/**\n * Does it.\n * @param b {text}\n */\nKORVEL_FLAT void VB_A(short int b);\n")
+
+    def test_boolean_without_its_truth(self):
+        for text in ("whether it does", "0: it does not", "it does when -1"):
+            self.with_boolean(text)
+            self.expect(3, "VB_A: @param b must say whether only -1 or anything but 0 is true")
+
+    def test_boolean_with_its_truth(self):
+        for text in ("-1: it does", "not 0: it does", "whether it does; true only when -1",
+                     "whether it\n * does; true unless 0", "-1: it does; 0: it does not; any other value: neither"):
+            self.with_boolean(text)
+            self.assertEqual(self.run_tool("generate"), (0, []))
 
     def test_missing_return(self):
         self.broken(" * @return the sum\n", "", 9, "VB_Sum: no @return")

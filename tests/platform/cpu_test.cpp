@@ -9,7 +9,7 @@
 #include <utility>
 #ifdef _WIN32
 #include <cpuid.h>
-#else
+#elif defined(__x86_64__)
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -48,9 +48,17 @@ told_sets toldSets()
             (b & (1U << 16)) != 0 && (kept & avx512State) == avx512State};
 }
 
+#elif !defined(__x86_64__)
+
+/** A processor of another family has none of them. An emulator may list those of its host. */
+told_sets toldSets()
+{
+    return {};
+}
+
 #else
 
-/** From the flags that the kernel lists; a processor of another family has none of these. */
+/** From the flags that the kernel lists. */
 told_sets toldSets()
 {
     std::ifstream info("/proc/cpuinfo");

@@ -25,6 +25,10 @@ UMBRELLA = "KORVELMathTools.h"
 COMMON = "types.h"
 DIRECTION = re.compile(r"\[(in|out|inout)\](\s+|$)")
 
+# What a Boolean says of its values: `-1: ...` and `true only when -1` take anything else for false; `not 0: ...` and
+# `true unless 0` take anything else for true; some tell three cases apart.
+TRUTH = re.compile(r"(-1|not 0): |.*\btrue (only when -1|unless 0)\b|.*\b[Aa]ny other value\b")
+
 
 @dataclass(frozen=True)
 class Problem:
@@ -75,7 +79,7 @@ class Parameter:
 
     @property
     def nullable(self):
-        return any(re.search(r"\bNull:", line) for line in self.text)
+        return re.search(r"\b(may be null|[Nn]ull:)", one_line(self.text)) is not None
 
     @property
     def plain_type(self):
@@ -257,6 +261,8 @@ def describe(function, problem):
             problem(tag.line, f"{function.name}: @param {tag.name} is passed by value and has no direction")
         if not one_line(tag.text):
             problem(tag.line, f"{function.name}: @param {tag.name} has no text")
+        if parameter.type == "short int" and one_line(tag.text) and not TRUTH.match(one_line(tag.text)):
+            problem(tag.line, f"{function.name}: @param {tag.name} must say whether only -1 or anything but 0 is true")
         if parameter.type == "SAFEARRAY**" and parameter.host_element not in HOST_ARRAY_ELEMENTS:
             elements = ", ".join(HOST_ARRAY_ELEMENTS)
             problem(tag.line, f"{function.name}: @param {tag.name} must say 'host array of' one of {elements}")

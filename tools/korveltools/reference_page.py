@@ -57,7 +57,8 @@ def entry(function):
     lines = ["", f"### {function.name}", "", "```c", function.prototype, "```", "", *paragraphs(function.doc.text)]
     items = []
     for parameter in function.parameters:
-        direction = f" [{parameter.direction}]" if parameter.direction else ""
+        null = "may be null" if parameter.nullable else "not null"
+        direction = f" [{parameter.direction}, {null}]" if parameter.direction else ""
         items += item(f"`{parameter.name}`{direction}", parameter.text)
     for kind, title in (("return", "Result"), ("throws", "Throws")):
         for tag in function.doc.tagged(kind):

@@ -52,6 +52,26 @@ KORVEL_API int V_GetMissingDbl(matrix<double>* x, int n, short int* iMissing, sh
 namespace korvel
 {
 
+/** The missing number of an element type. */
+template <class T>
+inline constexpr T missingNumber = MISSING_DBL;
+template <>
+inline constexpr int missingNumber<int> = MISSING_LNG;
+
+/** The exact test: whether a number equals the missing one of its type, or a text is empty. */
+[[nodiscard]] constexpr bool isMissing(double x) noexcept
+{
+    return x == MISSING_DBL;
+}
+[[nodiscard]] constexpr bool isMissing(int x) noexcept
+{
+    return x == MISSING_LNG;
+}
+[[nodiscard]] inline bool isMissing(const text& x) noexcept
+{
+    return x.empty();
+}
+
 /** The ordered test: the sentinel and the 29 doubles below it are missing, a NaN is not. */
 [[nodiscard]] constexpr bool isMissingOrdered(double x) noexcept
 {

@@ -34,6 +34,9 @@
  * @param bUnbiased true only when -1
  * @param bFreq     true only when -1: each weight counts as so many observations
  *
+ * The powers in the skewness and the kurtosis are those of `var` as it is returned: they are those of the
+ * textbooks with `bUnbiased` 0, while with -1 they are divided by the powers of the unbiased variance.
+ *
  * All eight results are 0.0 at first. When the denominator of the variance is exactly 0 (with `bUnbiased`
  * neither -1 nor 0 it is not looked at), the variance and the four results for skewness and kurtosis are
  * `MISSING_DBL`; when the variance is exactly 0, those four are; in both cases the standard errors stay 0.0.

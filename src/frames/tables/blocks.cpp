@@ -14,7 +14,7 @@ int copyToCorner(const Cell* x, int rows, int cols, int firstRow, int lastRow, i
                  Cell* out)
 {
     auto block = frame::filling(out, countOf(firstRow, lastRow), countOf(firstCol, lastCol));
-    auto table = frame::besides(block, x, rows, cols);
+    auto table = frame::source(block, x, rows, cols);
     M_CopyBlock(&table, firstRow, lastRow, firstCol, lastCol, &block);
     frame::bringBack(block, out);
     return 0;

@@ -13,7 +13,7 @@ using core_map = void (*)(matrix<double>*, int, int, matrix<double>*);
 int map(core_map core, const double* x, int rows, int cols, double* y)
 {
     auto result = frame::filling(y, rows, frame::columns(cols));
-    auto values = frame::besides(result, x, rows, frame::columns(cols));
+    auto values = frame::source(result, x, rows, frame::columns(cols));
     core(&values, rows, frame::columns(cols), &result);
     return 0;
 }

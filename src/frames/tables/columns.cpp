@@ -53,7 +53,7 @@ int VB_CopyMatrixRowToMatrixRow(const double* x, int rows, int cols, int row, do
 int VB_CopyMatrixColToVector(const double* x, int rows, int cols, int col, double* y)
 {
     auto vector = frame::filling(y, rows);
-    const auto table = frame::besides(vector, x, rows, frame::columns(cols));
+    const auto table = frame::source(vector, x, rows, frame::columns(cols));
     CopyMatrixColToVector(table, rows, col, vector);
     return 0;
 }
@@ -61,7 +61,7 @@ int VB_CopyMatrixColToVector(const double* x, int rows, int cols, int col, doubl
 int VB_CopyMatrixColToOneColMatStr(OLECHAR* const* x, int rows, int cols, int col, OLECHAR** y)
 {
     auto vector = frame::filling(y, rows);
-    const auto table = frame::besides(vector, x, rows, frame::columns(cols));
+    const auto table = frame::source(vector, x, rows, frame::columns(cols));
     CopyMatrixColToOneColMatStr(table, rows, col, vector);
     frame::bringBack(vector, y);
     return 0;

@@ -13,7 +13,7 @@ template <class Cell>
 int extract(const Cell* x, int rows, int cols, int firstRow, int lastRow, Cell* out)
 {
     auto range = frame::filling(out, countOf(firstRow, lastRow), cols);
-    auto table = frame::besides(range, x, rows, cols);
+    auto table = frame::source(range, x, rows, cols);
     M_ExtractMatToMat(&table, cols, firstRow, lastRow, &range);
     frame::bringBack(range, out);
     return 0;
@@ -53,7 +53,7 @@ int VB_M_ExtractMatToMatStrSPV(Hostarray** x, int rows, int cols, int firstRow, 
 int Cpp_Extractij(const double* x, int rows, int cols, int i, int j, double* out)
 {
     auto range = frame::filling(out, countOf(i, j), frame::columns(cols));
-    auto table = frame::besides(range, x, rows, frame::columns(cols));
+    auto table = frame::source(range, x, rows, frame::columns(cols));
     Extractij(&table, table.nbcols, i, j, &range);
     return 0;
 }
@@ -61,7 +61,7 @@ int Cpp_Extractij(const double* x, int rows, int cols, int i, int j, double* out
 int VB_M_ExtractMatToMatByColDbl(const double* x, int rows, int cols, int firstCol, int lastCol, double* out)
 {
     auto range = frame::filling(out, rows, countOf(firstCol, lastCol));
-    auto table = frame::besides(range, x, rows, frame::columns(cols));
+    auto table = frame::source(range, x, rows, frame::columns(cols));
     M_ExtractMatToMatByColDbl(&table, rows, firstCol, lastCol, &range);
     return 0;
 }

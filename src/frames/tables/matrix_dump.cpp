@@ -7,12 +7,12 @@ using namespace korvel;
 
 void Cpp_WriteMatrixDbl(const double* a, int rows, int cols, const char* name)
 {
-    dumpTable(frame::borrow(a, rows, cols), rows, cols, name);
+    dumpTable(frame::insteadOfCopy(a, rows, cols), rows, cols, name);
 }
 
 void Cpp_WriteMatrixLng(const int* a, int rows, int cols, const char* name)
 {
-    dumpTable(frame::borrow(a, rows, cols), rows, cols, name);
+    dumpTable(frame::insteadOfCopy(a, rows, cols), rows, cols, name);
 }
 
 int Cpp_WriteMatrixStr(OLECHAR* const* a, int rows, int cols, const char* name)

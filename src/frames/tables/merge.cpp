@@ -14,8 +14,8 @@ template <class Cell>
 int sideBySide(const Cell* a, int rowsA, int colsA, const Cell* b, int rowsB, int colsB, Cell* out)
 {
     auto merged = frame::filling(out, std::max(rowsA, rowsB), colsA + colsB);
-    auto left = frame::besides(merged, a, rowsA, colsA);
-    auto right = frame::besides(merged, b, rowsB, colsB);
+    auto left = frame::source(merged, a, rowsA, colsA);
+    auto right = frame::source(merged, b, rowsB, colsB);
     auto* result = &merged;
     HMergeTables(&left, rowsA, colsA, &right, rowsB, colsB, result);
     frame::bringBack(merged, out);
@@ -36,8 +36,8 @@ template <class Cell>
 int oneBelowTheOther(const Cell* a, int nA, const Cell* b, int nB, Cell* out)
 {
     auto merged = frame::filling(out, nA + nB);
-    auto upper = frame::besides(merged, a, nA);
-    auto lower = frame::besides(merged, b, nB);
+    auto upper = frame::source(merged, a, nA);
+    auto lower = frame::source(merged, b, nB);
     VMergeVectors(&upper, nA, &lower, nB, &merged);
     frame::bringBack(merged, out);
     return 0;
@@ -102,8 +102,8 @@ int VB_HMergeTablesDbl2SPV2(Hostarray** a, int rowsA, int colsA, Hostarray** b, 
 int VB_HMergeVectors(const double* a, int nA, const double* b, int nB, double* out)
 {
     auto merged = frame::filling(out, std::max(nA, nB), 2);
-    const auto left = frame::besides(merged, a, nA);
-    const auto right = frame::besides(merged, b, nB);
+    const auto left = frame::source(merged, a, nA);
+    const auto right = frame::source(merged, b, nB);
     frame::clearUnless(nA == nB, merged);
     HMergeVectors(left.data, nA, right.data, nB, &merged);
     return 0;
@@ -113,8 +113,8 @@ int VB_HMergeTableVect(const double* x, int rows, int cols, const double* v, int
                        int outCols)
 {
     auto merged = frame::filling(out, outRows, frame::columns(outCols));
-    auto table = frame::besides(merged, x, rows, frame::columns(cols));
-    const auto vector = frame::besides(merged, v, n);
+    auto table = frame::source(merged, x, rows, frame::columns(cols));
+    const auto vector = frame::source(merged, v, n);
     frame::clearUnless(rows >= outRows && n >= outRows && table.nbcols + 1 >= merged.nbcols, merged);
     HMergeTableVect(&table, rows, table.nbcols, vector.data, n, &merged, outRows, merged.nbcols);
     return 0;
@@ -132,8 +132,8 @@ int VB_HMergeVectTable(const double* v, int n, const double* x, int rows, int co
                        int outCols)
 {
     auto merged = frame::filling(out, outRows, frame::columns(outCols));
-    const auto vector = frame::besides(merged, v, n);
-    auto table = frame::besides(merged, x, rows, frame::columns(cols));
+    const auto vector = frame::source(merged, v, n);
+    auto table = frame::source(merged, x, rows, frame::columns(cols));
     frame::clearUnless(rows >= outRows && n >= outRows && table.nbcols + 1 >= merged.nbcols, merged);
     HMergeVectTable(vector.data, n, &table, rows, table.nbcols, &merged, outRows, merged.nbcols);
     return 0;
@@ -143,8 +143,8 @@ int VB_HMergeVectColDbl(const double* v, int n, const double* x, int rows, int c
                         int outRows)
 {
     auto merged = frame::filling(out, outRows, 2);
-    const auto vector = frame::besides(merged, v, n);
-    auto table = frame::besides(merged, x, rows, frame::columns(cols));
+    const auto vector = frame::source(merged, v, n);
+    auto table = frame::source(merged, x, rows, frame::columns(cols));
     frame::clearUnless(rows >= outRows && n >= outRows, merged);
     HMergeVectCol(vector.data, n, &table, rows, col, &merged, outRows);
     return 0;
@@ -191,8 +191,8 @@ int VB_VMergeTablesDbl(const double* a, int rowsA, int colsA, const double* b, i
                        double* out)
 {
     auto merged = frame::filling(out, rowsA + rowsB, std::max(frame::columns(colsA), frame::columns(colsB)));
-    auto upper = frame::besides(merged, a, rowsA, frame::columns(colsA));
-    auto lower = frame::besides(merged, b, rowsB, frame::columns(colsB));
+    auto upper = frame::source(merged, a, rowsA, frame::columns(colsA));
+    auto lower = frame::source(merged, b, rowsB, frame::columns(colsB));
     frame::clearUnless(upper.nbcols == lower.nbcols, merged);
     VMergeTables(&upper, rowsA, upper.nbcols, &lower, rowsB, lower.nbcols, &merged);
     return 0;
@@ -203,7 +203,7 @@ int Cpp_VMergeTablesDblSPV(Hostarray** a, int rowsA, int colsA, const double* b,
 {
     auto merged = frame::filling(out, rowsA + rowsB, std::max(colsA, frame::columns(colsB)));
     const auto upper = frame::chunks(a, colsA, rowsA);
-    auto lower = frame::besides(merged, b, rowsB, frame::columns(colsB));
+    auto lower = frame::source(merged, b, rowsB, frame::columns(colsB));
     frame::clearUnless(colsA == lower.nbcols, merged);
     VMergeTablesSPV(upper.get(), rowsA, colsA, &lower, rowsB, lower.nbcols, &merged);
     return 0;

@@ -3,6 +3,8 @@
 #include "frames/frame.h"
 #include "tables/remove.h"
 
+#include <algorithm>
+
 using namespace korvel;
 
 namespace
@@ -23,15 +25,15 @@ int removeRows(Cell* x, int rows, int cols, int first, int last)
 int VB_M_RemoveCol(const double* x, int rows, int cols, int k, double* out)
 {
     auto result = frame::filling(out, rows, frame::columns(cols) - 1);
-    auto table = frame::besides(result, x, rows, frame::columns(cols));
+    auto table = frame::source(result, x, rows, frame::columns(cols));
     M_RemoveCol(&table, rows, table.nbcols, k, &result);
     return 0;
 }
 
 int VB_M_RemoveRow(const double* x, int rows, int cols, int k, double* out)
 {
-    auto result = frame::filling(out, rows - 1, frame::columns(cols));
-    auto table = frame::besides(result, x, rows, frame::columns(cols));
+    auto result = frame::filling(out, std::max(rows, 1) - 1, frame::columns(cols));
+    auto table = frame::source(result, x, rows, frame::columns(cols));
     M_RemoveRow(&table, rows, table.nbcols, k, &result);
     return 0;
 }
@@ -57,7 +59,7 @@ int VB_M_RemoveColsInList(const double* x, int rows, int cols, const double* lis
 {
     auto numbers = frame::borrow(list, n);
     auto result = frame::filling(out, rows, countNotListed(numbers, frame::columns(cols)));
-    auto table = frame::besides(result, x, rows, frame::columns(cols));
+    auto table = frame::source(result, x, rows, frame::columns(cols));
     return M_RemoveColsInList(&table, rows, table.nbcols, &numbers, &result);
 }
 
@@ -65,6 +67,6 @@ int VB_M_RemoveRowsInList(const double* x, int rows, int cols, const int* list, 
 {
     auto numbers = frame::borrow(list, n);
     auto result = frame::filling(out, countNotListed(numbers, rows), frame::columns(cols));
-    auto table = frame::besides(result, x, rows, frame::columns(cols));
+    auto table = frame::source(result, x, rows, frame::columns(cols));
     return M_RemoveRowsInList(&table, rows, table.nbcols, &numbers, &result);
 }

@@ -13,7 +13,7 @@ template <class Cell, class Core>
 int resize(Core core, const Cell* x, int rows, int cols, Cell* y, int newRows, int newCols)
 {
     auto result = frame::filling(y, newRows, newCols);
-    auto table = frame::besides(result, x, rows, cols);
+    auto table = frame::source(result, x, rows, cols);
     core(&table, rows, cols, &result, newRows, newCols);
     frame::bringBack(result, y);
     return 0;

@@ -8,24 +8,13 @@ using namespace korvel;
 namespace
 {
 
-// The result is whole before it is copied out, so that one array may be passed for both.
-
-template <class T>
-int transpose(const T* x, int rows, int cols, T* y)
+template <class From, class To>
+int transpose(From* x, int rows, int cols, To* y)
 {
-    auto values = frame::borrow(x, rows, cols);
-    matrix<T> result;
-    M_Transpose(values, rows, cols, result);
-    frame::copyOut(result, y);
-    return 0;
-}
-
-int transpose(OLECHAR* const* x, int rows, int cols, OLECHAR** y)
-{
-    auto texts = frame::readTexts(x, rows, cols);
-    matrix<text> result;
-    M_Transpose(texts, rows, cols, result);
-    frame::writeTexts(result, y);
+    auto result = frame::filling(y, cols, rows);
+    const auto table = frame::source(result, x, rows, cols);
+    M_Transpose(table, rows, cols, result);
+    frame::bringBack(result, y);
     return 0;
 }
 

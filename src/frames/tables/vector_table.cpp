@@ -16,7 +16,7 @@ template <class T, class Cell>
 int move(core_move<T> core, const Cell* from, int rows, int cols, Cell* to)
 {
     auto target = frame::filling(to, rows, cols);
-    auto source = frame::besides(target, from, rows, cols);
+    auto source = frame::source(target, from, rows, cols);
     core(&source, rows, cols, &target);
     frame::bringBack(target, to);
     return 0;
@@ -32,8 +32,8 @@ int Cpp_MatToVect(const double* x, int rows, int cols, double* v)
 int Cpp_VectToMat(const double* v, const double* pattern, int rows, int cols, double* x)
 {
     auto table = frame::filling(x, rows, cols);
-    auto vector = frame::besides(table, v, rows, cols);
-    auto given = frame::besides(table, pattern, rows, cols);
+    auto vector = frame::source(table, v, rows, cols);
+    auto given = frame::source(table, pattern, rows, cols);
     VectToMat(&vector, &given, rows, cols, &table);
     return 0;
 }

@@ -2,6 +2,7 @@
 #include "support/caller_cells.h"
 
 #include <gtest/gtest.h>
+#include <new>
 #include <vector>
 
 using namespace korvel::test;
@@ -260,17 +261,17 @@ TEST(FlatTableMerge, AVectorAndOneColumn)
     EXPECT_EQ(out.values(), (codes{8, 9, 1, 2})) << "0 is one column";
 }
 
-TEST(FlatTableMerge, AResultOfNegativeHeightIsNotWritten)
+TEST(FlatTableMerge, AResultOfNegativeHeightIsRefusedAndNotWritten)
 {
     const codes before{1, 2, 3, 4, 5, 6};
     caller_cells<double> x(before);
     caller_cells<double> out(before);
     double* const middle = out.data() + 3;
-    EXPECT_EQ(VB_HMergeTablesDbl(x.data(), -1, 1, x.data(), -2, 1, middle), 0);
-    EXPECT_EQ(VB_HMergeVectors(x.data(), -1, x.data(), -2, middle), 0);
-    EXPECT_EQ(VB_HMergeTableVect(x.data(), 1, 1, x.data(), 1, middle, -1, 3), 0);
-    EXPECT_EQ(VB_HMergeVectTable(x.data(), 1, x.data(), 1, 1, middle, -1, 3), 0);
-    EXPECT_EQ(VB_VMergeTablesDbl(x.data(), -1, 1, x.data(), 0, 2, middle), 0);
+    EXPECT_THROW(VB_HMergeTablesDbl(x.data(), -1, 1, x.data(), -2, 1, middle), std::bad_alloc);
+    EXPECT_THROW(VB_HMergeVectors(x.data(), -1, x.data(), -2, middle), std::bad_alloc);
+    EXPECT_THROW(VB_HMergeTableVect(x.data(), 1, 1, x.data(), 1, middle, -1, 3), std::bad_alloc);
+    EXPECT_THROW(VB_HMergeVectTable(x.data(), 1, x.data(), 1, 1, middle, -1, 3), std::bad_alloc);
+    EXPECT_THROW(VB_VMergeTablesDbl(x.data(), -1, 1, x.data(), 0, 2, middle), std::bad_alloc);
     EXPECT_EQ(out.values(), before);
     EXPECT_EQ(x.values(), before);
 }

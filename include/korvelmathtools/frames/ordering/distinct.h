@@ -1,6 +1,7 @@
 /**
  * @file
- * Flat functions: distinct values.
+ * Flat functions: distinct values. Among numbers with a NaN, whose place in the order is not defined, the
+ * result is not defined either.
  */
 #ifndef KORVEL_FRAMES_ORDERING_DISTINCT_H
 #define KORVEL_FRAMES_ORDERING_DISTINCT_H

@@ -1,6 +1,9 @@
 /**
  * @file
  * Flat functions: quantiles.
+ *
+ * A NaN is a number like any other here, not a missing one. Where it is sorted to is not defined, so no
+ * result is either when there is one among the elements that count.
  */
 #ifndef KORVEL_FRAMES_ORDERING_QUANTILES_H
 #define KORVEL_FRAMES_ORDERING_QUANTILES_H

@@ -1,6 +1,8 @@
 /**
  * @file
  * Flat functions: ranks, and positions in square tables.
+ *
+ * A NaN is not missing. Where it is sorted to is not defined, so no rank is either when there is one.
  */
 #ifndef KORVEL_FRAMES_ORDERING_RANKS_H
 #define KORVEL_FRAMES_ORDERING_RANKS_H

@@ -21,8 +21,9 @@
  * @param to       last row to sort, included
  * @param key      [inout] rows keys, read at positions from..to, rewritten in sorted order when bSortKey is
  * set
- * @param aux      [inout] rows by auxCols numbers, a second table that moves along
- * @param auxCols  columns of aux; 0 counts as 1
+ * @param aux      [inout] rows by auxCols numbers, a second table that moves along; may be null when auxCols
+ * is below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  * @param bDesc    not 0: descending
  * @param bSortKey not 0: the key is rewritten in sorted order
  * @return 0

@@ -1,6 +1,7 @@
 /**
  * @file
- * Flat functions: top and bottom boxes of survey scales.
+ * Flat functions: top and bottom boxes of survey scales. With a NaN among the scores, whose place in the
+ * order is not defined, no result is defined.
  */
 #ifndef KORVEL_FRAMES_ORDERING_SURVEY_BOXES_H
 #define KORVEL_FRAMES_ORDERING_SURVEY_BOXES_H

@@ -39,7 +39,7 @@ KORVEL_FLAT int Cpp_GenerateIndicator_ST(SAFEARRAY** out, int n, int first, int 
  * @param n        number of elements
  * @param k        size of the subset; below 1 none, from n on all
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */

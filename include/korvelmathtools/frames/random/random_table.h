@@ -14,7 +14,7 @@
  * @param rows     number of rows; below 1 nothing is drawn
  * @param cols     number of columns; below 1 nothing is drawn
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  *

@@ -20,7 +20,7 @@
  * @param sample   [inout] k by cols texts
  * @param selected [out] k numbers: the row number of each row of the sample, ascending
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -75,7 +75,7 @@ KORVEL_FLAT int VB_M_SamplingSystematicRdStart(OLECHAR* const* table, int rows, 
  * @param sample   [inout] host array of cols records, each with a text column of k texts
  * @param selected [inout] rows numbers: receives rows + 1 for each row that is not taken; the others stay
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -135,7 +135,7 @@ KORVEL_FLAT int VB_M_SamplingRandomStratifiedSPV(Hostarray** table, int rows, in
  * @param counts   [in] the size of the sample from each stratum, truncated, as many as nCounts
  * @param nCounts  number of strata
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */

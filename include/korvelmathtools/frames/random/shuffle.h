@@ -15,7 +15,7 @@
  * @param x        [inout] n numbers
  * @param n        number of elements
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */
@@ -35,7 +35,7 @@ KORVEL_FLAT int Cpp_V_ShuffleLng(int* x, int n, int* seed, short int flag, int* 
  * @param rows     number of rows
  * @param cols     number of columns
  * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     0 when no seed is given
+ * @param flag     not 0: a seed is given
  * @param nextSeed [out] a seed for the next run
  * @return 0
  */

@@ -24,7 +24,7 @@
  * @param x         [inout] rows by cols numbers
  * @param rows      rows
  * @param cols      columns
- * @param bUnbiased whether the denominator is corrected
+ * @param bUnbiased whether the denominator is corrected; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_Standardize2(double* x, int rows, int cols, short int bUnbiased);
@@ -35,7 +35,7 @@ KORVEL_FLAT int VB_M_Standardize2(double* x, int rows, int cols, short int bUnbi
  * @param x         [inout] cols columns of rows numbers
  * @param rows      rows
  * @param cols      columns
- * @param bUnbiased whether the denominator is corrected
+ * @param bUnbiased whether the denominator is corrected; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_Standardize2SPV(Hostarray** x, int rows, int cols, short int bUnbiased);
@@ -48,8 +48,8 @@ KORVEL_FLAT int VB_M_Standardize2SPV(Hostarray** x, int rows, int cols, short in
  * @param cols      columns
  * @param means     [out] cols means
  * @param sds       [out] cols deviations
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_Standardize3(double* x, int rows, int cols, double* means, double* sds,
@@ -62,8 +62,8 @@ KORVEL_FLAT int VB_M_Standardize3(double* x, int rows, int cols, double* means, 
  * @param rows      rows
  * @param cols      columns
  * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @param out       [out] rows by cols numbers; may be the array of an argument
  * @return 0
  */
@@ -77,8 +77,8 @@ KORVEL_FLAT int VB_M_StandardizeW(const double* x, int rows, int cols, const dou
  * @param rows      rows
  * @param cols      columns
  * @param w         [in] rows weights; may be a column of x
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_StandardizeW2(double* x, int rows, int cols, const double* w, short int bUnbiased,
@@ -93,8 +93,8 @@ KORVEL_FLAT int VB_M_StandardizeW2(double* x, int rows, int cols, const double* 
  * @param w         [in] rows weights; may be a column of x
  * @param means     [out] cols means
  * @param sds       [out] cols deviations
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_StandardizeW3(double* x, int rows, int cols, const double* w, double* means, double* sds,
@@ -161,8 +161,8 @@ KORVEL_FLAT int VB_M_CenterW2(double* x, int rows, int cols, const double* w);
  * @param rows      rows
  * @param cols      columns
  * @param out       [out] rows by cols numbers; may be the array of x
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_Reduce(const double* x, int rows, int cols, double* out, short int bUnbiased,
@@ -176,8 +176,8 @@ KORVEL_FLAT int VB_M_Reduce(const double* x, int rows, int cols, double* out, sh
  * @param cols      columns
  * @param w         [in] rows weights
  * @param out       [out] rows by cols numbers; may be the array of an argument
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_ReduceW(const double* x, int rows, int cols, const double* w, double* out,
@@ -189,7 +189,7 @@ KORVEL_FLAT int VB_M_ReduceW(const double* x, int rows, int cols, const double* 
  * @param x         [inout] rows by cols numbers
  * @param rows      rows
  * @param cols      columns
- * @param bUnbiased whether the denominator is corrected
+ * @param bUnbiased whether the denominator is corrected; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_Reduce2(double* x, int rows, int cols, short int bUnbiased);
@@ -201,8 +201,8 @@ KORVEL_FLAT int VB_M_Reduce2(double* x, int rows, int cols, short int bUnbiased)
  * @param rows      rows
  * @param cols      columns
  * @param w         [in] rows weights; may be a column of x
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_ReduceW2(double* x, int rows, int cols, const double* w, short int bUnbiased,

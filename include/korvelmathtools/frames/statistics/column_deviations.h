@@ -26,8 +26,8 @@
  * @param sds       [out] cols deviations
  * @param iMissing  [in] rows flags, read only when flag is 0; may be null, then none is set
  * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @param flag      0: rows with a flag other than 0 are left out; -1: all rows are kept, whatever their
  * flags; any other value: no row is kept
  * @return 0

@@ -15,7 +15,7 @@
  * @param cov  [in] n by n covariances, read cell by cell: they need not be symmetric
  * @param n    order
  * @param out  [out] n by n correlations
- * @param bUndefinedIsZero other than 0: an undefined cell is 0.0; otherwise it is missing
+ * @param bUndefinedIsZero not 0: an undefined cell is 0.0; otherwise it is missing
  * @return 0
  */
 KORVEL_FLAT int VB_M_CorrMatFromCovMat(const double* cov, int n, double* out, short int bUndefinedIsZero);

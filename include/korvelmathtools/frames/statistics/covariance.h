@@ -27,12 +27,12 @@
  * @param rows      rows
  * @param cols      columns
  * @param out       [out] cols by cols numbers, both halves
- * @param bCorr     correlations unless it is 0
+ * @param bCorr     not 0: correlations
  * @param iMissing  [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
  * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
- * @param bUndefinedIsZero what an undefined cell is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
+ * @param bUndefinedIsZero what an undefined cell is; true unless 0
  * @return 0
  */
 KORVEL_FLAT int VB_M_CovCorr(const double* x, int rows, int cols, double* out, short int bCorr,
@@ -46,12 +46,12 @@ KORVEL_FLAT int VB_M_CovCorr(const double* x, int rows, int cols, double* out, s
  * @param rows      rows
  * @param cols      columns
  * @param out       [inout] labelled table of numbers whose columns receive cols by cols; its counts stay
- * @param bCorr     correlations unless it is 0
+ * @param bCorr     not 0: correlations
  * @param iMissing  [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
  * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
- * @param bUndefinedIsZero what an undefined cell is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
+ * @param bUndefinedIsZero what an undefined cell is; true unless 0
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_CovCorr_ST(ST_MVect* x, int rows, int cols, ST_MVect* out, short int bCorr,
@@ -70,15 +70,15 @@ KORVEL_FLAT int Cpp_M_CovCorr_ST(ST_MVect* x, int rows, int cols, ST_MVect* out,
  * @param means     [out] cols means; missing for a column without rows
  * @param sds       [out] cols deviations: the root of a variance greater than 0, any other variance as it is
  * @param vars      [out] cols variances; missing for a column without rows
- * @param bCorr     correlations if it is -1
+ * @param bCorr     -1: correlations
  * @param iMissing  [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
  * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @param bCenter   -1: each number that is neither missing nor in a flagged row loses the mean of its column
  * @param bReduce   -1: it is divided by the deviation, after the mean is subtracted if bCenter asks for that;
  * a column whose variance is not greater than 0 stays as it is
- * @param bUndefinedIsZero what an undefined cell is
+ * @param bUndefinedIsZero what an undefined cell is; true unless 0
  * @return 0
  */
 KORVEL_FLAT int VB_M_CovCorrAndMeanStDevVar(double* x, int rows, int cols, double* out, double* means,
@@ -97,14 +97,14 @@ KORVEL_FLAT int VB_M_CovCorrAndMeanStDevVar(double* x, int rows, int cols, doubl
  * @param means     [out] cols means
  * @param sds       [out] cols deviations
  * @param vars      [out] cols variances
- * @param bCorr     correlations if it is -1
+ * @param bCorr     -1: correlations
  * @param iMissing  [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
  * @param w         [in] rows weights
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
- * @param bCenter   whether the table is centred
- * @param bReduce   whether it is reduced
- * @param bUndefinedIsZero what an undefined cell is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
+ * @param bCenter   -1: the table is centred
+ * @param bReduce   -1: it is reduced
+ * @param bUndefinedIsZero what an undefined cell is; true unless 0
  * @return 0
  */
 KORVEL_FLAT int VB_M_CovCorrVAndMeanStDevVar(double* x, int rows, int cols, double* out, double* means,

@@ -23,12 +23,12 @@
  * @param out       [out] colsX by colsY numbers
  * @param iMissing  [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
  * @param w         [in] rows weights
- * @param bCorr     0: covariances. Otherwise correlations, where the magnitude of the product of the
+ * @param bCorr     not 0: correlations, where the magnitude of the product of the
  * variances is greater than 1e-12; elsewhere the cell is undefined
- * @param bSquare   other than 0: correlations are squared
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
- * @param bUndefinedIsZero other than 0: an undefined cell is 0.0; otherwise it is missing
+ * @param bSquare   not 0: correlations are squared
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
+ * @param bUndefinedIsZero not 0: an undefined cell is 0.0; otherwise it is missing
  * @return 0
  */
 KORVEL_FLAT int VB_M_CorrMatMat(const double* x, int rows, int colsX, const double* y, int colsY, double* out,
@@ -47,12 +47,12 @@ KORVEL_FLAT int VB_M_CorrMatMat(const double* x, int rows, int colsX, const doub
  * @param out       [inout] host array of colsY columns that receive colsX numbers each
  * @param iMissing  [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
  * @param w         [in] rows weights
- * @param bCorr     0: covariances. Otherwise correlations, where the magnitude of the product of the
+ * @param bCorr     not 0: correlations, where the magnitude of the product of the
  * variances is greater than 1e-12; elsewhere the cell is undefined
- * @param bSquare   other than 0: correlations are squared
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
- * @param bUndefinedIsZero other than 0: an undefined cell is 0.0; otherwise it is missing
+ * @param bSquare   not 0: correlations are squared
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
+ * @param bUndefinedIsZero not 0: an undefined cell is 0.0; otherwise it is missing
  * @return 0
  */
 KORVEL_FLAT int VB_M_CorrMatMatSPV(Hostarray** x, int rows, int colsX, Hostarray** y, int colsY,

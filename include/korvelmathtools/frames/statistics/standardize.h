@@ -28,8 +28,8 @@
  * @param vars      [out] cols variances; may be null
  * @param iMissing  [in] rows flags; a row with a non-zero flag is left out; may be null, then none is
  * @param w         [in] rows weights; may be null, then all are 1
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_M_Standardize(double* x, int rows, int cols, double* out, double* means, double* sds,
@@ -43,7 +43,7 @@ KORVEL_FLAT int VB_M_Standardize(double* x, int rows, int cols, double* out, dou
  * @param n         number of elements
  * @param iMissing  [in] n flags; may be null
  * @param w         [in] n weights; may be null
- * @param bUnbiased whether the denominator is corrected
+ * @param bUnbiased whether the denominator is corrected; true only when -1
  * @param out       [out] n numbers; may be the array of x
  * @return 0
  */
@@ -57,7 +57,7 @@ KORVEL_FLAT int VB_V_Standardize(const double* x, int n, const short int* iMissi
  * @param n         number of elements
  * @param iMissing  [in] n flags; may be null
  * @param w         [in] n weights; may be null
- * @param bUnbiased whether the denominator is corrected
+ * @param bUnbiased whether the denominator is corrected; true only when -1
  * @return 0
  */
 KORVEL_FLAT int VB_V_Standardize2(double* x, int n, const short int* iMissing, const double* w,

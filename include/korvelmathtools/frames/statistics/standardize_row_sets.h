@@ -36,7 +36,7 @@ KORVEL_FLAT int VB_M_StandardizeMatrix(double* x, int rows, int cols, double* y,
  * @param groups       [in] rows group codes; a row with a code that is not from 1 to nGroups stays
  * @param nGroups      number of groups; below 1 nothing is done
  * @param bStandardize -1: each group is treated by VB_M_Standardize2; any other value: by VB_M_Center2
- * @param bUnbiased    whether the denominator is the number of cells less 1
+ * @param bUnbiased    whether the denominator is the number of cells less 1; true only when -1
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_StandardizeByGroup(double* x, int rows, int cols, const int* groups, int nGroups,

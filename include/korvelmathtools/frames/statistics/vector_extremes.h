@@ -127,7 +127,7 @@ KORVEL_FLAT int VB_V_MinMaxLng(const int* x, int n, double* min, double* max, co
  * @param n            number of elements; with none, element 1 reads as -1
  * @param min          [out] the smallest; missing when missing elements are passed over and there is no other
  * @param max          [out] the largest; in that case element 1
- * @param bSkipMissing 0: no element is passed over
+ * @param bSkipMissing not 0: missing elements are passed over
  * @return 0
  */
 KORVEL_FLAT int VB_V_MinMax2(const double* x, int n, double* min, double* max, short int bSkipMissing);
@@ -140,7 +140,7 @@ KORVEL_FLAT int VB_V_MinMax2(const double* x, int n, double* min, double* max, s
  * @param min          [out] the smallest, as a number; with no elements and bSkipMissing not 0 the missing
  * number
  * @param max          [out] the largest, as a number
- * @param bSkipMissing no integer is missing, so this matters only without elements
+ * @param bSkipMissing no integer is missing, so this matters only without elements; true unless 0
  * @return 0
  */
 KORVEL_FLAT int VB_V_MinMaxLng2(const int* x, int n, double* min, double* max, short int bSkipMissing);
@@ -151,7 +151,7 @@ KORVEL_FLAT int VB_V_MinMaxLng2(const int* x, int n, double* min, double* max, s
  * @param x     [in] n numbers
  * @param n     number of elements; below 2 only the first is read
  * @param pos   [out] the position, from 1
- * @param bLast of equal elements, not 0 takes the last, 0 the first
+ * @param bLast not 0: the last of equal elements; 0: the first
  * @return the element
  */
 KORVEL_FLAT double VB_V_MinAndMinPos(const double* x, int n, int* pos, short int bLast);

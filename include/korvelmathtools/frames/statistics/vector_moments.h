@@ -16,6 +16,10 @@
  * skewness and kurtosis are missing; when the variance is exactly 0, those four are; the standard errors then
  * stay 0.0.
  *
+ * Skewness and kurtosis are made from that variance, so they are those of the textbooks with bUnbiased 0;
+ * with -1 the formulas divide by the powers of the larger, unbiased variance, and the results are nearer to 0
+ * (the kurtosis before 3 is taken off).
+ *
  * @param x         [in] n numbers
  * @param n         number of elements
  * @param mean      [out] the mean

@@ -18,8 +18,8 @@
  * @param n         number of elements
  * @param iMissing  [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @param w         [in] n weights; a missing one is a number like any other
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return the variance; missing when the denominator is exactly 0. A negative denominator is divided by like
  * any other; when nothing is kept the result is missing unless unbiased, -0.0 with frequency weights, and a
  * NaN without
@@ -63,8 +63,8 @@ KORVEL_FLAT int VB_V_MeanVar(const double* x, int n, double* mean, double* var, 
  * @param w         [in] n weights; a missing one is a number like any other
  * @param mean      [out] the mean; 0.0 when there is no such element
  * @param var       [out] the variance: missing unless the denominator is greater than 0
- * @param bUnbiased whether the denominator is corrected
- * @param bFreq     how it is
+ * @param bUnbiased whether the denominator is corrected; true only when -1
+ * @param bFreq     how it is; true only when -1
  * @return 0
  */
 KORVEL_FLAT int Cpp_V_MeanVarW2(const double* x, int n, const double* w, double* mean, double* var,

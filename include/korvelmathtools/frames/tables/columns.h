@@ -20,7 +20,7 @@
  * @param yRows  rows of y; what would fall below is left out
  * @param yCols  columns of y; 0 stands for 1
  * @param colTo  the column of y; nothing is stored in one that it does not have
- * @param bReset other than 0: all other cells of y become 0
+ * @param bReset not 0: all other cells of y become 0
  * @return 0
  */
 KORVEL_FLAT int VB_CopyMatrixColToMatrixCol(const double* x, int rows, int cols, int col, double* y,
@@ -37,7 +37,7 @@ KORVEL_FLAT int VB_CopyMatrixColToMatrixCol(const double* x, int rows, int cols,
  * @param yRows  rows of y
  * @param yCols  columns of y; 0 stands for 1. What would fall to the right is left out
  * @param rowTo  the row of y; nothing is stored in one that it does not have
- * @param bReset other than 0: all other cells of y become 0
+ * @param bReset not 0: all other cells of y become 0
  * @return 0
  */
 KORVEL_FLAT int VB_CopyMatrixRowToMatrixRow(const double* x, int rows, int cols, int row, double* y,

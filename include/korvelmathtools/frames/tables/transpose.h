@@ -13,7 +13,7 @@
  * @param x    [in] rows by cols numbers
  * @param rows rows of x
  * @param cols columns of x
- * @param y    [out] cols by rows numbers; may be x. With rows 0, cols zeros are written
+ * @param y    [out] cols by rows numbers; may be x
  * @return 0
  */
 KORVEL_FLAT int VB_M_Transpose(const double* x, int rows, int cols, double* y);
@@ -29,15 +29,14 @@ KORVEL_FLAT int VB_M_TransposeLng(const int* x, int rows, int cols, int* y);
  * Transposes a table of texts.
  *
  * @like VB_M_Transpose, texts for numbers
- * @param y    [inout] cols by rows texts, replaced where they differ; may be x. With rows 0, cols texts are
- * emptied
+ * @param y    [inout] cols by rows texts, replaced where they differ; may be x
  */
 KORVEL_FLAT int VB_M_TransposeStr(OLECHAR* const* x, int rows, int cols, OLECHAR** y);
 
 /**
  * Transposes a table of numbers in place.
  *
- * @param x    [inout] rows by cols numbers; cols by rows on return. With rows 0, cols zeros are written
+ * @param x    [inout] rows by cols numbers; cols by rows on return
  * @param rows rows of x
  * @param cols columns of x
  * @return 0
@@ -54,8 +53,7 @@ KORVEL_FLAT int VB_M_Transpose2Lng(int* x, int rows, int cols);
 /**
  * Transposes a table of texts in place.
  *
- * @param x    [inout] rows by cols texts, replaced where they differ; cols by rows on return. With rows 0,
- * cols texts are emptied
+ * @param x    [inout] rows by cols texts, replaced where they differ; cols by rows on return
  * @param rows rows of x
  * @param cols columns of x
  * @return 0

@@ -1,0 +1,162 @@
+#include "missing/missing_cells.h"
+
+#include "support/bits.h"
+#include "support/random_cells.h"
+
+#include <algorithm>
+#include <vector>
+
+using namespace korvel::test;
+
+namespace
+{
+
+constexpr double missing = MISSING_DBL;
+using numbers = std::vector<double>;
+using ints = std::vector<int>;
+
+/** What a change makes of a table of 2 rows. */
+template <class Change>
+numbers changed(numbers cells, Change change)
+{
+    matrix<double> x(2, static_cast<int>(cells.size()) / 2, cells.data(), true);
+    change(&x);
+    return cells;
+}
+
+const numbers square{1, missing, missing, 4};
+
+} // namespace
+
+TEST(MissingCells, TakeAValue)
+{
+    EXPECT_EQ(changed(square, [](auto* x) { M_ReplaceMissingByVal(x, 2, 2, 7); }), (numbers{1, 7, 7, 4}));
+    EXPECT_EQ(changed(square, [](auto* x) { M_ReplaceMissingByVal(x, 1, 2, 7); }),
+              (numbers{1, missing, 7, 4}));
+    EXPECT_EQ(changed(square, [](auto* x) { M_ReplaceMissingByVal(x, 2, 1, 7); }),
+              (numbers{1, 7, missing, 4}));
+    EXPECT_EQ(changed(square, [](auto* x) { M_ReplaceMissingByVal(x, 0, 2, 7); }), square);
+    EXPECT_EQ(changed({belowSentinel, -infinite}, [](auto* x) { M_ReplaceMissingByVal(x, 2, 1, 7); }),
+              (numbers{belowSentinel, -infinite}));
+    std::vector<text> words{u"a", u"", u"", u"d"};
+    matrix<text> texts(2, 2, words.data());
+    M_ReplaceMissingByStr(&texts, 2, 1, u"none");
+    EXPECT_EQ(words, (std::vector<text>{u"a", u"none", u"", u"d"}));
+}
+
+TEST(MissingCells, TakeAValueInChunksAndTriangles)
+{
+    auto first = vectorOf<double>({missing, missing});
+    auto second = vectorOf<double>({missing, missing});
+    matrix<double>* chunks[]{&first, &second};
+    M_ReplaceMissingByValSPV_T(chunks, 2, 2, 7);
+    EXPECT_TRUE(sameBits(second.data[1], missing)) << "the second has one cell";
+    EXPECT_TRUE(sameBits(first.data[1], 7));
+    EXPECT_TRUE(sameBits(second.data[0], 7));
+    M_ReplaceMissingByValSPV(chunks, 2, 2, 8);
+    EXPECT_TRUE(sameBits(second.data[1], 8));
+    matrix3D<matrix<double>> table(2, 2, 2, missing);
+    M_ReplaceMissingByValSPV_T(&table, 2, 2, 3);
+    EXPECT_TRUE(sameBits(table.getElement(1, 1), missing));
+    M_ReplaceMissingByValSPV(&table, 2, 2, 4);
+    EXPECT_TRUE(sameBits(table.getElement(1, 1), 4));
+    EXPECT_TRUE(sameBits(table.getElement(0, 1), 3));
+}
+
+TEST(MissingCells, LeaveTheSpareSlotAsCheckedStoresDo)
+{
+    auto x = vectorOf<double>({missing, 2, missing, 4});
+    M_ReplaceMissingByVal(&x, 4, 1, 7);
+    EXPECT_TRUE(sameBits(x.oobValue, 7)) << "the last value stored";
+    auto none = vectorOf<double>({1, 2});
+    M_ReplaceMissingByVal(&none, 2, 1, 7);
+    EXPECT_TRUE(sameBits(none.oobValue, -1)) << "nothing was stored";
+    M_ReplaceMissingByVal(&x, 6, 2, 9);
+    EXPECT_TRUE(sameBits(x.oobValue, 7)) << "what is outside is not missing";
+    EXPECT_TRUE(std::equal(x.data, x.data + 4, numbers{7, 2, 7, 4}.begin()));
+}
+
+TEST(MissingCells, AreMadeWhereAMarkStands)
+{
+    const numbers cells{1, 2, 3, 4, 5, 6};
+    struct given {
+        ints marks;
+        int columns;
+        int value;
+        short int wholeRow;
+        numbers expected;
+    };
+    for (const given& table : std::vector<given>{
+             {{0, 1, 0, 0, 0, 0}, 3, 1, 0, {1, missing, 3, 4, 5, 6}},
+             {{0, 1, 0, 0, 0, 0}, 3, 1, 1, {1, missing, 3, 4, 5, 6}},
+             {{0, 1, 0, 0, 0, 0}, 3, 1, -1, {1, missing, 3, missing, 5, missing}},
+             {{0, 0, 5, 0, 0, 5}, 3, 5, 0, {1, 2, missing, 4, 5, missing}},
+             {{0, 0, 5, 0, 0, 5}, 2, 5, 0, {1, 2, missing, 4, 5, 6}},
+             {{0, 0, 5, 0, 0, 0}, 2, 5, -1, {missing, 2, missing, 4, missing, 6}},
+             {{1, 1, 1, 1, 1, 1}, 3, 2, -1, cells},
+         }) {
+        numbers marked = cells;
+        ints marks = table.marks;
+        matrix<double> x(2, 3, marked.data(), true);
+        matrix<int> m(2, 3, marks.data(), true);
+        M_ReplaceByMissingIfVal(&x, 2, 3, &m, table.columns, table.value, table.wholeRow);
+        EXPECT_EQ(marked, table.expected);
+        if (table.value == 1) {
+            marked = cells;
+            M_ReplaceByMissing(&x, 2, 3, &m, table.columns, table.wholeRow);
+            EXPECT_EQ(marked, table.expected);
+        }
+        EXPECT_EQ(marks, table.marks);
+    }
+}
+
+TEST(MissingCells, AreMarked)
+{
+    numbers cells = square;
+    matrix<double> x(2, 2, cells.data(), true);
+    ints marks{5, 5, 5, 5};
+    matrix<int> m(2, 2, marks.data(), true);
+    M_IdentifyMissingInMat(&x, 2, 2, &m);
+    EXPECT_EQ(marks, (ints{5, 1, 1, 5}));
+    auto first = vectorOf<double>({missing, 2});
+    auto second = vectorOf<double>({3, 4});
+    matrix<double>* chunks[]{&first, &second};
+    M_IdentifyMissingInMatSPV(chunks, 2, 2, &m);
+    EXPECT_EQ(marks, (ints{1, 1, 1, 5}));
+}
+
+TEST(MissingCells, LoseTheirWeight)
+{
+    numbers cells = square;
+    matrix<double> x(2, 2, cells.data(), true);
+    for (const int mode : {0, 2, -1}) {
+        numbers weights{5, 6, 7, 8};
+        matrix<double> w(2, 2, weights.data(), true);
+        M_SetWeightsToZeroForMissing(&x, 2, 2, &w, mode);
+        EXPECT_EQ(weights, (numbers{5, 0, 0, 8})) << "cell by cell";
+    }
+    numbers weights{5, 6};
+    matrix<double> w(2, 1, weights.data(), true);
+    M_SetWeightsToZeroForMissing(&x, 2, 1, &w, 1);
+    EXPECT_EQ(weights, (numbers{5, 0}));
+    M_SetWeightsToZeroForMissing(&x, 2, 2, &w, 1);
+    EXPECT_EQ(weights, (numbers{0, 0})) << "row by row";
+}
+
+TEST(MissingCells, EqualThePlainLoop)
+{
+    forRandomVectors([](random_cells& cells, int n, int held) {
+        auto x = cells.values(held);
+        auto plain = matrix<double>(x);
+        for (int i = 0; i < n; ++i) {
+            if (plain.getElement(i, 0) == missing) {
+                plain.setElement(i, 0, 0.5);
+            }
+        }
+        M_ReplaceMissingByVal(&x, n, 1, 0.5);
+        for (int i = 0; i < held; ++i) {
+            EXPECT_TRUE(sameBits(x.data[i], plain.data[i]));
+        }
+        EXPECT_TRUE(sameBits(x.oobValue, plain.oobValue));
+    });
+}
