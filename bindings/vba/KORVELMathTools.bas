@@ -770,10 +770,10 @@ Public Declare PtrSafe Function VB_SortQDbl Lib "KORVELMathTools.dll" ( _
     ByVal toValue As Long, ByRef key As Double, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
-' Orders the rows of a table of numbers by a key, in the caller's arrays.
+' Orders the rows of a table of numbers by a key, in the caller's arrays. aux (Double) may be null.
 Public Declare PtrSafe Function VB_SortQDbl2 Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal from As Long, _
-    ByVal toValue As Long, ByRef key As Double, ByRef aux As Double, ByVal auxCols As Long, _
+    ByVal toValue As Long, ByRef key As Double, ByRef aux As Any, ByVal auxCols As Long, _
     ByVal bDesc As Integer, ByVal bSortKey As Integer) As Long
 
 ' Orders the columns of a table of numbers by a key with one entry a column: the column of rank k,

@@ -52,17 +52,17 @@ void M_ProductABC(matrix<double>* A, int n, int p, matrix<double>* B, int q, mat
 void M_ProductTrABC(matrix<double>* A, int n, int p, matrix<double>* B, int q, matrix<double>* C, int r,
                     matrix<double>* D)
 {
-    matrix<double> T(std::max(p, 0), q, 0.0);
-    formProduct(down(*A, p), down(*B, q), n, T);
-    formProduct(along(T, p), down(*C, r), q, *D);
+    matrix<double> between(std::max(p, 0), q, 0.0);
+    formProduct(down(*A, p), down(*B, q), n, between);
+    formProduct(along(between, p), down(*C, r), q, *D);
 }
 
 void M_ProductATrBC(matrix<double>* A, int n, int p, matrix<double>* B, int q, matrix<double>* C, int r,
                     matrix<double>* D)
 {
-    matrix<double> T(std::max(n, 0), q, 0.0);
-    formProduct(along(*A, n), along(*B, q), p, T);
-    formProduct(along(T, n), down(*C, r), q, *D);
+    matrix<double> between(std::max(n, 0), q, 0.0);
+    formProduct(along(*A, n), along(*B, q), p, between);
+    formProduct(along(between, n), down(*C, r), q, *D);
 }
 
 void M_ProductTrABV(matrix<double>* A, int n, int p, matrix<double>* B, int q, matrix<double>* v,

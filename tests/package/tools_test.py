@@ -298,9 +298,9 @@ KORVEL_FLAT double VB_SumLng(const int* x, int n, const short int* flags);
                     """\
                     Sums integers.
 
-                    - `x` [in]: n integers
+                    - `x` [in, not null]: n integers
                     - `n`: length of x
-                    - `flags` [in]: n flags; Null: none is set
+                    - `flags` [in, may be null]: n flags; Null: none is set
                     - Result: the sum
                     """
                 )

@@ -18,6 +18,7 @@
 #define KORVEL_FRAMES_TYPES_H
 
 #include "containers/caller_records.h"
+#include "containers/missing_values.h"
 #include "platform/automation.h"
 #include "platform/export.h"
 

@@ -1,4 +1,5 @@
 #include "korvelmathtools/KORVELMathTools.h"
+#include "support/caller_memory.h"
 #include "support/guarded.h"
 #include "support/special_values.h"
 

@@ -36,8 +36,9 @@ KORVEL_FLAT int VB_SortQDbl(double* x, int rows, int cols, int from, int to, dou
  * the table's own address, the key is the table's first column, and the columns from the second on move.
  *
  * @like VB_SortQDbl
- * @param aux      [inout] rows by auxCols numbers, moved along unless it is the key or the table itself
- * @param auxCols  columns of aux; 0 counts as 1, below 0 aux is left alone
+ * @param aux      [inout] rows by auxCols numbers, moved along unless it is the key or the table itself; may
+ * be null when auxCols is below 0
+ * @param auxCols  columns of aux; 0 counts as 1, so there must be one; below 0 there is none
  */
 KORVEL_FLAT int VB_SortQDbl2(double* x, int rows, int cols, int from, int to, double* key, double* aux,
                              int auxCols, short int bDesc, short int bSortKey);

@@ -1,52 +1,32 @@
-// Beside R 4.2.2, on the first twelve rows of its data set airquality, printed with "%.17g":
+// Beside R 4.2.2, printed with "%.17g":
 //     a <- as.matrix(airquality[1:12, 1:4]); w <- rep(1:3, 4); b <- a[rep(1:12, w), ]
 // Figures agree to the digits that are asserted; bits differ, since R takes two passes.
 
 #include "statistics/column_deviations.h"
 #include "statistics/covariance.h"
 #include "statistics/cross_covariance.h"
-#include "statistics/distances.h"
+#include "support/air_quality.h"
 #include "support/random_cells.h"
 
-#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <vector>
 
-using korvel::test::vectorOf;
+using namespace korvel::test;
 
 namespace
 {
 
-constexpr double gone = MISSING_DBL;
-constexpr int rows = 12;
-
-matrix<double> airQuality()
-{
-    std::array cells{41.0,  36.0,  12.0,  18.0,  gone, 28.0, 23.0,  19.0, 8.0,  gone,  7.0,  16.0,
-                     190.0, 118.0, 149.0, 313.0, gone, gone, 299.0, 99.0, 19.0, 194.0, gone, 256.0,
-                     7.4,   8.0,   12.6,  11.5,  14.3, 14.9, 8.6,   13.8, 20.1, 8.6,   6.9,  9.7,
-                     67.0,  72.0,  74.0,  62.0,  56.0, 66.0, 65.0,  59.0, 61.0, 69.0,  74.0, 69.0};
-    return matrix<double>(rows, 4, cells.data(), false);
-}
+constexpr int rows = airQualityRows;
 
 matrix<double> repetitions()
 {
     return vectorOf<double>({1, 2, 3, 1, 2, 3, 1, 2, 3, 1, 2, 3});
 }
 
-/** Each figure to 14 digits of the largest one that it could be mixed up with. */
-void expectNear(const matrix<double>& found, const std::vector<double>& expected, double scale)
-{
-    ASSERT_EQ(found.nbElem, expected.size());
-    for (std::size_t k = 0; k < expected.size(); ++k) {
-        EXPECT_NEAR(found.data[k], expected[k], 1e-14 * scale) << k;
-    }
-}
-
 } // namespace
 
-TEST(ColumnReference, PairwiseCovariances) // cov(a, use = "pairwise.complete.obs")
+TEST(CovarianceReference, PairwiseCovariances) // cov(a, use = "pairwise.complete.obs")
 {
     auto x = airQuality();
     matrix<double> out;
@@ -61,7 +41,7 @@ TEST(ColumnReference, PairwiseCovariances) // cov(a, use = "pairwise.complete.ob
                10000.0);
 }
 
-TEST(ColumnReference, PairwiseCorrelationsOverCommonRows) // cor(a, use = "pairwise.complete.obs")
+TEST(CovarianceReference, PairwiseCorrelationsOverCommonRows) // cor(a, use = "pairwise.complete.obs")
 {
     auto x = airQuality();
     matrix<double> out;
@@ -74,7 +54,8 @@ TEST(ColumnReference, PairwiseCorrelationsOverCommonRows) // cor(a, use = "pairw
                1.0);
 }
 
-TEST(ColumnReference, CorrelationsWithTheVariancesOfWholeColumns) // cov / sqrt(outer(v, v)), v <- diag(cov)
+TEST(CovarianceReference,
+     CorrelationsWithTheVariancesOfWholeColumns) // cov / sqrt(outer(v, v)), v <- diag(cov)
 {
     auto x = airQuality();
     matrix<double> out;
@@ -87,7 +68,7 @@ TEST(ColumnReference, CorrelationsWithTheVariancesOfWholeColumns) // cov / sqrt(
                 1e-14);
 }
 
-TEST(ColumnReference, WeightsAsRepetitions) // cov(b, use = "pairwise.complete.obs"), colMeans, sd
+TEST(CovarianceReference, WeightsAsRepetitions) // cov(b, use = "pairwise.complete.obs"), colMeans, sd
 {
     auto x = airQuality();
     auto w = repetitions();
@@ -113,7 +94,7 @@ TEST(ColumnReference, WeightsAsRepetitions) // cov(b, use = "pairwise.complete.o
     expectNear(sds, expectedSds, 100.0);
 }
 
-TEST(ColumnReference, WeightedCovariances) // cov.wt(a[, 3:4], w / sum(w), method = "ML", cor = TRUE)
+TEST(CovarianceReference, WeightedCovariances) // cov.wt(a[, 3:4], w / sum(w), method = "ML", cor = TRUE)
 {
     auto x = airQuality();
     matrix<double> complete(rows, 2, x.data + 2 * rows, true);
@@ -128,21 +109,4 @@ TEST(ColumnReference, WeightedCovariances) // cov.wt(a[, 3:4], w / sum(w), metho
     matrix<double> wind(rows, 1, x.data + 2 * rows, true);
     matrix<double> temperature(rows, 1, x.data + 3 * rows, true);
     EXPECT_NEAR(V_Correl2W(&wind, rows, &temperature, &w), -0.61019320282993217, 1e-14);
-}
-
-TEST(ColumnReference, Distances) // dist(t(a[, 3:4])), dist(a[1:4, ])
-{
-    auto x = airQuality();
-    matrix<double> complete(rows, 2, x.data + 2 * rows, true);
-    matrix<double> ones(rows, 1, 1.0);
-    matrix<double> ofColumns(2, 2, 9.0);
-    M_EuclidDist2(&complete, rows, 2, &ones, &ofColumns, 0, 0);
-    expectNear(ofColumns, {0, 192.04775447789021, 192.04775447789021, 0}, 1000.0);
-    matrix<double> ofRows(4, 4, 9.0);
-    M_EuclidDist2(&x, rows, 4, &ones, &ofRows, -1, 4);
-    expectNear(ofRows,
-               {0, 72.348876978153569, 50.970972131204249, 125.29888267658255, 72.348876978153569, 0,
-                39.524169820503502, 196.11539970129832, 50.970972131204249, 39.524169820503502, 0,
-                164.55154207724703, 125.29888267658255, 196.11539970129832, 164.55154207724703, 0},
-               1000.0);
 }
