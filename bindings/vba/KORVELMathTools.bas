@@ -64,6 +64,45 @@ Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
     ByVal src As LongPtr, ByVal dst As LongPtr) As Long
 
+' ---- linalg/cholesky.h
+
+' Cholesky decomposition.
+Public Declare PtrSafe Function VB_M_CholDecomp Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef l As Double) As Long
+
+' Cholesky decomposition with rows and columns exchanged alike.
+Public Declare PtrSafe Function VB_M_CholDecompPrinc Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef l As Double, ByRef perm As Long, _
+    ByVal replaceInput As Integer) As Long
+
+' ---- linalg/constraint_cleaning.h
+
+' The determinant of the free rows and columns.
+Public Declare PtrSafe Function VB_M_DeterminantCleaned Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef constraints As Long, ByRef status As Integer) As Double
+
+' The determinant of the free rows and columns of a symmetric table, held as a triangle.
+Public Declare PtrSafe Function Cpp_M_DeterminantCleanedSPV_T Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByRef constraints As Long, ByRef status As Integer) As Double
+
+' Cholesky factor of the free rows and columns.
+Public Declare PtrSafe Function VB_M_CholDecompCleaned Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef constraints As Long, ByRef l As Double) As Long
+
+' ---- linalg/determinants.h
+
+' The determinant, as the exponential of the logarithms of the pivots of an LU decomposition.
+Public Declare PtrSafe Function VB_M_Determinant Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef status As Integer) As Double
+
+' The logarithm of the determinant.
+Public Declare PtrSafe Function Cpp_M_LogDeterminant Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long) As Double
+
+' The determinant of a triangular table: the product of its diagonal, by logarithms.
+Public Declare PtrSafe Function VB_M_DeterminantTriang Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef status As Integer) As Double
+
 ' ---- linalg/diagonal_scaling.h
 
 ' c(i, k) = a(i, k) * d(k, k).
@@ -128,6 +167,13 @@ Public Declare PtrSafe Function Cpp_SumMat Lib "KORVELMathTools.dll" ( _
 ' x(i, j) = x(i, j) * s.
 Public Declare PtrSafe Function Cpp_MultiplyByVal Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal s As Double) As Long
+
+' ---- linalg/lu.h
+
+' LU decomposition, in place: a, with its rows swapped, is l * u with 1 on the diagonal of l.
+Public Declare PtrSafe Function VB_M_LUDecomp Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef pivots As Long, ByRef sign As Double, _
+    ByRef status As Integer) As Long
 
 ' ---- linalg/products.h
 
