@@ -130,6 +130,15 @@ Public Declare PtrSafe Function VB_M_ProductDiagV1ADiagV2 Lib "KORVELMathTools.d
 Public Declare PtrSafe Function VB_M_ProductTrADiagV Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef c As Double) As Long
 
+' ---- linalg/eigenvalue_filter.h
+
+' Drops small eigenvalues from the end, takes each one's share of the sum of those that are left,
+' and counts how many of the leading ones satisfy all bounds.
+Public Declare PtrSafe Function VB_FilterEigen Lib "KORVELMathTools.dll" ( _
+    ByRef values As Double, ByVal n As Long, ByVal dropTail As Integer, ByVal threshold As Double, _
+    ByVal cumulativePercent As Double, ByVal maxCount As Long, ByVal minValue As Double, _
+    ByRef kept As Long, ByRef retained As Long, ByRef percents As Double) As Long
+
 ' ---- linalg/element_wise.h
 
 ' c(i, j) = s * a(i, j); a missing cell stays missing.
@@ -343,6 +352,19 @@ Public Declare PtrSafe Function VB_M_FrobeniusNorm Lib "KORVELMathTools.dll" ( _
 ' The row sum norm: the largest sum of magnitudes of a row.
 Public Declare PtrSafe Function Cpp_M_RowSumNorm Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByVal m As Long) As Double
+
+' ---- linalg/symmetric_eigen.h
+
+' Eigenvalues and eigenvectors of a symmetric table.
+Public Declare PtrSafe Function VB_M_Eigen Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByRef values As Double, ByRef vectors As Double, ByVal n As Long, _
+    ByVal sortFlag As Integer) As Long
+
+' Eigenvalues and eigenvectors of a symmetric table, of which each column is held from the diagonal
+' down.
+Public Declare PtrSafe Function Cpp_M_EigenSPV_T Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByRef values As Double, ByVal vectors As LongPtr, ByVal n As Long, _
+    ByVal sortFlag As Integer) As Long
 
 ' ---- linalg/vector_products.h
 
