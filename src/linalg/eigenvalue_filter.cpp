@@ -16,7 +16,10 @@ int lengthWithoutTail(matrix<double>& values, int n, bool drop, double threshold
 {
     int k = n;
     // A value is read anew at each look, so that a compiler may not take the endless loop for one that ends.
-    const auto last = [&values, &k]() -> volatile double& { return values[k - 1]; };
+    const auto last = [&values, &k ]() -> volatile double&
+    {
+        return values[k - 1];
+    };
     while (k > 1 && last() < threshold) {
         if (drop) {
             --k;

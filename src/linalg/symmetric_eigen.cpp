@@ -58,9 +58,9 @@ template <class View>
 int decompose(const View& vectors, matrix<double>& values, int n, short int sortFlag, int tooMany)
 {
     std::vector<double> e(static_cast<std::size_t>(std::max(n, 0)));
-    const bool converged = withCells(
-        [&](auto& a, auto& d) { return korvel::decomposeSymmetric(a, d, e.data(), n, tooMany); },
-        vectors.table(n, n), korvel::writeVector(values, n));
+    const bool converged =
+        withCells([&](auto& a, auto& d) { return korvel::decomposeSymmetric(a, d, e.data(), n, tooMany); },
+                  vectors.table(n, n), korvel::writeVector(values, n));
     if (!converged) {
         return failure;
     }
@@ -190,8 +190,8 @@ int M_EigenDestroySPV(matrix3D<matrix<double>>* A, matrix<double>*& values, int 
     return decompose(writing(*A), *values, n, sortFlag, korvel::sweepsTooMany);
 }
 
-int M_EigenSPV_T(matrix3D<matrix<double>>* A, matrix<double>* values, matrix3D<matrix<double>>* vectors, int n,
-                 short int sortFlag)
+int M_EigenSPV_T(matrix3D<matrix<double>>* A, matrix<double>* values, matrix3D<matrix<double>>* vectors,
+                 int n, short int sortFlag)
 {
     const auto triangle = reading(*A);
     for (int j = 0; j < n; ++j) {

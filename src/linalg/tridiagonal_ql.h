@@ -1,7 +1,7 @@
 /**
  * @file
- * The steps of the symmetric eigen decomposition on a table of cells that are read by `get(i, j)` and stored by
- * `set(i, j, value)`: whatever form the table has. `d` is read and stored by `d[i]` and `d.set(i, value)`.
+ * The steps of the symmetric eigen decomposition on a table of cells that are read by `get(i, j)` and stored
+ * by `set(i, j, value)`: whatever form the table has. `d` is read and stored by `d[i]` and `d.set(i, value)`.
  */
 #ifndef KORVEL_LINALG_TRIDIAGONAL_QL_H
 #define KORVEL_LINALG_TRIDIAGONAL_QL_H
@@ -19,8 +19,8 @@ inline constexpr int sweepsTooMany = 29;
 inline constexpr int sweepsTooManyOfTriangle = 30;
 
 /**
- * Householder reduction of the lower triangle. Leaves in row i the reflector of step i and in column i the same
- * divided by its `d[i]`, which is 0 where nothing was to be reflected; in `e[i]` the element beside the
+ * Householder reduction of the lower triangle. Leaves in row i the reflector of step i and in column i the
+ * same divided by its `d[i]`, which is 0 where nothing was to be reflected; in `e[i]` the element beside the
  * diagonal.
  */
 template <class Cells, class Vector>
@@ -99,7 +99,8 @@ void accumulateReflectors(Cells& a, Vector& d, double* e, int n)
     }
 }
 
-/** One QL sweep over the rows `l` to `m` with an implicit shift; `rotate(i, c, s)` turns columns i and i + 1. */
+/** One QL sweep over the rows `l` to `m` with an implicit shift; `rotate(i, c, s)` turns columns i and i + 1.
+ */
 template <class Vector, class Rotate>
 void sweepUp(Vector& d, double* e, int l, int m, Rotate rotate)
 {

@@ -157,7 +157,8 @@ TEST(SymmetricEigen, EveryFormHasTheBitsOfThePlainLoops)
 
 TEST(SymmetricEigen, OddCellsGoThroughThePlainLoops)
 {
-    constexpr double odd[] = {0.0, -0.0, 1e-18, 5e-324, 1e200, -1e200, 1e308, notANumber, infinite, -infinite};
+    constexpr double odd[] = {0.0,    -0.0,  1e-18,      5e-324,   1e200,
+                              -1e200, 1e308, notANumber, infinite, -infinite};
     for (unsigned seed = 1; seed <= 60; ++seed) {
         const int n = 2 + static_cast<int>(seed % 13);
         matrix<double> A = symmetricTable(n, seed);
@@ -400,8 +401,8 @@ TEST(SymmetricEigen, ATinyTableIsItsOwnTridiagonalForm)
 
 TEST(SymmetricEigen, ScaledResidualsAreThoseOfASoundMethod)
 {
-    // The thresholds are LAPACK's own: 30 for both. Only tables of tiny cells are out of reach of the bound for
-    // off-diagonal elements.
+    // The thresholds are LAPACK's own: 30 for both. Only tables of tiny cells are out of reach of the bound
+    // for off-diagonal elements.
     for (const matrix_kind kind : allMatrixKinds) {
         for (const int n : matrixOrders) {
             SCOPED_TRACE(::testing::Message() << kind << " of order " << n);
@@ -419,8 +420,8 @@ TEST(SymmetricEigen, ScaledResidualsAreThoseOfASoundMethod)
 
 TEST(SymmetricEigen, ValuesOfOtherPrograms)
 {
-    // The roots of the characteristic polynomials, formed in fractions and solved in 60 digits; R 4.2.2 agrees
-    // to 3e-14.
+    // The roots of the characteristic polynomials, formed in fractions and solved in 60 digits; R 4.2.2
+    // agrees to 3e-14.
     const std::vector<double> hilbert{1.5670506910982307955, 0.20853421861101333590, 0.011407491623419806559,
                                       0.00030589804015119172688, 3.2879287721718629571e-06};
     const outcome h = denseForm(tableOfKind(matrix_kind::hilbert, 5, 5, true), 5, -1);
@@ -456,7 +457,8 @@ TEST(SymmetricEigen, ResultsMayBeBorrowedTablesOfAnyShape)
     matrix<double> vectors(9, 7, block.data(), true);
     ASSERT_EQ(M_Eigen(A, values, vectors, 6, -1), 0);
     for (int k = 1; k <= 6; ++k) {
-        EXPECT_SAME_BITS(places[static_cast<std::size_t>(k - 1)], expected.values[static_cast<std::size_t>(k)]);
+        EXPECT_SAME_BITS(places[static_cast<std::size_t>(k - 1)],
+                         expected.values[static_cast<std::size_t>(k)]);
         for (int i = 1; i <= 6; ++i) {
             EXPECT_SAME_BITS(vectors.getElement(i - 1, k - 1), expected.vector(i, k));
         }

@@ -27,7 +27,8 @@ struct plain_eigen {
     [[nodiscard]] double vector(int i, int k) const { return vectors[place(i, k)]; }
     [[nodiscard]] std::size_t place(int i, int j) const
     {
-        return static_cast<std::size_t>(i - 1) + static_cast<std::size_t>(n) * static_cast<std::size_t>(j - 1);
+        return static_cast<std::size_t>(i - 1) +
+               static_cast<std::size_t>(n) * static_cast<std::size_t>(j - 1);
     }
 };
 

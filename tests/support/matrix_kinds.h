@@ -1,7 +1,7 @@
 /**
  * @file
- * Tables of the kinds that decompositions are tested on: of random cells, with a spectrum of one's own that is
- * graded, clustered or short of rank, ill-conditioned, zero, diagonal, tiny and huge.
+ * Tables of the kinds that decompositions are tested on: of random cells, with a spectrum of one's own that
+ * is graded, clustered or short of rank, ill-conditioned, zero, diagonal, tiny and huge.
  */
 #ifndef KORVEL_TESTS_SUPPORT_MATRIX_KINDS_H
 #define KORVEL_TESTS_SUPPORT_MATRIX_KINDS_H
@@ -21,10 +21,10 @@ namespace korvel::test
 
 enum class matrix_kind { random, graded, clustered, hilbert, deficient, zero, diagonal, tiny, huge };
 
-inline constexpr std::array allMatrixKinds{matrix_kind::random,    matrix_kind::graded, matrix_kind::clustered,
-                                           matrix_kind::hilbert,   matrix_kind::deficient,
-                                           matrix_kind::zero,      matrix_kind::diagonal, matrix_kind::tiny,
-                                           matrix_kind::huge};
+inline constexpr std::array allMatrixKinds{
+    matrix_kind::random,   matrix_kind::graded,    matrix_kind::clustered,
+    matrix_kind::hilbert,  matrix_kind::deficient, matrix_kind::zero,
+    matrix_kind::diagonal, matrix_kind::tiny,      matrix_kind::huge};
 
 /** The orders that they are tested with. */
 inline constexpr std::array matrixOrders{0, 1, 2, 3, 5, 10, 50, 200};
@@ -93,7 +93,8 @@ inline double spectrumOf(matrix_kind kind, int k, int count)
     }
 }
 
-/** Random orthogonal times diagonal times random orthogonal; one is the other's transpose when `symmetric`. */
+/** Random orthogonal times diagonal times random orthogonal; one is the other's transpose when `symmetric`.
+ */
 inline matrix<double> tableWithSpectrum(std::mt19937_64& generator, matrix_kind kind, int rows, int cols,
                                         bool symmetric)
 {

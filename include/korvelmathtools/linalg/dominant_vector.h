@@ -16,8 +16,8 @@
  * 1000 steps. Where x is missing, so is λx, and where y is missing, so is the new x; a difference is then one
  * of the missing value as a number.
  *
- * The vector is not brought to unit length, and λ is not returned. When λ is 0 all becomes infinite or NaN, and
- * the iteration goes on through its 1000 steps.
+ * The vector is not brought to unit length, and λ is not returned. When λ is 0 all becomes infinite or NaN,
+ * and the iteration goes on through its 1000 steps.
  *
  * @param A the table, `n` by `n`; not null, not changed. It need not be symmetric
  * @param x receives the vector, `n` by 1: first given that shape; not null, not `A`

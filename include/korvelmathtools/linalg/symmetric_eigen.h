@@ -31,8 +31,8 @@
  *
  * @param A        symmetric, `n` by `n`; neither of the results
  * @param values   receives the eigenvalues, `n` by 1: first given that shape
- * @param vectors  receives the eigenvector of value k in column k, `n` by `n`: first given that shape. What its
- *                 spare slot holds afterwards has no meaning
+ * @param vectors  receives the eigenvector of value k in column k, `n` by `n`: first given that shape. What
+ * its spare slot holds afterwards has no meaning
  * @param n        order. 0 leaves both results empty
  * @param sortFlag -1 sorts the values; any other value, 1 too, does not
  * @return 0; or -1 when an element is missing (then the results are as they were), when a value did not
@@ -48,7 +48,8 @@ KORVEL_API int M_Eigen(matrix<double>* A, matrix<double>* values, matrix<double>
 
 /**
  * The same for a sparse table. Each element that is stored on the way follows the rule of
- * `matrixSparse::setElement`: one of a magnitude below 1e-18 becomes 0. The work takes place in a dense table.
+ * `matrixSparse::setElement`: one of a magnitude below 1e-18 becomes 0. The work takes place in a dense
+ * table.
  *
  * @param A        symmetric, `n` by `n`; not null
  * @param values   as for a dense table; not null
@@ -65,8 +66,8 @@ KORVEL_API int M_Eigen(matrixSparse* A, matrix<double>* values, matrixSparse* ve
  *
  * @param A        symmetric, `n` chunks of `n` elements; not null, not `vectors`
  * @param values   as for a dense table; not null
- * @param vectors  at least `n` chunks; not null. A chunk with too few elements is given `n` of them. The spare
- *                 slots have no meaning afterwards
+ * @param vectors  at least `n` chunks; not null. A chunk with too few elements is given `n` of them. The
+ * spare slots have no meaning afterwards
  * @param n        order
  * @param sortFlag -1 sorts the values; any other value does not
  * @return 0; or -1 when an element is missing (then the results are as they were) or a value did not converge

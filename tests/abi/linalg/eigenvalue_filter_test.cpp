@@ -26,9 +26,9 @@ TEST(FlatEigenvalueFilter, TheLastValueMayBecomeZeroInPlace)
     guarded percents({9.0, 9.0});
     guarded kept({9});
     guarded retained({9});
-    EXPECT_EQ(VB_FilterEigen(values.data(), 2, 0, 0.0, 0.0, 0, 0.0, kept.data(), retained.data(),
-                             percents.data()),
-              0);
+    EXPECT_EQ(
+        VB_FilterEigen(values.data(), 2, 0, 0.0, 0.0, 0, 0.0, kept.data(), retained.data(), percents.data()),
+        0);
     expectCells(values, {6, 0});
     EXPECT_EQ(valuesOf(kept)[0], 2);
 }
