@@ -11,7 +11,10 @@ std::span<const section> sections()
         section{"Numbers", location},
         section{"Range and quartiles", quartiles},
         section{"Shape", shape},
+        section{"Correlations, over the rows that neither column misses", correlations},
         section{"Texts", frequencies},
+        section{"Columns with missing cells", missingColumns},
+        section{"Rows with missing cells", missingRows},
     };
     return all;
 }

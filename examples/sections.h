@@ -33,8 +33,17 @@ text_table quartiles(data_set& data);
 /** The shape of each column's distribution, and the means other than the arithmetic one. */
 text_table shape(data_set& data);
 
+/** The correlation of each pair of columns over the rows that neither misses, and the count of these rows. */
+text_table correlations(data_set& data);
+
 /** The most frequent values of each column of texts. */
 text_table frequencies(data_set& data);
+
+/** How many cells each column misses; a column that misses none is left out. */
+text_table missingColumns(data_set& data);
+
+/** How many rows miss how many cells, and which; a row that misses none is left out. */
+text_table missingRows(data_set& data);
 
 } // namespace report
 

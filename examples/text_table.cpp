@@ -33,43 +33,67 @@ std::string blanks(std::size_t count)
     return std::string(count, ' ');
 }
 
-std::string padded(const std::string& text, std::size_t width)
+std::string filled(const std::string& text, std::size_t width)
 {
     return text + blanks(width - static_cast<std::size_t>(displayWidth(text)));
 }
 
 } // namespace
 
-void text_table::print(std::ostream& out) const
+std::vector<std::string> text_table::paddedColumn(std::size_t j) const
 {
-    std::vector<std::string> lines(rows_.size() + 1);
-    for (std::size_t j = 0; j < headings_.size(); ++j) {
-        const auto& [title, cells] = headings_[j];
-        parts widest{0, 0};
-        auto width = static_cast<std::size_t>(displayWidth(title));
+    const auto& [title, cells] = headings_[j];
+    parts widest{0, 0};
+    auto width = static_cast<std::size_t>(displayWidth(title));
+    for (const auto& row : rows_) {
+        const parts cell = partsOf(row[j]);
+        widest = {std::max(widest.before, cell.before), std::max(widest.after, cell.after)};
+        width = std::max(width, static_cast<std::size_t>(displayWidth(row[j])));
+    }
+    std::vector<std::string> padded;
+    if (cells == alignment::left) {
+        padded.push_back(filled(title, width));
+        for (const auto& row : rows_) {
+            padded.push_back(filled(row[j], width));
+        }
+    } else {
+        width = std::max(width, widest.before + widest.after);
+        padded.push_back(blanks(width - static_cast<std::size_t>(displayWidth(title))) + title);
         for (const auto& row : rows_) {
             const parts cell = partsOf(row[j]);
-            widest = {std::max(widest.before, cell.before), std::max(widest.after, cell.after)};
-            width = std::max(width, static_cast<std::size_t>(displayWidth(row[j])));
-        }
-        if (cells == alignment::left) {
-            lines[0] += "  " + padded(title, width);
-            for (std::size_t i = 0; i < rows_.size(); ++i) {
-                lines[i + 1] += "  " + padded(rows_[i][j], width);
-            }
-        } else {
-            width = std::max(width, widest.before + widest.after);
-            lines[0] += "  " + blanks(width - static_cast<std::size_t>(displayWidth(title))) + title;
-            for (std::size_t i = 0; i < rows_.size(); ++i) {
-                const parts cell = partsOf(rows_[i][j]);
-                lines[i + 1] += "  " + blanks(width - widest.after - cell.before) + rows_[i][j] +
-                                blanks(widest.after - cell.after);
-            }
+            padded.push_back(blanks(width - widest.after - cell.before) + row[j] +
+                             blanks(widest.after - cell.after));
         }
     }
-    for (const std::string& line : lines) {
-        out << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
+    return padded;
+}
+
+void text_table::print(std::ostream& out) const
+{
+    constexpr int lineWidth = 100;
+    const auto append = [](std::vector<std::string>& lines, const std::vector<std::string>& column) {
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            lines[i] += "  " + column[i];
+        }
+    };
+    const auto printLines = [&](const std::vector<std::string>& lines) {
+        for (const std::string& line : lines) {
+            out << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
+        }
+    };
+    std::vector<std::string> labels(rows_.size() + 1);
+    append(labels, paddedColumn(0));
+    std::vector<std::string> lines = labels;
+    for (std::size_t j = 1; j < headings_.size(); ++j) {
+        const std::vector<std::string> column = paddedColumn(j);
+        if (lines != labels && displayWidth(lines[0]) + 2 + displayWidth(column[0]) > lineWidth) {
+            printLines(lines);
+            out << '\n';
+            lines = labels;
+        }
+        append(lines, column);
     }
+    printLines(lines);
 }
 
 std::string shown(double number, int decimals)

@@ -5,6 +5,7 @@
 #ifndef KORVEL_EXAMPLES_TEXT_TABLE_H
 #define KORVEL_EXAMPLES_TEXT_TABLE_H
 
+#include <cstddef>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -31,10 +32,16 @@ public:
 
     [[nodiscard]] bool empty() const { return rows_.empty(); }
 
-    /** Prints headings and rows, each line indented by two blanks. */
+    /**
+     * Prints headings and rows, each line indented by two blanks. Columns that do not fit into a line follow
+     * below the others, beside the first column once more.
+     */
     void print(std::ostream& out) const;
 
 private:
+    /** Column `j` with its heading, each cell padded to the same width. */
+    [[nodiscard]] std::vector<std::string> paddedColumn(std::size_t j) const;
+
     std::vector<heading> headings_;
     std::vector<std::vector<std::string>> rows_;
 };

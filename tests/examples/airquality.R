@@ -17,3 +17,7 @@ figures <- sapply(x, function(v) {
 print(round(t(figures)[, 1:5], 3))
 print(round(t(figures)[, 6:12], 3))
 print(round(t(figures)[, 13:19], 3))
+print(round(cor(x, use = "pairwise.complete.obs"), 3))
+print(crossprod(!is.na(x)))
+print(round(100 * colMeans(is.na(x)), 1))
+print(lapply(split(seq_len(nrow(x)), rowSums(is.na(x))), function(rows) c(length(rows), head(rows, 12))))
