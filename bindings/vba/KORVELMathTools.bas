@@ -177,12 +177,64 @@ Public Declare PtrSafe Function Cpp_SumMat Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_MultiplyByVal Lib "KORVELMathTools.dll" ( _
     ByRef x As Double, ByVal rows As Long, ByVal cols As Long, ByVal s As Double) As Long
 
+' ---- linalg/g2_sweep.h
+
+' Generalised inverse of a square table by sweeping.
+Public Declare PtrSafe Function Cpp_M_InverseG2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal tolerance As Double, ByRef g As Double) As Long
+
+' Generalised inverse of a labelled table by sweeping.
+Public Declare PtrSafe Function Cpp_M_InverseG2_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal tolerance As Double, ByVal g As LongPtr) As Long
+
+' Generalised inverse of a square table by sweeping some of its pivots.
+Public Declare PtrSafe Function Cpp_M_InverseG2Selective Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef selected As Long, ByVal tolerance As Double, _
+    ByRef g As Double, ByVal zeroOthers As Integer) As Long
+
+' ---- linalg/gauss.h
+
+' Solves a * x = b for several right sides, and inverts a. b (Double) may be null.
+Public Declare PtrSafe Function VB_M_Gauss Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal m As Long, ByRef b As Any) As Long
+
+' Solves a * x = b for one right side, and inverts a.
+Public Declare PtrSafe Function VB_V_Gauss Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef b As Double) As Long
+
+' Solves a * x = b on a labelled table and a labelled column, and inverts a.
+Public Declare PtrSafe Function Cpp_V_Gauss_ST Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal b As LongPtr) As Long
+
+' ---- linalg/hermite_form.h
+
+' Forward Doolittle reduction of a symmetric table.
+Public Declare PtrSafe Function Cpp_M_ForwardDoolittle Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef h As Double) As Long
+
+' Hermite canonical form of a symmetric table.
+Public Declare PtrSafe Function Cpp_M_HermiteCanonical Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef h As Double) As Long
+
+' ---- linalg/logical_inverse.h
+
+' Logical inversion of a table of flags in place: 0 becomes 1, and anything else becomes 0.
+Public Declare PtrSafe Function Cpp_M_Inverse Lib "KORVELMathTools.dll" ( _
+    ByRef flags As Integer, ByVal rows As Long, ByVal cols As Long) As Long
+
 ' ---- linalg/lu.h
 
 ' LU decomposition, in place: a, with its rows swapped, is l * u with 1 on the diagonal of l.
 Public Declare PtrSafe Function VB_M_LUDecomp Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByRef pivots As Long, ByRef sign As Double, _
     ByRef status As Integer) As Long
+
+' ---- linalg/packed_sweep.h
+
+' Sweeps one pivot of a symmetric table in place: after all pivots the table is the negative of its
+' inverse.
+Public Declare PtrSafe Function VB_M_Sweep Lib "KORVELMathTools.dll" ( _
+    ByRef packed As Double, ByVal n As Long, ByVal k As Long) As Long
 
 ' ---- linalg/products.h
 
@@ -365,6 +417,13 @@ Public Declare PtrSafe Function VB_M_Eigen Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_M_EigenSPV_T Lib "KORVELMathTools.dll" ( _
     ByVal a As LongPtr, ByRef values As Double, ByVal vectors As LongPtr, ByVal n As Long, _
     ByVal sortFlag As Integer) As Long
+
+' ---- linalg/triangular_inverse.h
+
+' Inverse of a triangular table by back substitution.
+Public Declare PtrSafe Function VB_M_InverseTriang Lib "KORVELMathTools.dll" ( _
+    ByRef t As Double, ByVal n As Long, ByVal lowerFlag As Integer, ByRef inverse As Double, _
+    ByVal tolerance As Double) As Long
 
 ' ---- linalg/vector_products.h
 

@@ -243,6 +243,13 @@ template <class T>
     return cST_MVect<T>(caller);
 }
 
+/** The caller's labelled column. Its count and label, and texts, return on destruction. */
+template <class T>
+[[nodiscard]] cST_Vect<T> record(ST_Vect* caller)
+{
+    return cST_Vect<T>(caller);
+}
+
 /** The same for category statistics. */
 [[nodiscard]] inline cST_QualiInfo record(ST_QualiInfo* caller)
 {
