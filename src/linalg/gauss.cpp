@@ -160,8 +160,7 @@ int M_Gauss(matrix<double>* A, int n, int m, matrix<double>* B, bool noSwap, boo
 {
     n = std::max(n, 0);
     return korvel::changeByRows(*A, n, n, [=](auto& a) {
-        return korvel::changeByRows(*B, n, m,
-                                    [&](auto& b) { return solve(a, n, b, m, {noSwap, noPivot}); });
+        return korvel::changeByRows(*B, n, m, [&](auto& b) { return solve(a, n, b, m, {noSwap, noPivot}); });
     });
 }
 

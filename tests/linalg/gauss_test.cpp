@@ -11,7 +11,8 @@ TEST(Gauss, IsThePlainOne)
     forSquareTables({0, 1, 2, 3, 5, 8, 9, 17, 33}, [](random_cells& cells, int n) {
         matrix<double> A = squareTable(cells, n);
         const int m = cells.integer(0, 9);
-        matrix<double> B = cells.integer(0, 3) == 0 ? nearTable<double>(cells, n, m) : matrix<double>(n, m, 1.5);
+        matrix<double> B =
+            cells.integer(0, 3) == 0 ? nearTable<double>(cells, n, m) : matrix<double>(n, m, 1.5);
         fillRandomly(cells, B);
         matrix<double> expectedA = twinOf(A);
         matrix<double> expectedB = twinOf(B);
@@ -71,7 +72,8 @@ TEST(Gauss, WithoutSwappingTakesTheDiagonalOfTheColumnThatItFinds)
 {
     matrix<double> A = tableOf({{0, 2}, {4, 0}});
     matrix<double> B(2, 1, 1.0);
-    EXPECT_EQ(M_Gauss(&A, 2, 1, &B, true, false), -2) << "4 is found in the first column, whose diagonal is 0";
+    EXPECT_EQ(M_Gauss(&A, 2, 1, &B, true, false), -2)
+        << "4 is found in the first column, whose diagonal is 0";
     // 8 is the largest, but the diagonal of its column is 5: the same as the diagonal in order.
     A = tableOf({{5, 2}, {8, 4}});
     matrix<double> inOrder(A);
@@ -82,7 +84,8 @@ TEST(Gauss, WithoutSwappingTakesTheDiagonalOfTheColumnThatItFinds)
     expectSame(B, C);
     matrix<double> swapped = tableOf({{5, 2}, {8, 4}});
     EXPECT_EQ(M_Gauss(&swapped, 2, 1, &C, false, false), 0);
-    EXPECT_NE(swapped.getElement(0, 0), A.getElement(0, 0)) << "with swaps it is 8, and the last places differ";
+    EXPECT_NE(swapped.getElement(0, 0), A.getElement(0, 0))
+        << "with swaps it is 8, and the last places differ";
 }
 
 TEST(Gauss, SaysThatATableIsSingularOnlyWhenAPivotIsZero)

@@ -60,8 +60,8 @@ TEST(PackedSweep, IsThePlainOne)
 {
     forSquareTables({0, 1, 2, 3, 5, 8, 9, 17, 33}, [](random_cells& cells, int n) {
         const int count = korvel::packedElements(n);
-        matrix<double> actual = cells.integer(0, 3) == 0 ? nearTable<double>(cells, count, 1)
-                                                         : cells.values(count);
+        matrix<double> actual =
+            cells.integer(0, 3) == 0 ? nearTable<double>(cells, count, 1) : cells.values(count);
         matrix<double> expected = twinOf(actual);
         for (int repeat = 0; repeat < 3; ++repeat) {
             const int k = cells.integer(0, n + 1);
@@ -80,9 +80,9 @@ TEST(PackedSweep, OfAllPivotsIsTheNegativeInverse)
     }
 }
 
-TEST(PackedSweep, OfALargeTableLosesWhatIsBelowTheLimit)
+TEST(PackedSweep, OfLargeNumbersLosesWhatIsBelowTheLimit)
 {
-    // The inverse has elements near 1e-13 beside others of 1e-7: the small ones become 0.
+    // In units of 1e10 the elements of the inverse beside its diagonal fall below 1e-12, and become 0.
     std::mt19937_64 generator(3);
     matrix<double> table = unitDiagonal(50, generator);
     for (std::uint64_t k = 0; k < table.nbElem; ++k) {

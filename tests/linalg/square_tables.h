@@ -53,9 +53,10 @@ inline matrix<double> squareTable(random_cells& cells, int n)
 /** How a table is made. */
 enum class table_kind { random, diagonallyDominant, graded, hilbert, diagonal, tiny, huge };
 
-inline constexpr std::array tableKinds{table_kind::random,  table_kind::diagonallyDominant, table_kind::graded,
-                                table_kind::hilbert, table_kind::diagonal,           table_kind::tiny,
-                                table_kind::huge};
+inline constexpr std::array tableKinds{table_kind::random,   table_kind::diagonallyDominant,
+                                       table_kind::graded,   table_kind::hilbert,
+                                       table_kind::diagonal, table_kind::tiny,
+                                       table_kind::huge};
 
 inline constexpr std::array tableOrders{0, 1, 2, 3, 5, 10, 50, 200};
 

@@ -28,7 +28,8 @@ KORVEL_FLAT int Cpp_M_InverseG2(const double* a, int n, double tolerance, double
  * @param a         [in] labelled table of numbers, n by n
  * @param n         rows and columns; below 1 nothing is done
  * @param tolerance a pivot is passed over when its magnitude is below it
- * @param g         [inout] labelled table of numbers whose columns receive n by n; its counts stay as they are
+ * @param g         [inout] labelled table of numbers whose columns receive n by n; its counts stay as they
+ * are
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_InverseG2_ST(ST_MVect* a, int n, double tolerance, ST_MVect* g);
