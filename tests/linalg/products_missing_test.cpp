@@ -98,3 +98,35 @@ TEST(MissingProducts, ClearTheColumnsOfAResultInChunks)
     M_ProductABMissingSPV3(&chunks, 2, 2, &A, 2, &third);
     expectProduct(third);
 }
+
+TEST(MissingProducts, OfChunksTakeCountsBelowNone)
+{
+    matrix<double> A = tableOf({{1, 2}, {3, 4}});
+    auto chunks = chunksOf<table>(A);
+    auto statistics = chunksOf<statistics_matrix<double>>(A);
+    struct given {
+        int n;
+        int p;
+        int q;
+        matrix<double> expected;
+    };
+    const matrix<double> untouched = tableOf({{9, 9}, {9, 9}});
+    for (const given& counts : std::vector<given>{
+             {-1, 2, 2, untouched}, {2, 2, -1, untouched}, {2, -1, 2, tableOf({{0, 0}, {0, 0}})}}) {
+        SCOPED_TRACE(::testing::Message() << counts.n << ' ' << counts.p << ' ' << counts.q);
+        matrix<double> dense(2, 2, 9.0);
+        matrix<double>* first = &dense;
+        EXPECT_EQ(M_ProductABMissingSPV(&chunks, counts.n, counts.p, &A, counts.q, first), 0);
+        EXPECT_TRUE(sameTables(dense, counts.expected));
+        matrix3D<matrix<double>> second(2, 2, 2, 9.0);
+        EXPECT_EQ(M_ProductABMissingSPV2(&A, counts.n, counts.p, &A, counts.q, &second), 0);
+        matrix3D<matrix<double>> third(2, 2, 2, 9.0);
+        EXPECT_EQ(M_ProductABMissingSPV3(&statistics, counts.n, counts.p, &A, counts.q, &third), 0);
+        for (int j = 0; j < 2; ++j) {
+            for (int i = 0; i < 2; ++i) {
+                EXPECT_SAME_BITS(second.getElement(i, j), counts.expected.getElement(i, j));
+                EXPECT_SAME_BITS(third.getElement(i, j), counts.expected.getElement(i, j));
+            }
+        }
+    }
+}

@@ -1,6 +1,7 @@
 #include "missing/missing_flags.h"
 
-#include "support/random_cells.h"
+#include "reference/missing.h"
+#include "support/near_tables.h"
 
 #include <vector>
 
@@ -11,6 +12,38 @@ namespace
 
 using flags = std::vector<short int>;
 constexpr double missing = MISSING_DBL;
+
+/** A table of about `rows` by `cols` in which whole rows are missing now and then. */
+template <class T>
+matrix<T> tableWithGaps(random_cells& cells, int rows, int cols, const T& missingCell)
+{
+    matrix<T> x = nearTable<T>(cells, rows, cols);
+    for (int i = 0; i < x.nbrows; ++i) {
+        const int share = cells.integer(0, 3);
+        for (int j = 0; j < x.nbcols; ++j) {
+            if (cells.integer(1, 3) <= share) {
+                x.data[i + std::ptrdiff_t{x.nbrows} * j] = missingCell;
+            }
+        }
+    }
+    return x;
+}
+
+template <class T>
+void expectPlainFlags(random_cells& cells, int rows, int cols, const T& missingCell)
+{
+    const matrix<T> x = tableWithGaps(cells, rows, cols, missingCell);
+    const flags given = cells.flags(rows);
+    flags found(static_cast<std::size_t>(rows), 9);
+    korvel::getMissing(x, rows, cols, given.data(), found.data());
+    EXPECT_EQ(found, korvel::reference::rowFlags(x, rows, cols, &given));
+    korvel::getMissing(x, rows, cols, nullptr, found.data());
+    EXPECT_EQ(found, korvel::reference::rowFlags(x, rows, cols, nullptr));
+    flags out = cells.flags(rows);
+    const flags expected = korvel::reference::allMissingRows(x, rows, cols, given, out);
+    korvel::flagAllMissingRows(x, rows, cols, given.data(), out.data());
+    EXPECT_EQ(out, expected);
+}
 
 } // namespace
 
@@ -120,4 +153,18 @@ TEST(MissingFlags, ACellBesideTheDiagonalOfATriangle)
     EXPECT_EQ(M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(&table, 3), 0);
     table.setElement(1, 1, missing);
     EXPECT_EQ(M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(&table, 3), -1);
+}
+
+TEST(MissingFlags, EqualThePlainLoops)
+{
+    forRandomShapes([](random_cells& cells, int rows, int cols) {
+        for (const int longer : {0, 64, 130}) {
+            expectPlainFlags<double>(cells, rows + longer, cols, missing);
+            expectPlainFlags<text>(cells, rows + longer, cols, text());
+            random_chunks<double> chunks(cells, cols, [&](int) { return rows + longer; });
+            flags found(static_cast<std::size_t>(rows + longer), 9);
+            korvel::getMissing(chunks.get(), rows + longer, cols, nullptr, found.data());
+            EXPECT_EQ(found, korvel::reference::rowFlags(chunks.get(), rows + longer, cols, nullptr));
+        }
+    });
 }

@@ -1,6 +1,7 @@
 #include "missing/missing_rows.h"
 
-#include "support/random_cells.h"
+#include "reference/missing.h"
+#include "support/near_tables.h"
 
 #include <algorithm>
 #include <vector>
@@ -46,6 +47,33 @@ std::vector<T> spread(Insert insert, std::vector<T> cells, int n, flags flagged)
     matrix<T> out(rows, p, result.data(), true);
     insert(&x, n, p, flagged.data(), rows - n, &out);
     return result;
+}
+
+/** Flags of which about `share` in ten are set, one behind the other more often than not. */
+flags flagsOf(random_cells& cells, int n, int share)
+{
+    flags made;
+    bool isSet = false;
+    while (static_cast<int>(made.size()) < n) {
+        isSet = cells.integer(0, 2) == 0 ? isSet : cells.integer(0, 9) < share;
+        made.push_back(isSet ? static_cast<short int>(cells.integer(0, 1) == 0 ? -1 : 3) : short{0});
+    }
+    return made;
+}
+
+template <class T, class Insert>
+void expectPlainInsertion(random_cells& cells, int rows, int cols, Insert insert)
+{
+    flags flagged = flagsOf(cells, rows, cells.integer(0, 3) * 3);
+    const int kept = static_cast<int>(std::count(flagged.begin(), flagged.end(), 0));
+    matrix<T> x = nearTable<T>(cells, kept, cols);
+    matrix<T> result = nearTable<T>(cells, rows, cols);
+    const matrix<T> before = twinOf(x);
+    matrix<T> expected = twinOf(result);
+    korvel::reference::insertRows(x, kept, cols, flagged, rows - kept, expected);
+    insert(&x, kept, cols, flagged.data(), rows - kept, &result);
+    expectSame(result, expected);
+    expectSame(x, before);
 }
 
 } // namespace
@@ -97,6 +125,16 @@ TEST(MissingRows, AreSpreadAgain)
     EXPECT_EQ(spread<double>(M_InsertMissing, {1}, 1, {0, 0}), (numbers{1, -1}))
         << "a row outside reads as -1";
     EXPECT_EQ(spread<int>(M_InsertMissingLng, {1, 2}, 2, {-1, 0, 0}), (ints{MISSING_LNG, 1, 2}));
+}
+
+TEST(MissingRows, AreSpreadAsByThePlainLoop)
+{
+    forRandomShapes([](random_cells& cells, int rows, int cols) {
+        for (const int longer : {0, 7, 40}) {
+            expectPlainInsertion<double>(cells, rows + longer, cols, M_InsertMissing);
+            expectPlainInsertion<int>(cells, rows + longer, cols, M_InsertMissingLng);
+        }
+    });
 }
 
 TEST(MissingRows, TakenOutAndSpreadGiveTheTableBack)

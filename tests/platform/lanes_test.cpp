@@ -113,6 +113,18 @@ TEST(Lanes, OfTwoRegistersAreTakenByTheirPlace)
     EXPECT_EQ(lanes::secondOf(a, b)[1], 4.0);
 }
 
+TEST(Lanes, ThatAreChosenBecomeBits)
+{
+    using namespace korvel;
+    const lanes::doubles<2> x{1.5, -2.5};
+    EXPECT_EQ(lanes::chosenBits(x == 0.0), 0U);
+    EXPECT_EQ(lanes::chosenBits(x == 1.5), 1U);
+    EXPECT_EQ(lanes::chosenBits(x == -2.5), 2U);
+    EXPECT_EQ(lanes::chosenBits(x != 0.0), 3U);
+    EXPECT_EQ(lanes::chosenBits((x > 0.0) | (x < -2.0)), 3U);
+    EXPECT_EQ(lanes::chosenBits((x > 0.0) & (x < -2.0)), 0U);
+}
+
 TEST(Lanes, AreStreamedWhole)
 {
     using namespace korvel;
