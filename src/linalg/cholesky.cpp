@@ -17,21 +17,11 @@ using korvel::reading;
 using korvel::withCells;
 using korvel::writing;
 
+constexpr double least = 1e-12;
+
 bool isNotPositive(double pivot)
 {
-    constexpr double least = 1e-12;
     return pivot < least;
-}
-
-template <class Table>
-int decompose(const Table& A, int n, Table& L)
-{
-    return withCells(
-        [n](const auto& a, auto& l) {
-            return korvel::formCholesky(
-                a, n, l, [](int) {}, isNotPositive);
-        },
-        reading(A).table(n, n), writing(L).table(n, n));
 }
 
 /** The exchanges of a decomposition with pivoting. */
@@ -143,13 +133,15 @@ int decomposeWithPivoting(Table& A, int n, Table& L, matrix<Number>& perm, short
 int M_CholDecomp(matrix<double>* A, int n, matrix<double>* L)
 {
     korvel::clearResult(*L, n, n);
-    return decompose(*A, n, *L);
+    return korvel::formCholesky(*A, n, *L, least);
 }
 
 int M_CholDecomp(matrixSparse* A, int n, matrixSparse* L)
 {
     L->Redim(n, n, 0.0);
-    return decompose(*A, n, *L);
+    auto factor = writing(*L);
+    return korvel::formCholesky(
+        reading(*A), n, factor, [](int) {}, isNotPositive);
 }
 
 int M_CholDecompPrinc(matrix<double>* A, int n, matrix<double>* L, matrix<double>* perm,

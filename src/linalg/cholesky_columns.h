@@ -1,14 +1,24 @@
 /**
  * @file
- * The loop of all Cholesky decompositions.
+ * The loop of all Cholesky decompositions, and the form of it for dense tables in place.
  */
 #ifndef KORVEL_LINALG_CHOLESKY_COLUMNS_H
 #define KORVEL_LINALG_CHOLESKY_COLUMNS_H
+
+#include "containers/matrix.h"
 
 #include <cmath>
 
 namespace korvel
 {
+
+/**
+ * Forms L, which is cleared, from the upper half of a symmetric table.
+ *
+ * @param least a pivot fails that is below it, or 0 with elements below it
+ * @return 0, or -1 when a pivot fails; L then has the columns before it
+ */
+int formCholesky(const matrix<double>& A, int n, matrix<double>& L, double least);
 
 /**
  * Forms L, which is cleared, from the upper half of a symmetric table, column after column.

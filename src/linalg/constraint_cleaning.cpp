@@ -89,12 +89,7 @@ int cholesky(const matrix<double>& A, int n, const matrix<Number>& constraints, 
     const free_part kept = freePart(constraints, n);
     const matrix<double> reduced = reducedTable(reading(A).table(n, n), kept);
     matrix<double> factor(kept.order, kept.order, 0.0);
-    const int status = withCells(
-        [&](const auto& a, auto& l) {
-            return korvel::formCholesky(
-                a, kept.order, l, [](int) {}, [](double pivot) { return pivot < 0.0; });
-        },
-        reading(reduced).table(kept.order, kept.order), writing(factor).table(kept.order, kept.order));
+    const int status = korvel::formCholesky(reduced, kept.order, factor, 0.0);
     if (status == 0) {
         spread(factor, kept, n, L);
     }

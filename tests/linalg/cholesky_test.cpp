@@ -1,5 +1,6 @@
 #include "linalg/cholesky.h"
 
+#include "linalg/kernels/product.h"
 #include "linalg/square_kinds.h"
 #include "reference/cholesky.h"
 #include "support/near_tables.h"
@@ -62,6 +63,28 @@ matrix<double> symmetric(random_cells& cells, int n, odd_cells odd)
     }
     made.oobValue = cells.value();
     return made;
+}
+
+void compareWithThePlainLoop()
+{
+    constexpr std::array sizes{0,  1,  2,  3,  4,  5,  7,  8,  9,  15, 16, 17,  23,
+                               24, 25, 31, 32, 33, 47, 48, 49, 63, 64, 65, 100, 130};
+    std::uint64_t seed = 0;
+    for (const odd_cells odd : {odd_cells::none, odd_cells::missing, odd_cells::all}) {
+        for (const int n : sizes) {
+            random_cells cells(++seed, odd_cells::none);
+            matrix<double> A = symmetric(cells, n, odd);
+            const bool isShort = seed % 5 == 0 && n > 0;
+            matrix<double> block(n * n, 1, 0.0);
+            matrix<double> L(isShort ? n - 1 : n, n, block.data, true);
+            matrix<double> expectedBlock(n * n, 1, 0.0);
+            matrix<double> expected(isShort ? n - 1 : n, n, expectedBlock.data, true);
+            SCOPED_TRACE(::testing::Message() << "order " << n << " seed " << seed);
+            const int status = M_CholDecomp(&A, n, &L);
+            EXPECT_EQ(status, plainCholesky(A, n, expected));
+            ASSERT_TRUE(sameTable(L, expected));
+        }
+    }
 }
 
 } // namespace
@@ -135,23 +158,13 @@ TEST(Cholesky, ClearsItsResultInStorageOrder)
 
 TEST(Cholesky, HasTheBitsOfThePlainLoop)
 {
-    constexpr std::array sizes{0,  1,  2,  3,  4,  5,  7,  8,  9,  15, 16, 17,  23,
-                               24, 25, 31, 32, 33, 47, 48, 49, 63, 64, 65, 100, 130};
-    std::uint64_t seed = 0;
-    for (const odd_cells odd : {odd_cells::none, odd_cells::missing, odd_cells::all}) {
-        for (const int n : sizes) {
-            random_cells cells(++seed, odd_cells::none);
-            matrix<double> A = symmetric(cells, n, odd);
-            const bool isShort = seed % 5 == 0 && n > 0;
-            matrix<double> block(n * n, 1, 0.0);
-            matrix<double> L(isShort ? n - 1 : n, n, block.data, true);
-            matrix<double> expectedBlock(n * n, 1, 0.0);
-            matrix<double> expected(isShort ? n - 1 : n, n, expectedBlock.data, true);
-            SCOPED_TRACE(::testing::Message() << "order " << n << " seed " << seed);
-            const int status = M_CholDecomp(&A, n, &L);
-            EXPECT_EQ(status, plainCholesky(A, n, expected));
-            ASSERT_TRUE(sameTable(L, expected));
+    using korvel::kernels::instruction_set;
+    for (const auto set : {instruction_set::baseline, instruction_set::avx2, instruction_set::avx512}) {
+        if (!korvel::kernels::hasSet(set)) {
+            continue;
         }
+        const korvel::kernels::forced_set forced(set);
+        compareWithThePlainLoop();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "linalg/lu.h"
 
+#include "linalg/kernels/product.h"
 #include "linalg/square_kinds.h"
 #include "reference/lu.h"
 #include "support/near_tables.h"
@@ -35,6 +36,40 @@ void expectTable(const matrix<double>& actual, const matrix<double>& expected)
 void expectPivots(const matrix<int>& actual, const std::vector<int>& expected)
 {
     EXPECT_EQ(std::vector<int>(actual.data, actual.data + actual.nbElem), expected);
+}
+
+void compareWithThePlainLoop()
+{
+    constexpr std::array sizes{0,  1,  2,  3,  4,  5,  7,  8,  9,  10, 12, 15, 16, 17,  20,  23,  24,
+                               25, 31, 32, 33, 40, 47, 48, 49, 63, 64, 65, 80, 96, 100, 129, 160, 257};
+    std::uint64_t seed = 0;
+    for (const odd_cells odd : {odd_cells::none, odd_cells::missing, odd_cells::all}) {
+        for (const int n : sizes) {
+            random_cells cells(++seed, odd);
+            const int isShort = seed % 5 == 0 ? std::min(n, cells.integer(0, 2)) : 0;
+            const int isWide = seed % 7 == 0 ? cells.integer(1, 9) : 0;
+            matrix<double> table = randomTable(cells, n - isShort + isWide, n + isWide);
+            if (seed % 3 == 0 && n > 3) { // and singular ones
+                for (int i = 0; i < table.nbrows; ++i) {
+                    table.setElement(i, n / 2, table.getElement(i, n / 3));
+                }
+            }
+            matrix<double> expected = twinOf(table);
+            matrix<int> pivots(std::max(n - isShort, 0), 1);
+            matrix<int> expectedPivots(std::max(n - isShort, 0), 1);
+            int sign = 0;
+            int expectedSign = 0;
+            short int error = 9;
+            short int expectedError = 9;
+            M_LUDecomp(&table, n, &pivots, sign, &error);
+            plainLU(expected, n, expectedPivots, expectedSign, expectedError);
+            SCOPED_TRACE(::testing::Message() << "order " << n << " seed " << seed);
+            ASSERT_EQ(error, expectedError);
+            ASSERT_EQ(sign, expectedSign);
+            ASSERT_TRUE(sameTable(table, expected));
+            expectSame(pivots, expectedPivots);
+        }
+    }
 }
 
 } // namespace
@@ -154,35 +189,13 @@ TEST(LU, GivesThePivotsTheirSizeOnlyWhenTheyAreTooFew)
 
 TEST(LU, HasTheBitsOfThePlainLoop)
 {
-    constexpr std::array sizes{0,  1,  2,  3,  4,  5,  7,  8,  9,  10, 12, 15, 16, 17,  20,  23,  24,
-                               25, 31, 32, 33, 40, 47, 48, 49, 63, 64, 65, 80, 96, 100, 129, 160, 257};
-    std::uint64_t seed = 0;
-    for (const odd_cells odd : {odd_cells::none, odd_cells::missing, odd_cells::all}) {
-        for (const int n : sizes) {
-            random_cells cells(++seed, odd);
-            const int isShort = seed % 5 == 0 ? std::min(n, cells.integer(0, 2)) : 0;
-            const int isWide = seed % 7 == 0 ? cells.integer(1, 9) : 0;
-            matrix<double> table = randomTable(cells, n - isShort + isWide, n + isWide);
-            if (seed % 3 == 0 && n > 3) { // and singular ones
-                for (int i = 0; i < table.nbrows; ++i) {
-                    table.setElement(i, n / 2, table.getElement(i, n / 3));
-                }
-            }
-            matrix<double> expected = twinOf(table);
-            matrix<int> pivots(std::max(n - isShort, 0), 1);
-            matrix<int> expectedPivots(std::max(n - isShort, 0), 1);
-            int sign = 0;
-            int expectedSign = 0;
-            short int error = 9;
-            short int expectedError = 9;
-            M_LUDecomp(&table, n, &pivots, sign, &error);
-            plainLU(expected, n, expectedPivots, expectedSign, expectedError);
-            SCOPED_TRACE(::testing::Message() << "order " << n << " seed " << seed);
-            ASSERT_EQ(error, expectedError);
-            ASSERT_EQ(sign, expectedSign);
-            ASSERT_TRUE(sameTable(table, expected));
-            expectSame(pivots, expectedPivots);
+    using korvel::kernels::instruction_set;
+    for (const auto set : {instruction_set::baseline, instruction_set::avx2, instruction_set::avx512}) {
+        if (!korvel::kernels::hasSet(set)) {
+            continue;
         }
+        const korvel::kernels::forced_set forced(set);
+        compareWithThePlainLoop();
     }
 }
 
