@@ -162,9 +162,9 @@ class MadeFiles(Tree):
  * Takes all.
  *
  * @param a -1: yes
- * @param b [in] b
- * @param c [out] c
- * @param d [inout] block
+ * @param b [in] one integer
+ * @param c [out] one flag
+ * @param d [inout] 2 by 3 texts
  * @param e [in] one text
  * @param f [in] host array of Double
  * @param g [in] host array of Boolean
@@ -173,7 +173,7 @@ class MadeFiles(Tree):
  * @param j [in] record
  * @param k [in] record
  * @param l [in] record
- * @param m [in] cell
+ * @param m [in] one cell
  * @param n [in] label
  */
 KORVEL_FLAT void VB_All(short int a, const int* b, short int* c, OLECHAR** d, const OLECHAR* e, SAFEARRAY** f,
@@ -461,6 +461,22 @@ class BrokenHeaders(Tree):
                      "whether it\n * does; true unless 0", "-1: it does; 0: it does not; any other value: neither"):
             self.with_boolean(text)
             self.assertEqual(self.run_tool("generate"), (0, []))
+
+    ROOM = "must begin with its room: 'n numbers', 'rows by cols numbers', made of counts that are parameters, or 'one number'"
+
+    def test_array_without_its_room(self):
+        for text in ("the numbers", "numbers, n of them", "m numbers", "n by m numbers", "sum(n) numbers", "max(n, m) numbers"):
+            self.broken("[in] n numbers", f"[in] {text}", 4, f"VB_Sum: @param x {self.ROOM}")
+
+    def test_array_with_its_room(self):
+        for text in ("n numbers", "n by 2 numbers", "n + 1 by n numbers", "n * (n + 1) / 2 numbers", "max(n, n) numbers, or more",
+                     "one number: the first"):
+            self.functions(SUM.replace("[in] n numbers", f"[in] {text}"))
+            self.assertEqual(self.run_tool("generate"), (0, []))
+
+    def test_flags_of_missing_rows_without_their_truth(self):
+        self.functions(SUM.replace("@param flags", "@param iMissing").replace("int* flags", "int* iMissing"))
+        self.expect(6, "VB_Sum: @param iMissing must say which flags leave a cell out")
 
     def test_missing_return(self):
         self.broken(" * @return the sum\n", "", 9, "VB_Sum: no @return")

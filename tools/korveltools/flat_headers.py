@@ -29,6 +29,25 @@ DIRECTION = re.compile(r"\[(in|out|inout)\](\s+|$)")
 # `true unless 0` take anything else for true; some tell three cases apart.
 TRUTH = re.compile(r"(-1|not 0): |.*\btrue (only when -1|unless 0)\b|.*\b[Aa]ny other value\b")
 
+# The room of an array: one cell, a count of cells, or rows by columns; and another room for one value of an argument. A
+# count is made of the function's own counts, of the larger of two, or of the sum of an array's numbers that are positive,
+# truncated.
+COUNT = r"(?:(?:max|sum)\([\w, ]+\)|\w+)(?: [-+*/] (?:\w+|\(\w+ \+ 1\)))*"
+CELLS = r"(?:[a-z]+ )?(?!(?:row|column)s\b)[a-z]+s\b"
+ROOM = re.compile(rf"one [a-z]+\b|({COUNT})(?: by ({COUNT}))? {CELLS}"
+                  rf"(?:, or ({COUNT})(?: by ({COUNT}))? {CELLS} when (\w+) is (-?\d+)\b)?")
+
+
+@dataclass(frozen=True)
+class Room:
+    """Counts of rows and of columns, as expressions."""
+
+    rows: str
+    columns: str
+
+# What flags of missing rows say of their values.
+FLAG_TRUTH = re.compile(r"-1|\bnon-zero\b|\b(other than|not|unless) 0\b")
+
 
 @dataclass(frozen=True)
 class Problem:
@@ -80,6 +99,18 @@ class Parameter:
     @property
     def nullable(self):
         return re.search(r"\b(may be null|[Nn]ull:)", one_line(self.text)) is not None
+
+    @property
+    def rooms(self):
+        """The room that the array takes, under the key None; and another one under the key (argument, its value)."""
+        found = ROOM.match(one_line(self.text))
+        if not found:
+            return {}
+        rows, columns, other_rows, other_columns, argument, value = found.groups()
+        rooms = {None: Room(rows or "1", columns or "1")}
+        if argument:
+            rooms[argument, int(value)] = Room(other_rows, other_columns or "1")
+        return rooms
 
     @property
     def plain_type(self):
@@ -230,6 +261,17 @@ def take_over(function, earlier, problem):
     doc.tags = params + others
 
 
+def has_room(parameter, by_name):
+    """Whether the text says how many cells the array has, in counts that the caller passes."""
+    counts = " ".join(f"{room.rows} {room.columns}" for room in parameter.rooms.values())
+    summed = re.findall(r"sum\((\w+)\)", counts)
+    names = set(re.findall(r"[A-Za-z_]\w*", re.sub(r"\b(sum|max)\(", "(", counts))) - set(summed)
+    passed = {name for name, p in by_name.items() if p.type == "int"}
+    arrays = {name for name, p in by_name.items() if p.plain_type == "double*"}
+    choosers = {key[0] for key in parameter.rooms if key}
+    return bool(counts) and names <= passed and set(summed) <= arrays and choosers <= set(by_name)
+
+
 def describe(function, problem):
     """Gives each parameter its `@param` text, and calls `problem(line, message)` for whatever does not fit."""
     doc = function.doc
@@ -263,6 +305,11 @@ def describe(function, problem):
             problem(tag.line, f"{function.name}: @param {tag.name} has no text")
         if parameter.type == "short int" and one_line(tag.text) and not TRUTH.match(one_line(tag.text)):
             problem(tag.line, f"{function.name}: @param {tag.name} must say whether only -1 or anything but 0 is true")
+        if parameter.plain_type in ARRAYS and direction and not has_room(parameter, by_name):
+            problem(tag.line, f"{function.name}: @param {tag.name} must begin with its room: 'n numbers', "
+                              "'rows by cols numbers', made of counts that are parameters, or 'one number'")
+        if tag.name.startswith("iMissing") and parameter.direction != "out" and not FLAG_TRUTH.search(one_line(tag.text)):
+            problem(tag.line, f"{function.name}: @param {tag.name} must say which flags leave a cell out")
         if parameter.type == "SAFEARRAY**" and parameter.host_element not in HOST_ARRAY_ELEMENTS:
             elements = ", ".join(HOST_ARRAY_ELEMENTS)
             problem(tag.line, f"{function.name}: @param {tag.name} must say 'host array of' one of {elements}")

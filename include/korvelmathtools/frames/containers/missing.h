@@ -18,7 +18,7 @@ KORVEL_FLAT short int VB_IsMissingValueDbl(double x);
 /**
  * Tells whether a cell, rendered as text, is empty.
  *
- * @param cell [in] a cell of any type, or a reference to one. A text is missing when it has no characters
+ * @param cell [in] one cell of any type, or a reference to one. A text is missing when it has no characters
  * before its first NUL; a number, a date or a Boolean never is; an empty cell always is
  * @return -1 when missing, otherwise 0
  */

@@ -10,7 +10,7 @@
 /**
  * Copies a table of numbers into the columns of a labelled one. Its scalars, row counts and labels stay.
  *
- * @param m    [in] rows * cols numbers
+ * @param m    [in] rows by cols numbers
  * @param rows number of rows; below 1: nothing is copied
  * @param cols number of columns; below 1: nothing is copied
  * @param mv   [inout] labelled table of Double; column j receives column j of the table. Elements for which a

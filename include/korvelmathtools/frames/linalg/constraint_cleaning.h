@@ -15,8 +15,8 @@
  * @param a           [in] n by n numbers, column after column
  * @param n           rows and columns
  * @param constraints [in] n integers
- * @param status      [out] 0; -1: a row has only zeros, or the logarithm of the magnitude is above 709, or
- * memory is short; 1: all of the first column is NaN
+ * @param status      [out] one status: 0; -1: a row has only zeros, or the logarithm of the magnitude is
+ * above 709, or memory is short; 1: all of the first column is NaN
  * @return the determinant, as VB_M_Determinant returns it; 1.0 when no position is left
  */
 KORVEL_FLAT double VB_M_DeterminantCleaned(const double* a, int n, const int* constraints, short int* status);

@@ -12,8 +12,8 @@
  *
  * @param a      [in] n by n numbers, column after column
  * @param n      rows and columns
- * @param status [out] 0; -1: a row has only zeros, or the logarithm of the magnitude is above 709, or memory
- * is short; 1: all of the first column is NaN
+ * @param status [out] one status: 0; -1: a row has only zeros, or the logarithm of the magnitude is above
+ * 709, or memory is short; 1: all of the first column is NaN
  * @return the determinant; 0.0 for a singular table, for a pivot below 1e-24 in magnitude, for a logarithm
  * below -708, for a row of zeros and a first column of NaN; 1.79769313486231e308 when the logarithm is above
  * 709 or memory is short; 1.0 when n is 0
@@ -34,7 +34,7 @@ KORVEL_FLAT double Cpp_M_LogDeterminant(const double* a, int n);
  *
  * @param a      [in] n by n numbers, column after column, of which the diagonal is read
  * @param n      rows and columns
- * @param status [out] 0
+ * @param status [out] one status: 0
  * @return the determinant; 0.0 when an element of the diagonal is 0
  */
 KORVEL_FLAT double VB_M_DeterminantTriang(const double* a, int n, short int* status);

@@ -20,8 +20,8 @@
  * least it are enough
  * @param maxCount          with a number above 0, no more than so many are enough
  * @param minValue          with a number above 0, each value below minValue + 1e-12 lowers the number by one
- * @param kept              [out] how many values were not dropped; 0 when their sum is NaN
- * @param retained          [out] the smallest of the four numbers
+ * @param kept              [out] one integer: how many values were not dropped; 0 when their sum is NaN
+ * @param retained          [out] one integer: the smallest of the four numbers
  * @param percents          [out] n shares of the values in the sum of those kept, in percent; 0.0 for a
  * dropped one
  * @return 0

@@ -15,9 +15,9 @@
  * @param a      [inout] n by n numbers, column after column; receives u on the diagonal and above, l below it
  * @param n      rows and columns
  * @param pivots [out] n integers; element j is the row, from 1, that was swapped with row j
- * @param sign   [out] 1, or -1 after an odd number of swaps
- * @param status [out] 0; -1: a row has only zeros, and a is as it was; 1: the first column has no pivot,
- * because all of it is NaN
+ * @param sign   [out] one number: 1, or -1 after an odd number of swaps
+ * @param status [out] one status: 0; -1: a row has only zeros, and a is as it was; 1: the first column has no
+ * pivot, because all of it is NaN
  * @return 0
  */
 KORVEL_FLAT int VB_M_LUDecomp(double* a, int n, int* pivots, double* sign, short int* status);

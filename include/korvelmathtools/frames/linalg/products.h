@@ -12,10 +12,10 @@
 /**
  * Product of two tables, c = a * b. The work is shared among threads.
  *
- * @param a [in] numbers, n by p, column after column
+ * @param a [in] n by p numbers
  * @param n rows of a
  * @param p columns of a
- * @param b [in] numbers, p by q, column after column
+ * @param b [in] p by q numbers
  * @param q columns of b
  * @param c [out] n by q numbers, column after column; may be an array that is read
  * @return 0
@@ -34,7 +34,7 @@ KORVEL_FLAT int VB_M_ProductABLng(const int* a, int n, int p, const int* b, int 
  * Product of a transposed table and a table, c = a' * b.
  *
  * @like VB_M_ProductAB
- * @param b [in] numbers, n by q, column after column
+ * @param b [in] n by q numbers
  * @param c [out] p by q numbers, column after column; may be an array that is read
  */
 KORVEL_FLAT int VB_M_ProductTrAB(const double* a, int n, int p, const double* b, int q, double* c);
@@ -42,10 +42,10 @@ KORVEL_FLAT int VB_M_ProductTrAB(const double* a, int n, int p, const double* b,
 /**
  * Product of a table and a transposed table, c = a * b'.
  *
- * @param a [in] numbers, n by p, column after column
+ * @param a [in] n by p numbers
  * @param n rows of a
  * @param p columns of a
- * @param b [in] numbers, m by p, column after column
+ * @param b [in] m by p numbers
  * @param m rows of b
  * @param c [out] n by m numbers, column after column; may be an array that is read
  * @return 0

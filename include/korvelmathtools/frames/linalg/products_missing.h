@@ -13,10 +13,10 @@
  * Product of two tables that heeds missing cells: where a term has a missing factor, c(i,j) is missing. So
  * one missing cell of a blanks a row of c, and one of b a column.
  *
- * @param a [in] numbers, n by p, column after column
+ * @param a [in] n by p numbers
  * @param n rows of a
  * @param p columns of a
- * @param b [in] numbers, p by q, column after column
+ * @param b [in] p by q numbers
  * @param q columns of b
  * @param c [out] n by q numbers, column after column; may be an array that is read
  * @return 0

@@ -13,7 +13,7 @@
  * Product of a table with itself, c = a' * a. Only the elements of the upper half are summed; each is stored
  * in both halves.
  *
- * @param a [in] numbers, n by p, column after column
+ * @param a [in] n by p numbers
  * @param n rows of a
  * @param p columns of a
  * @param c [out] p by p numbers, column after column; may be an array that is read
@@ -43,10 +43,10 @@ KORVEL_FLAT int VB_M_ProductATrA(const double* a, int n, int p, double* c);
  * Product with a diagonal, c = a * d * a', each term from left to right. Only the elements of the upper half
  * are summed; each is stored in both halves.
  *
- * @param a [in] numbers, n by p, column after column
+ * @param a [in] n by p numbers
  * @param n rows of a
  * @param p columns of a
- * @param d [in] numbers, p by p, column after column; only the diagonal is read
+ * @param d [in] p by p numbers; only the diagonal is read
  * @param c [out] n by n numbers, column after column; may be an array that is read
  * @return 0
  */
@@ -57,7 +57,7 @@ KORVEL_FLAT int VB_M_ProductADTrA(const double* a, int n, int p, const double* d
  * are summed; each is stored in both halves.
  *
  * @like VB_M_ProductTrAA
- * @param d [in] numbers, n by n, column after column; only the diagonal is read
+ * @param d [in] n by n numbers; only the diagonal is read
  */
 KORVEL_FLAT int VB_M_ProductTrADA(const double* a, int n, int p, const double* d, double* c);
 

@@ -12,7 +12,7 @@
 /**
  * Table times vector, y = b * v.
  *
- * @param b [in] numbers, n by p, column after column
+ * @param b [in] n by p numbers
  * @param n rows of b
  * @param p columns of b
  * @param v [in] p numbers
@@ -27,7 +27,7 @@ KORVEL_FLAT int VB_M_ProductBV(const double* b, int n, int p, const double* v, d
  *
  * @param v [in] n numbers
  * @param n elements of v, rows of b
- * @param b [in] numbers, n by q, column after column
+ * @param b [in] n by q numbers
  * @param q columns of b
  * @param y [out] q numbers; may be an array that is read
  * @return 0
@@ -37,7 +37,7 @@ KORVEL_FLAT int VB_M_ProductVB(const double* v, int n, const double* b, int q, d
 /**
  * Transposed table times vector, y = b' * v.
  *
- * @param b [in] numbers, n by p, column after column
+ * @param b [in] n by p numbers
  * @param n rows of b
  * @param p columns of b
  * @param v [in] n numbers
@@ -51,7 +51,7 @@ KORVEL_FLAT int VB_M_ProductTrBV(const double* b, int n, int p, const double* v,
  *
  * @param v [in] n numbers
  * @param n elements of v, columns of b
- * @param b [in] numbers, m by n, column after column
+ * @param b [in] m by n numbers
  * @param m rows of b
  * @param y [out] m numbers; may be an array that is read
  * @return 0
@@ -63,7 +63,7 @@ KORVEL_FLAT int VB_M_ProductVTrB(const double* v, int n, const double* b, int m,
  *
  * @param v [in] n numbers
  * @param n elements of v
- * @param b [in] numbers, n by n, column after column
+ * @param b [in] n by n numbers
  * @return the number; 0.0 when n is below 1
  */
 KORVEL_FLAT double VB_M_ProductTrVBV(const double* v, int n, const double* b);
@@ -73,7 +73,7 @@ KORVEL_FLAT double VB_M_ProductTrVBV(const double* v, int n, const double* b);
  *
  * @param x1 [in] n numbers
  * @param n  elements of each vector
- * @param b  [in] numbers, n by n, column after column
+ * @param b  [in] n by n numbers
  * @param x2 [in] n numbers
  * @return the number; 0.0 when n is below 1
  */

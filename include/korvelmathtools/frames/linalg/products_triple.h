@@ -12,10 +12,10 @@
 /**
  * Product of three tables, c = a * b * a'. The work is shared among threads.
  *
- * @param a         [in] numbers, n by p, column after column
+ * @param a         [in] n by p numbers
  * @param n         rows of a
  * @param p         columns of a
- * @param b         [in] numbers, p by p, column after column
+ * @param b         [in] p by p numbers
  * @param symmetric 0: all of the product is summed. Any other value promises that b is symmetric: only the
  * lower half is summed and then mirrored
  * @param c         [out] n by n numbers, column after column; may be an array that is read
@@ -28,7 +28,7 @@ KORVEL_FLAT int VB_M_ProductABTrA(const double* a, int n, int p, const double* b
  * Product of three tables, c = a' * b * a. The work is shared among threads.
  *
  * @like VB_M_ProductABTrA
- * @param b         [in] numbers, n by n, column after column
+ * @param b         [in] n by n numbers
  * @param c         [out] p by p numbers, column after column; may be an array that is read
  */
 KORVEL_FLAT int VB_M_ProductTrABA(const double* a, int n, int p, const double* b, short int symmetric,
@@ -37,12 +37,12 @@ KORVEL_FLAT int VB_M_ProductTrABA(const double* a, int n, int p, const double* b
 /**
  * Product of three tables, d = a * b * c. The work is shared among threads.
  *
- * @param a [in] numbers, n by p, column after column
+ * @param a [in] n by p numbers
  * @param n rows of a
  * @param p columns of a
- * @param b [in] numbers, p by q, column after column
+ * @param b [in] p by q numbers
  * @param q columns of b
- * @param c [in] numbers, q by r, column after column
+ * @param c [in] q by r numbers
  * @param r columns of c
  * @param d [out] n by r numbers, column after column; may be an array that is read
  * @return 0
@@ -54,7 +54,7 @@ KORVEL_FLAT int VB_M_ProductABC(const double* a, int n, int p, const double* b, 
  * Product of three tables, d = a' * b * c.
  *
  * @like VB_M_ProductABC
- * @param b [in] numbers, n by q, column after column
+ * @param b [in] n by q numbers
  * @param d [out] p by r numbers, column after column; may be an array that is read
  */
 KORVEL_FLAT int VB_M_ProductTrABC(const double* a, int n, int p, const double* b, int q, const double* c,
@@ -64,7 +64,7 @@ KORVEL_FLAT int VB_M_ProductTrABC(const double* a, int n, int p, const double* b
  * Product of three tables, d = a * b' * c.
  *
  * @like VB_M_ProductABC
- * @param b [in] numbers, q by p, column after column
+ * @param b [in] q by p numbers
  * @param q rows of b
  */
 KORVEL_FLAT int VB_M_ProductATrBC(const double* a, int n, int p, const double* b, int q, const double* c,
@@ -73,10 +73,10 @@ KORVEL_FLAT int VB_M_ProductATrBC(const double* a, int n, int p, const double* b
 /**
  * Product of two tables and a vector, y = a' * b * v.
  *
- * @param a [in] numbers, n by p, column after column
+ * @param a [in] n by p numbers
  * @param n rows of a
  * @param p columns of a
- * @param b [in] numbers, n by q, column after column
+ * @param b [in] n by q numbers
  * @param q columns of b
  * @param v [in] q numbers
  * @param y [out] p numbers; may be an array that is read

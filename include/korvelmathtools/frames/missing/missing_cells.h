@@ -35,7 +35,7 @@ KORVEL_FLAT int VB_M_ReplaceMissingByValSPV(Hostarray** x, int rows, int cols, d
  * @param x    [inout] rows by cols texts, replaced where they are empty
  * @param rows rows of the table
  * @param cols columns of the table; 0 stands for 1
- * @param val  [in] what an empty text becomes
+ * @param val  [in] one text: what an empty one becomes
  * @return 0
  */
 KORVEL_FLAT int VB_M_ReplaceMissingByStr(OLECHAR** x, int rows, int cols, const OLECHAR* val);
@@ -57,7 +57,7 @@ KORVEL_FLAT int Cpp_M_ReplaceMissingByVal_ST(ST_MVect* x, int rows, int cols, do
  * @param x    [inout] table of texts
  * @param rows rows of the table
  * @param cols columns of the table
- * @param val  [in] what an empty text becomes
+ * @param val  [in] one text: what an empty one becomes
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_ReplaceMissingByStr_ST(ST_MVect* x, int rows, int cols, const OLECHAR* val);
@@ -121,7 +121,7 @@ KORVEL_FLAT int Cpp_M_IdentifyMissingInMatSPV(Hostarray** x, int rows, int cols,
  * @param x       [in] n by p numbers
  * @param n       rows of the table
  * @param p       columns of the table; 0 stands for 1
- * @param weights [inout] n by p weights, or n for mode 1
+ * @param weights [inout] n by p weights, or n weights when mode is 1
  * @param mode    1: a row with a missing number gets weight 0; otherwise the weight cell of each missing
  * number does
  * @return 0

@@ -38,9 +38,9 @@ KORVEL_FLAT int VB_V_GetMissingStr(OLECHAR* const* x, int n, const short int* iM
  * @param x           [in] rows by cols numbers
  * @param rows        rows of the table
  * @param cols        columns of the table; 0 stands for 1
- * @param iMissing    [in] a flag for each row, -1 for one that is left out; null: none is
- * @param iMissingOut [out] a flag for each row: -1 when its flag is -1 or a cell of it is missing, otherwise
- * 0; it may be iMissing
+ * @param iMissing    [in] rows flags, one for each row, -1 for one that is left out; null: none is
+ * @param iMissingOut [out] rows flags, one for each row: -1 when its flag is -1 or a cell of it is missing,
+ * otherwise 0; it may be iMissing
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_GetMissingDbl(const double* x, int rows, int cols, const short int* iMissing,
@@ -52,9 +52,9 @@ KORVEL_FLAT int Cpp_M_GetMissingDbl(const double* x, int rows, int cols, const s
  * @param x           [in] rows by cols texts
  * @param rows        rows of the table
  * @param cols        columns of the table; 0 stands for 1
- * @param iMissing    [in] a flag for each row, -1 for one that is left out; null: none is
- * @param iMissingOut [out] a flag for each row: -1 when its flag is -1 or a cell of it is missing, otherwise
- * 0; it may be iMissing
+ * @param iMissing    [in] rows flags, one for each row, -1 for one that is left out; null: none is
+ * @param iMissingOut [out] rows flags, one for each row: -1 when its flag is -1 or a cell of it is missing,
+ * otherwise 0; it may be iMissing
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_GetMissingStr(OLECHAR* const* x, int rows, int cols, const short int* iMissing,
@@ -66,9 +66,9 @@ KORVEL_FLAT int Cpp_M_GetMissingStr(OLECHAR* const* x, int rows, int cols, const
  * @param x           [in] cols columns of rows numbers
  * @param rows        rows of the table
  * @param cols        columns of the table
- * @param iMissing    [in] a flag for each row, -1 for one that is left out; null: none is
- * @param iMissingOut [out] a flag for each row: -1 when its flag is -1 or a cell of it is missing, otherwise
- * 0; it may be iMissing
+ * @param iMissing    [in] rows flags, one for each row, -1 for one that is left out; null: none is
+ * @param iMissingOut [out] rows flags, one for each row: -1 when its flag is -1 or a cell of it is missing,
+ * otherwise 0; it may be iMissing
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_GetMissingDblSPV(Hostarray** x, int rows, int cols, const short int* iMissing,
@@ -78,11 +78,11 @@ KORVEL_FLAT int Cpp_M_GetMissingDblSPV(Hostarray** x, int rows, int cols, const 
  * Sets the result to -1 where one of the flags is -1, and leaves the other entries as they were.
  *
  * @param n      number of entries
- * @param count  [out] how many entries were set
+ * @param count  [out] one integer: how many entries were set
  * @param result [inout] n flags; it may be one of the others
- * @param a      [in] n flags
- * @param b      [in] n flags
- * @param c      [in] n flags; null: only the first two count
+ * @param a      [in] n flags, set where -1
+ * @param b      [in] n flags, set where -1
+ * @param c      [in] n flags, set where -1; null: only the first two count
  * @return 0
  */
 KORVEL_FLAT int VB_SummarizeMissing(int n, int* count, short int* result, const short int* a,
@@ -92,9 +92,9 @@ KORVEL_FLAT int VB_SummarizeMissing(int n, int* count, short int* result, const 
  * Sets the result to -1 where both flags are -1, and leaves the other entries as they were.
  *
  * @param n      number of entries
- * @param a      [in] n flags
- * @param b      [in] n flags
- * @param count  [out] how many entries were set
+ * @param a      [in] n flags, set where -1
+ * @param b      [in] n flags, set where -1
+ * @param count  [out] one integer: how many entries were set
  * @param result [inout] n flags; it may be one of the others
  * @return 0
  */
@@ -107,8 +107,9 @@ KORVEL_FLAT int VB_SummarizeAllMissing(int n, const short int* a, const short in
  * @param x        [in] n by p numbers
  * @param n        rows of the table
  * @param p        columns of the table; 0 stands for 1
- * @param flagsIn  [in] a flag for each row; only rows with -1 are looked at
- * @param flagsOut [inout] a flag for each row: -1 for one that has nothing but missing cells; the others stay
+ * @param flagsIn  [in] n flags, one for each row; only rows with -1 are looked at
+ * @param flagsOut [inout] n flags, one for each row: -1 for one that has nothing but missing cells; the
+ * others stay
  * @return 0
  */
 KORVEL_FLAT int VB_M_AllMissingRows(const double* x, int n, int p, const short int* flagsIn,
@@ -120,8 +121,9 @@ KORVEL_FLAT int VB_M_AllMissingRows(const double* x, int n, int p, const short i
  * @param x        [in] n by p texts
  * @param n        rows of the table
  * @param p        columns of the table; 0 stands for 1
- * @param flagsIn  [in] a flag for each row; only rows with -1 are looked at
- * @param flagsOut [inout] a flag for each row: -1 for one that has nothing but missing cells; the others stay
+ * @param flagsIn  [in] n flags, one for each row; only rows with -1 are looked at
+ * @param flagsOut [inout] n flags, one for each row: -1 for one that has nothing but missing cells; the
+ * others stay
  * @return 0
  */
 KORVEL_FLAT int VB_M_AllMissingRowsStr(OLECHAR* const* x, int n, int p, const short int* flagsIn,

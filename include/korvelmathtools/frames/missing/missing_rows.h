@@ -14,7 +14,7 @@
  * @param x     [inout] n by p numbers
  * @param n     rows of the table
  * @param p     columns of the table; 0 stands for 1
- * @param flags [in] a flag for each row; not 0: the row is taken out
+ * @param flags [in] n flags, one for each row; not 0: the row is taken out
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_RemoveRowsWithMissing2(double* x, int n, int p, const short int* flags);
@@ -26,7 +26,7 @@ KORVEL_FLAT int Cpp_M_RemoveRowsWithMissing2(double* x, int n, int p, const shor
  * @param n       rows of the table
  * @param p       columns of the table; 0 stands for 1
  * @param removed how many rows the result is shorter
- * @param flags   [in] a flag for each row; not 0: the row is taken out
+ * @param flags   [in] n flags, one for each row; not 0: the row is taken out
  * @param result  [out] n - removed by p numbers; it may be x
  * @return 0
  */
@@ -41,7 +41,7 @@ KORVEL_FLAT int VB_RemoveRowsWithMissing(const double* x, int n, int p, int remo
  * @param n       rows of the table
  * @param p       columns of the table; 0 stands for 1
  * @param removed how many rows the result is shorter
- * @param flags   [in] a flag for each row; not 0: the row is taken out
+ * @param flags   [in] n flags, one for each row; not 0: the row is taken out
  * @param result  [inout] n - removed by p texts, replaced where they differ; it may be x
  * @return 0
  */
@@ -55,7 +55,7 @@ KORVEL_FLAT int VB_RemoveRowsWithMissingStr(OLECHAR** x, int n, int p, int remov
  * @param n       rows of the table
  * @param p       columns of the table; 0 stands for 1
  * @param removed how many rows the result is shorter
- * @param flags   [in] a flag for each row; not 0: the row is taken out
+ * @param flags   [in] n flags, one for each row; not 0: the row is taken out
  * @param result  [out] n - removed by p flags; it may be x
  * @return 0
  */
@@ -68,8 +68,8 @@ KORVEL_FLAT int VB_RemoveRowsWithMissingBool(const short int* x, int n, int p, i
  * @param x        [in] n by p numbers
  * @param n        rows of the table
  * @param p        columns of the table; 0 stands for 1
- * @param iMissing [in] a flag for each row; not 0: the row is taken out
- * @param result   [out] as many rows as stay by p numbers; it may be x
+ * @param iMissing [in] n flags, one for each row; not 0: the row is taken out
+ * @param result   [out] n by p numbers, of which as many rows as stay, by p, are written; it may be x
  * @return how many rows stay
  */
 KORVEL_FLAT int Cpp_RemoveRowsWithMissingOniMissing(const double* x, int n, int p, const short int* iMissing,
@@ -81,8 +81,9 @@ KORVEL_FLAT int Cpp_RemoveRowsWithMissingOniMissing(const double* x, int n, int 
  * @param x        [in] n by p texts
  * @param n        rows of the table
  * @param p        columns of the table; 0 stands for 1
- * @param iMissing [in] a flag for each row; not 0: the row is taken out
- * @param result   [inout] as many rows as stay by p texts, replaced where they differ; it may be x
+ * @param iMissing [in] n flags, one for each row; not 0: the row is taken out
+ * @param result   [inout] n by p texts, of which as many rows as stay, by p, are replaced where they differ;
+ * it may be x
  * @return how many rows stay
  */
 KORVEL_FLAT int Cpp_RemoveRowsWithMissingOniMissingStr(OLECHAR* const* x, int n, int p,

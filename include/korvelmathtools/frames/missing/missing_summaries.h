@@ -24,8 +24,8 @@ KORVEL_FLAT double VB_V_SumIfNotMissing(const double* x, int n, const double* y)
  * @param n            rows of the table
  * @param p            columns of the table; 0 stands for 1
  * @param counts       [inout] p numbers, each of which grows by the number of such cells in its column
- * @param emptyColumns [inout] grows by 1 for each column whose count is 0 then
- * @param vector       [out] room for n by p numbers, of which the first receive the cells
+ * @param emptyColumns [inout] one number: grows by 1 for each column whose count is 0 then
+ * @param vector       [out] n by p numbers, of which the first receive the cells
  * @return 0
  */
 KORVEL_FLAT int Cpp_MatToVect_NoMissing(const double* x, int n, int p, double* counts, double* emptyColumns,

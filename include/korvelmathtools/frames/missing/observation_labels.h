@@ -13,8 +13,8 @@
  *
  * @param labels [inout] n texts, replaced where they differ
  * @param n      number of rows
- * @param flags  [inout] a flag for each row, -1 for one that gets a label; it is 0 then
- * @param prefix [in] what a made label starts with
+ * @param flags  [inout] n flags, one for each row, -1 for one that gets a label; it is 0 then
+ * @param prefix [in] one text: what a made label starts with
  * @return 0
  */
 KORVEL_FLAT int VB_ReplaceMissingObsLabels(OLECHAR** labels, int n, short int* flags, const OLECHAR* prefix);

@@ -34,7 +34,7 @@ KORVEL_FLAT double Cpp_V_MedianAbsDev(const double* x, int n, double centre, con
  *
  * @param x      [in] n numbers
  * @param n      number of elements
- * @param centre [inout] the centre; when missing, it becomes the median of x
+ * @param centre [inout] one number: the centre; when missing, it becomes the median of x
  * @return the median; missing for n below 1
  */
 KORVEL_FLAT double Cpp_V_MedianAbsDev2(const double* x, int n, double* centre);

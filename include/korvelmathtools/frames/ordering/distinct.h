@@ -42,8 +42,8 @@ KORVEL_FLAT int Cpp_V_NbDistinctStr(OLECHAR* const* x, int n);
  *
  * @param x    [in] n numbers
  * @param n    number of elements
- * @param out  [out] room for n numbers; the values
- * @param nOut [out] their number, 0 for n below 1
+ * @param out  [out] n numbers; the values
+ * @param nOut [out] one integer: their number, 0 for n below 1
  * @return 0
  */
 KORVEL_FLAT int VB_V_ExtractDistinct(const double* x, int n, double* out, int* nOut);

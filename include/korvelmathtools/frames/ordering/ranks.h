@@ -35,8 +35,9 @@ KORVEL_FLAT int VB_V_GetRanksLng(const double* x, int n, int* out);
  * @param bRestore -1: x, w and ranks return to the original order; otherwise they stay sorted
  * @param w        [inout] n weights, sorted along
  * @param ranks    [out] n ranks
- * @param nTies    [out] number of groups: tied ones, and single elements that weigh more than 1
- * @param tieSizes [out] room for n numbers; the weight of each group
+ * @param nTies    [out] one integer: the number of groups: tied ones, and single elements that weigh more
+ * than 1
+ * @param tieSizes [out] n numbers; the weight of each group
  * @return 0
  */
 KORVEL_FLAT int VB_V_GetRanksTiesDbl(double* x, int n, short int bRestore, double* w, double* ranks,
@@ -60,8 +61,9 @@ KORVEL_FLAT int VB_V_GetRanksTiesDbl2(double* x, int n, short int bRestore, doub
  * @param n        number of elements
  * @param w        [in] n weights
  * @param ranks    [out] n ranks, in the order of x
- * @param nTies    [out] number of groups: tied ones, and single elements that weigh more than 1
- * @param tieSizes [out] room for n numbers; the weight of each group
+ * @param nTies    [out] one integer: the number of groups: tied ones, and single elements that weigh more
+ * than 1
+ * @param tieSizes [out] n numbers; the weight of each group
  * @return 0
  */
 KORVEL_FLAT int VB_V_GetRanksTiesIntDbl(const double* x, int n, const double* w, double* ranks, int* nTies,
@@ -73,8 +75,8 @@ KORVEL_FLAT int VB_V_GetRanksTiesIntDbl(const double* x, int n, const double* w,
  *
  * @param k   linear index, from 1
  * @param n   order of the table
- * @param row [out] row, from 1
- * @param col [out] column, from 1
+ * @param row [out] one integer: row, from 1
+ * @param col [out] one integer: column, from 1
  * @return 0
  */
 KORVEL_FLAT int VB_V_GetPositionInMatNNm1o2(int k, int n, int* row, int* col);

@@ -15,12 +15,12 @@
  * @param x       [in] n scores
  * @param n       number of scores; below 1 all boxes are 0
  * @param w       [in] n weights
- * @param top1    [out] weight of the highest level
- * @param bottom1 [out] weight of the lowest level
- * @param top2    [out] weight of the highest two levels
- * @param bottom2 [out] weight of the lowest two levels
- * @param top3    [out] weight of the highest three levels
- * @param bottom3 [out] weight of the lowest three levels
+ * @param top1    [out] one number: weight of the highest level
+ * @param bottom1 [out] one number: weight of the lowest level
+ * @param top2    [out] one number: weight of the highest two levels
+ * @param bottom2 [out] one number: weight of the lowest two levels
+ * @param top3    [out] one number: weight of the highest three levels
+ * @param bottom3 [out] one number: weight of the lowest three levels
  * @return 0
  */
 KORVEL_FLAT int Cpp_V_TopBottom3Box(const double* x, int n, const double* w, double* top1, double* bottom1,

@@ -38,9 +38,9 @@ KORVEL_FLAT int Cpp_GenerateIndicator_ST(SAFEARRAY** out, int n, int first, int 
  * @param out      [out] n numbers, 1 for the elements of the subset, 0 for the others
  * @param n        number of elements
  * @param k        size of the subset; below 1 none, from n on all
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
+ * @param seed     [inout] one integer: the seed, when flag is not 0; receives the seed in use when flag is 0
  * @param flag     not 0: a seed is given
- * @param nextSeed [out] a seed for the next run
+ * @param nextSeed [out] one integer: a seed for the next run
  * @return 0
  */
 KORVEL_FLAT int VB_GenerateRandomIndicator(double* out, int n, int k, int* seed, short int flag,

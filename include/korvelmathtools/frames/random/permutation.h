@@ -19,9 +19,9 @@
  * @param n        number of elements; below 2 nothing is drawn
  * @param bReset   -1: start from 1 to n in order, as is also done when the first element is 0. Otherwise what
  * out holds is shuffled
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     [inout] 0 when no seed is given, and then set to -1
- * @param nextSeed [out] a seed for the next run
+ * @param seed     [inout] one integer: the seed, when flag is not 0; receives the seed in use when flag is 0
+ * @param flag     [inout] one flag: 0 when no seed is given, and then set to -1
+ * @param nextSeed [out] one integer: a seed for the next run
  * @return 0
  */
 KORVEL_FLAT int Cpp_Random1toNLong(int* out, int n, short int bReset, int* seed, short int* flag,
@@ -44,9 +44,9 @@ KORVEL_FLAT int Cpp_Random1toNDbl(double* out, int n, short int bReset, int* see
  * @param b        the largest integer
  * @param bReset   -1: start from a to b in order, as is also done when the first element is 0. Otherwise what
  * out holds is shuffled, and a - 1 added to it
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
- * @param flag     [inout] 0 when no seed is given, and then set to -1
- * @param nextSeed [out] a seed for the next run
+ * @param seed     [inout] one integer: the seed, when flag is not 0; receives the seed in use when flag is 0
+ * @param flag     [inout] one flag: 0 when no seed is given, and then set to -1
+ * @param nextSeed [out] one integer: a seed for the next run
  * @return 0
  */
 KORVEL_FLAT int Cpp_RandomAtoBLng(int* out, int a, int b, short int bReset, int* seed, short int* flag,

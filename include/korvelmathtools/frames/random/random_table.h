@@ -13,9 +13,9 @@
  * @param out      [out] rows by cols numbers, each as Cpp_Random01 returns it
  * @param rows     number of rows; below 1 nothing is drawn
  * @param cols     number of columns; below 1 nothing is drawn
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
+ * @param seed     [inout] one integer: the seed, when flag is not 0; receives the seed in use when flag is 0
  * @param flag     not 0: a seed is given
- * @param nextSeed [out] a seed for the next run
+ * @param nextSeed [out] one integer: a seed for the next run
  * @return 0
  *
  * The seeding and the next seed are done in every case.

@@ -19,9 +19,9 @@
  * @param k        size of the sample
  * @param sample   [inout] k by cols texts
  * @param selected [out] k numbers: the row number of each row of the sample, ascending
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
+ * @param seed     [inout] one integer: the seed, when flag is not 0; receives the seed in use when flag is 0
  * @param flag     not 0: a seed is given
- * @param nextSeed [out] a seed for the next run
+ * @param nextSeed [out] one integer: a seed for the next run
  * @return 0
  */
 KORVEL_FLAT int VB_M_SamplingWithReplacement(OLECHAR* const* table, int rows, int cols, int k,
@@ -34,9 +34,9 @@ KORVEL_FLAT int VB_M_SamplingWithReplacement(OLECHAR* const* table, int rows, in
  * @param table    [in] rows by cols texts
  * @param rows     number of rows
  * @param cols     number of columns
- * @param sample   [inout] texts, cols columns of as many rows as the truncated positive counts add up to
+ * @param sample   [inout] sum(counts) by cols texts, the sum being that of the truncated positive counts
  * @param counts   [in] rows numbers, truncated; a row with a number below 1 is left out
- * @param selected [out] a number for each row of the sample: its row number in the table
+ * @param selected [out] sum(counts) numbers: the row number in the table of each row of the sample
  * @return 0
  */
 KORVEL_FLAT int VB_M_SampleUserDefined(OLECHAR* const* table, int rows, int cols, OLECHAR** sample,
@@ -74,9 +74,9 @@ KORVEL_FLAT int VB_M_SamplingSystematicRdStart(OLECHAR* const* table, int rows, 
  * @param k        size of the sample; of 1, or above the number of rows, takes one row
  * @param sample   [inout] host array of cols records, each with a text column of k texts
  * @param selected [inout] rows numbers: receives rows + 1 for each row that is not taken; the others stay
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
+ * @param seed     [inout] one integer: the seed, when flag is not 0; receives the seed in use when flag is 0
  * @param flag     not 0: a seed is given
- * @param nextSeed [out] a seed for the next run
+ * @param nextSeed [out] one integer: a seed for the next run
  * @return 0
  */
 KORVEL_FLAT int VB_M_SamplingSystematicRdStartSPV(Hostarray** table, int rows, int cols, int k,
@@ -132,11 +132,11 @@ KORVEL_FLAT int VB_M_SamplingRandomStratifiedSPV(Hostarray** table, int rows, in
  * @param sample   [inout] k by cols texts: stratum after stratum in ascending order of the labels
  * @param strata   [in] rows labels
  * @param selected [inout] k numbers: the row number of each row of the sample
- * @param counts   [in] the size of the sample from each stratum, truncated, as many as nCounts
+ * @param counts   [in] nCounts numbers: the size of the sample from each stratum, truncated
  * @param nCounts  number of strata
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
+ * @param seed     [inout] one integer: the seed, when flag is not 0; receives the seed in use when flag is 0
  * @param flag     not 0: a seed is given
- * @param nextSeed [out] a seed for the next run
+ * @param nextSeed [out] one integer: a seed for the next run
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_SamplingRandomStratifiedByStr(OLECHAR* const* table, int rows, int cols, int k,

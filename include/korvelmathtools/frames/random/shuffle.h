@@ -14,9 +14,9 @@
  *
  * @param x        [inout] n numbers
  * @param n        number of elements
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
+ * @param seed     [inout] one integer: the seed, when flag is not 0; receives the seed in use when flag is 0
  * @param flag     not 0: a seed is given
- * @param nextSeed [out] a seed for the next run
+ * @param nextSeed [out] one integer: a seed for the next run
  * @return 0
  */
 KORVEL_FLAT int Cpp_V_Shuffle(double* x, int n, int* seed, short int flag, int* nextSeed);
@@ -34,9 +34,9 @@ KORVEL_FLAT int Cpp_V_ShuffleLng(int* x, int n, int* seed, short int flag, int* 
  * @param x        [inout] rows by cols numbers
  * @param rows     number of rows
  * @param cols     number of columns
- * @param seed     [inout] the seed, when flag is not 0; receives the seed in use when flag is 0
+ * @param seed     [inout] one integer: the seed, when flag is not 0; receives the seed in use when flag is 0
  * @param flag     not 0: a seed is given
- * @param nextSeed [out] a seed for the next run
+ * @param nextSeed [out] one integer: a seed for the next run
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_ShuffleDbl2(double* x, int rows, int cols, int* seed, short int flag, int* nextSeed);

@@ -24,7 +24,8 @@
  * @param cols      columns
  * @param means     [out] cols means
  * @param sds       [out] cols deviations
- * @param iMissing  [in] rows flags, read only when flag is 0; may be null, then none is set
+ * @param iMissing  [in] rows flags, read only when flag is 0; a row with a flag other than 0 is left
+ * out; may be null, then none is
  * @param w         [in] rows weights
  * @param bUnbiased whether the denominator is corrected; true only when -1
  * @param bFreq     how it is; true only when -1
@@ -63,9 +64,9 @@ KORVEL_FLAT int VB_M_MeanStDevByRow(const double* x, int rows, int cols, double*
  * weight of its row.
  *
  * @like VB_M_MeanStDev
- * @param mean      [out] the mean
- * @param sd        [out] the deviation
- * @param var       [out] the variance
+ * @param mean      [out] one number: the mean
+ * @param sd        [out] one number: the deviation
+ * @param var       [out] one number: the variance
  */
 KORVEL_FLAT int VB_M_MeanStDevVarOneInMat(const double* x, int rows, int cols, double* mean, double* sd,
                                           double* var, const double* w, short int bUnbiased, short int bFreq);

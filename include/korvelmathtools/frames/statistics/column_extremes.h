@@ -17,7 +17,8 @@
  * @param cols     columns
  * @param mins     [out] cols smallest numbers
  * @param maxs     [out] cols largest numbers
- * @param iMissing [in] rows flags, read only when flag is 0; may be null, then none is set
+ * @param iMissing [in] rows flags, read only when flag is 0; a row with a flag other than 0 is left
+ * out; may be null, then none is
  * @param flag     -1: every number that is not missing counts; 0: every number of a row whose flag is 0
  * counts, a missing one too; any other value: none counts
  * @return 0
@@ -33,7 +34,8 @@ KORVEL_FLAT int VB_M_MinMax(const double* x, int rows, int cols, double* mins, d
  * @param cols     columns
  * @param mins     [out] cols smallest numbers
  * @param maxs     [out] cols largest numbers
- * @param iMissing [in] rows flags, read only when flag is 0; may be null, then none is set
+ * @param iMissing [in] rows flags, read only when flag is 0; a row with a flag other than 0 is left
+ * out; may be null, then none is
  * @param flag     -1: every number that is not missing counts; 0: every number of a row whose flag is 0
  * counts, a missing one too; any other value: none counts
  * @return 0
@@ -50,7 +52,8 @@ KORVEL_FLAT int VB_M_MinMaxSPV(Hostarray** x, int rows, int cols, double* mins, 
  * @param cols     columns
  * @param mins     [out] cols smallest numbers
  * @param maxs     [out] cols largest numbers
- * @param iMissing [in] rows flags, read only when flag is 0; may be null, then none is set
+ * @param iMissing [in] rows flags, read only when flag is 0; a row with a flag other than 0 is left
+ * out; may be null, then none is
  * @param flag     -1: every number that is not missing counts; 0: every number of a row whose flag is 0
  * counts, a missing one too; any other value: none counts
  * @return 0

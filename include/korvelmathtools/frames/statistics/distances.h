@@ -15,8 +15,8 @@
  * @param x     [in] rows by cols numbers
  * @param rows  rows
  * @param cols  columns
- * @param w     [in] a weight for each coordinate: rows of them between columns, cols between rows
- * @param out   [out] cols by cols distances between columns, nRows by nRows between rows
+ * @param w     [in] rows weights, or cols weights when bRows is -1, one for each coordinate
+ * @param out   [out] cols by cols distances, or nRows by nRows distances when bRows is -1
  * @param bRows -1: between rows; otherwise between columns
  * @param nRows the number of first rows to compare; not used between columns
  * @return 0
@@ -31,9 +31,9 @@ KORVEL_FLAT int VB_M_EuclidDist2(const double* x, int rows, int cols, const doub
  * @param x     [in] rows by cols numbers
  * @param rows  rows
  * @param cols  columns
- * @param v     [in] rows numbers for columns, cols numbers for rows
+ * @param v     [in] rows numbers, or cols numbers when bRows is -1
  * @param bRows -1: of each row; otherwise of each column
- * @param out   [out] cols or rows distances; missing where no coordinate is kept
+ * @param out   [out] cols distances, or rows distances when bRows is -1; missing where no coordinate is kept
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_EuclidDistToVector(const double* x, int rows, int cols, const double* v,
@@ -45,8 +45,8 @@ KORVEL_FLAT int Cpp_M_EuclidDistToVector(const double* x, int rows, int cols, co
  * @param x    [in] rows by cols numbers
  * @param rows rows
  * @param cols columns
- * @param d    [out] the largest root of a row's sum of squares; missing without rows
- * @param row  [out] the number of the first such row, from 1; 0 without rows
+ * @param d    [out] one number: the largest root of a row's sum of squares; missing without rows
+ * @param row  [out] one integer: the number of the first such row, from 1; 0 without rows
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_GetMaxDistToOrigin(const double* x, int rows, int cols, double* d, int* row);

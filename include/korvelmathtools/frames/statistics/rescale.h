@@ -31,7 +31,7 @@ KORVEL_FLAT int VB_V_Rescale(const double* x, int n, double lo, double hi, const
  * @param n        number of elements
  * @param lo       what the smallest becomes
  * @param hi       what the largest becomes
- * @param iMissing [in] n flags; may be null
+ * @param iMissing [in] n flags; what has a flag other than 0 is left out; may be null
  * @return 0
  */
 KORVEL_FLAT int VB_V_Rescale2(double* x, int n, double lo, double hi, const short int* iMissing);
@@ -44,7 +44,7 @@ KORVEL_FLAT int VB_V_Rescale2(double* x, int n, double lo, double hi, const shor
  * @param cols     columns
  * @param lo       [in] cols lower ends
  * @param hi       [in] cols upper ends
- * @param iMissing [in] rows flags; may be null
+ * @param iMissing [in] rows flags; what has a flag other than 0 is left out; may be null
  * @param out      [out] rows by cols numbers, missing where a cell is left out; may be the array of x
  * @return 0
  */
@@ -59,7 +59,7 @@ KORVEL_FLAT int VB_M_RescaleByVect(const double* x, int rows, int cols, const do
  * @param cols     columns
  * @param lo       [in] cols lower ends
  * @param hi       [in] cols upper ends
- * @param iMissing [in] rows flags; may be null
+ * @param iMissing [in] rows flags; what has a flag other than 0 is left out; may be null
  * @return 0
  */
 KORVEL_FLAT int VB_M_RescaleByVect2(double* x, int rows, int cols, const double* lo, const double* hi,
@@ -73,10 +73,10 @@ KORVEL_FLAT int VB_M_RescaleByVect2(double* x, int rows, int cols, const double*
  * @param n       number of elements
  * @param bRobust 0: (x - centre) / scale; any other value: 0.6745 * (x - median) / MAD, by the median and the
  * median absolute deviation, in which a missing number counts as the smallest
- * @param centre  [inout] the centre; when it is missing, it and scale become the mean and the standard
- * deviation, divided by the number of elements less 1, of the numbers above the missing one. Not used, and
- * may be null, for the robust scores
- * @param scale   [inout] the deviation; the same
+ * @param centre  [inout] one number: the centre; when it is missing, it and scale become the mean and the
+ * standard deviation, divided by the number of elements less 1, of the numbers above the missing one. Not
+ * used, and may be null, for the robust scores
+ * @param scale   [inout] one number: the deviation; the same
  * @param out     [out] n scores; may be the array of x
  * @return 0
  */

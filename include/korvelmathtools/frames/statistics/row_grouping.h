@@ -18,7 +18,7 @@
  * @param groupCol the key column, from 1
  * @param method   aggregate of the other columns: 0 sum, 1 mean, 2 median, 3 first row, 4 last row, 5
  * minimum, 6 maximum, 7 range; any other number leaves the sorted input
- * @param nOut     [out] number of groups
+ * @param nOut     [out] one integer: the number of groups
  * @param out      [out] rows by cols numbers; the first nOut rows are the result, those below keep the sorted
  * input
  * @return 0
@@ -44,7 +44,7 @@ KORVEL_FLAT int VB_M_GroupByW(const double* x, int rows, int cols, const int* ki
  * @param x    [in] rows by p + 1 numbers: p data columns, then an identifier of the row
  * @param rows rows of both tables
  * @param p    number of data columns
- * @param nOut [out] number of rows kept
+ * @param nOut [out] one integer: the number of rows kept
  * @param out  [out] rows by p + 3 numbers: the data, the number of rows merged (0 for a dropped row), the
  * identifier, and 1 for a kept row, 0 for a dropped one
  * @return 0

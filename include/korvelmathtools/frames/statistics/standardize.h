@@ -41,7 +41,7 @@ KORVEL_FLAT int VB_M_Standardize(double* x, int rows, int cols, double* out, dou
  *
  * @param x         [in] n numbers
  * @param n         number of elements
- * @param iMissing  [in] n flags; may be null
+ * @param iMissing  [in] n flags; what has a flag other than 0 is left out; may be null
  * @param w         [in] n weights; may be null
  * @param bUnbiased whether the denominator is corrected; true only when -1
  * @param out       [out] n numbers; may be the array of x
@@ -55,7 +55,7 @@ KORVEL_FLAT int VB_V_Standardize(const double* x, int n, const short int* iMissi
  *
  * @param x         [inout] n numbers
  * @param n         number of elements
- * @param iMissing  [in] n flags; may be null
+ * @param iMissing  [in] n flags; what has a flag other than 0 is left out; may be null
  * @param w         [in] n weights; may be null
  * @param bUnbiased whether the denominator is corrected; true only when -1
  * @return 0

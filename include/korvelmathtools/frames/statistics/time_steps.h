@@ -24,7 +24,8 @@ KORVEL_FLAT double VB_V_TimeIntervalSize(const double* x, int n, short int bSort
  * @param x    [in] n numbers
  * @param n    number of elements
  * @param kind 2: dates, as days since 30 December 1899; otherwise numbers
- * @param d    [out] the first difference; the missing number when the steps differ or there is none
+ * @param d    [out] one number: the first difference; the missing number when the steps differ or there is
+ * none
  * @return 0
  */
 KORVEL_FLAT int Cpp_V_CheckDateInterval(const double* x, int n, int kind, double* d);

@@ -100,8 +100,8 @@ KORVEL_FLAT int VB_V_MaxInt(const int* x, int n, const short int* iMissing);
  *
  * @param x        [in] n numbers
  * @param n        number of elements
- * @param min      [out] the smallest
- * @param max      [out] the largest
+ * @param min      [out] one number: the smallest
+ * @param max      [out] one number: the largest
  * @param iMissing [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @return 0
  */
@@ -112,8 +112,8 @@ KORVEL_FLAT int VB_V_MinMax(const double* x, int n, double* min, double* max, co
  *
  * @param x        [in] n integers
  * @param n        number of elements
- * @param min      [out] the smallest, as a number
- * @param max      [out] the largest, as a number
+ * @param min      [out] one number: the smallest, as a number
+ * @param max      [out] one number: the largest, as a number
  * @param iMissing [in] n flags; an element with a non-zero flag is left out
  * @return 0
  */
@@ -125,8 +125,9 @@ KORVEL_FLAT int VB_V_MinMaxLng(const int* x, int n, double* min, double* max, co
  *
  * @param x            [in] n numbers
  * @param n            number of elements; with none, element 1 reads as -1
- * @param min          [out] the smallest; missing when missing elements are passed over and there is no other
- * @param max          [out] the largest; in that case element 1
+ * @param min          [out] one number: the smallest; missing when missing elements are passed over and there
+ * is no other
+ * @param max          [out] one number: the largest; in that case element 1
  * @param bSkipMissing not 0: missing elements are passed over
  * @return 0
  */
@@ -137,9 +138,9 @@ KORVEL_FLAT int VB_V_MinMax2(const double* x, int n, double* min, double* max, s
  *
  * @param x            [in] n integers
  * @param n            number of elements; with none, element 1 reads as -1
- * @param min          [out] the smallest, as a number; with no elements and bSkipMissing not 0 the missing
- * number
- * @param max          [out] the largest, as a number
+ * @param min          [out] one number: the smallest, as a number; with no elements and bSkipMissing not 0
+ * the missing number
+ * @param max          [out] one number: the largest, as a number
  * @param bSkipMissing no integer is missing, so this matters only without elements; true unless 0
  * @return 0
  */
@@ -150,7 +151,7 @@ KORVEL_FLAT int VB_V_MinMaxLng2(const int* x, int n, double* min, double* max, s
  *
  * @param x     [in] n numbers
  * @param n     number of elements; below 2 only the first is read
- * @param pos   [out] the position, from 1
+ * @param pos   [out] one integer: the position, from 1
  * @param bLast not 0: the last of equal elements; 0: the first
  * @return the element
  */

@@ -33,7 +33,7 @@ KORVEL_FLAT double VB_V_FreqLng(const int* x, int n, const double* w, double val
  * @param labels [in] n texts, each up to its first NUL
  * @param n      number of elements
  * @param w      [in] n weights
- * @param value  [in] a text (BSTR), up to its first NUL. Null: the empty text
+ * @param value  [in] one text (BSTR), up to its first NUL. Null: the empty text
  * @return the sum of their weights; 0.0 when there are none
  */
 KORVEL_FLAT double VB_V_FreqStr(OLECHAR* const* labels, int n, const double* w, const OLECHAR* value);

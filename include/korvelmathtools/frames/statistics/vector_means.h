@@ -64,9 +64,9 @@ KORVEL_FLAT double Cpp_V_HarmonicMean(const double* x, int n, const short int* i
  * @param n        number of elements
  * @param iMissing [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @param w        [in] n weights; a missing one is a number like any other
- * @param gmean    [out] the geometric mean
- * @param gsd      [out] the geometric standard deviation: missing when the denominator is exactly 0, 0.0 when
- * the variance of the logarithms is negative
+ * @param gmean    [out] one number: the geometric mean
+ * @param gsd      [out] one number: the geometric standard deviation: missing when the denominator is exactly
+ * 0, 0.0 when the variance of the logarithms is negative
  * @return 0. Both results are missing when no element is kept or one that is kept is not greater than 0
  */
 KORVEL_FLAT int Cpp_V_GMeanGSD(const double* x, int n, const short int* iMissing, const double* w,

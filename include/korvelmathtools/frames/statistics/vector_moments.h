@@ -22,15 +22,16 @@
  *
  * @param x         [in] n numbers
  * @param n         number of elements
- * @param mean      [out] the mean
- * @param var       [out] the variance: the sum of squares over S - u if bUnbiased, over S otherwise
- * @param skewP     [out] the skewness of the population
- * @param kurtP     [out] the excess kurtosis of the population
- * @param skew      [out] the skewness corrected for the sample size; missing unless S is above 2a
- * @param kurt      [out] the excess kurtosis corrected for the sample size; missing unless S is above 2u and
- * 3u
- * @param seSkew    [out] the standard error of skew; missing with it
- * @param seKurt    [out] the standard error of kurt; missing with it
+ * @param mean      [out] one number: the mean
+ * @param var       [out] one number: the variance: the sum of squares over S - u if bUnbiased, over S
+ * otherwise
+ * @param skewP     [out] one number: the skewness of the population
+ * @param kurtP     [out] one number: the excess kurtosis of the population
+ * @param skew      [out] one number: the skewness corrected for the sample size; missing unless S is above 2a
+ * @param kurt      [out] one number: the excess kurtosis corrected for the sample size; missing unless S is
+ * above 2u and 3u
+ * @param seSkew    [out] one number: the standard error of skew; missing with it
+ * @param seKurt    [out] one number: the standard error of kurt; missing with it
  * @param iMissing  [in] n flags; an element with a non-zero flag is left out, and so is a missing one
  * @param w         [in] n weights; a missing one is a number like any other
  * @param bUnbiased true only when -1

@@ -68,7 +68,7 @@ KORVEL_FLAT double Cpp_V_Sum2Lng_ST(SAFEARRAY** sa, int n);
 /**
  * Sum over a stretch of a vector, missing elements too.
  *
- * @param x    [in] numbers, at least as many as `to`
+ * @param x    [in] to numbers, or more
  * @param n    not used
  * @param from first position, from 1
  * @param to   last position, from 1

@@ -24,7 +24,8 @@ KORVEL_FLAT short int VB_V_IsPositive(const double* x, int n, short int bStrict)
  * @param x        [in] rows by cols numbers
  * @param rows     rows of the table
  * @param cols     columns of the table; 0 stands for 1
- * @param iMissing [in] a flag for each row; a row with a flag other than 0 is left out. Null: none is
+ * @param iMissing [in] rows flags, one for each row; a row with a flag other than 0 is left out. Null: none
+ * is
  * @param bStrict  not 0: a number must be above 0; 0: it may be 0
  * @return -1 or 0
  */
@@ -37,7 +38,8 @@ KORVEL_FLAT short int Cpp_M_IsPositive(const double* x, int rows, int cols, cons
  * @param x        [in] table of numbers
  * @param rows     rows to test
  * @param cols     columns to test
- * @param iMissing [in] a flag for each row; a row with a flag other than 0 is left out. Null: none is
+ * @param iMissing [in] rows flags, one for each row; a row with a flag other than 0 is left out. Null: none
+ * is
  * @param bStrict  not 0: a number must be above 0; 0: it may be 0
  * @return -1 or 0
  */
@@ -67,7 +69,7 @@ KORVEL_FLAT short int Cpp_V_IsWeights_ST(SAFEARRAY** x, int n);
  *
  * @param x     [in] host array of Double
  * @param n     number of elements
- * @param bAll1 [out] -1 when every number that is not missing is exactly 1, otherwise 0
+ * @param bAll1 [out] one flag: -1 when every number that is not missing is exactly 1, otherwise 0
  * @return -1 or 0; 0 for nothing
  */
 KORVEL_FLAT short int Cpp_V_IsWeightsAndAll1_ST(SAFEARRAY** x, int n, short int* bAll1);
@@ -189,7 +191,7 @@ KORVEL_FLAT short int Cpp_V_FindLng(const int* x, int n, int val);
  *
  * @param x   [in] n texts
  * @param n   number of elements
- * @param val [in] the text to find
+ * @param val [in] one text, to be found
  * @return -1 or 0; 0 for nothing
  */
 KORVEL_FLAT short int Cpp_V_FindStr(OLECHAR* const* x, int n, const OLECHAR* val);

@@ -48,8 +48,8 @@ KORVEL_FLAT double VB_V_Stdev(const double* x, int n, const short int* iMissing,
  * Weighted mean and variance. When nothing is kept both are 0.0.
  *
  * @like VB_V_Var
- * @param mean      [out] the mean
- * @param var       [out] the variance: missing unless the denominator is greater than 0
+ * @param mean      [out] one number: the mean
+ * @param var       [out] one number: the variance: missing unless the denominator is greater than 0
  * @return 0
  */
 KORVEL_FLAT int VB_V_MeanVar(const double* x, int n, double* mean, double* var, const short int* iMissing,
@@ -61,8 +61,8 @@ KORVEL_FLAT int VB_V_MeanVar(const double* x, int n, double* mean, double* var, 
  * @param x         [in] n numbers
  * @param n         number of elements
  * @param w         [in] n weights; a missing one is a number like any other
- * @param mean      [out] the mean; 0.0 when there is no such element
- * @param var       [out] the variance: missing unless the denominator is greater than 0
+ * @param mean      [out] one number: the mean; 0.0 when there is no such element
+ * @param var       [out] one number: the variance: missing unless the denominator is greater than 0
  * @param bUnbiased whether the denominator is corrected; true only when -1
  * @param bFreq     how it is; true only when -1
  * @return 0
@@ -74,9 +74,9 @@ KORVEL_FLAT int Cpp_V_MeanVarW2(const double* x, int n, const double* w, double*
  * Weighted mean and standard deviation. When nothing is kept both are 0.0.
  *
  * @like VB_V_Var
- * @param mean      [out] the mean
- * @param sd        [out] the standard deviation: missing unless the denominator is greater than 0, and for a
- * negative variance
+ * @param mean      [out] one number: the mean
+ * @param sd        [out] one number: the standard deviation: missing unless the denominator is greater than
+ * 0, and for a negative variance
  * @return 0
  */
 KORVEL_FLAT int VB_V_MeanStdev(const double* x, int n, double* mean, double* sd, const short int* iMissing,
@@ -89,8 +89,8 @@ KORVEL_FLAT int VB_V_MeanStdev(const double* x, int n, double* mean, double* sd,
  * @param x         [in] n numbers
  * @param n         number of elements
  * @param bUnbiased -1: divided by the number kept less 1, otherwise by the number kept
- * @param mean      [out] the mean; 0.0 when nothing is kept
- * @param sd        [out] the standard deviation; a NaN with one element and unbiased;
+ * @param mean      [out] one number: the mean; 0.0 when nothing is kept
+ * @param sd        [out] one number: the standard deviation; a NaN with one element and unbiased;
  * without elements a NaN, or -0.0 when unbiased
  * @return 0
  */

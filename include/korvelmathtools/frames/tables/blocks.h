@@ -20,7 +20,7 @@
  * @param lastRow  last row of the block; below firstRow nothing is done
  * @param firstCol first column of the block
  * @param lastCol  last column of the block; below firstCol nothing is done
- * @param out      [out] the numbers of the block
+ * @param out      [out] lastRow - firstRow + 1 by lastCol - firstCol + 1 numbers
  * @return 0
  */
 KORVEL_FLAT int VB_M_CopyBlock(const double* x, int rows, int cols, int firstRow, int lastRow, int firstCol,

@@ -22,7 +22,7 @@ KORVEL_FLAT int VB_V_ReplaceDoubles(OLECHAR** labels, int n);
  * @param a   [in] n texts
  * @param n   number of labels
  * @param b   [in] n texts
- * @param sep [in] what stands between them
+ * @param sep [in] one text: what stands between them
  * @param out [inout] n texts, replaced where they differ; it may be a or b
  * @return 0
  */

@@ -21,7 +21,7 @@
  * @param b     [in] rowsB by colsB numbers
  * @param rowsB rows of the second table
  * @param colsB columns of the second table; 0 stands for 1
- * @param out   [out] numbers, as many rows as the longer table by colsA + colsB: the columns of the first
+ * @param out   [out] max(rowsA, rowsB) by colsA + colsB numbers: the columns of the first
  * table, then those of the second
  * @return 0
  */
@@ -115,7 +115,7 @@ KORVEL_FLAT int VB_HMergeTablesDbl2SPV2(Hostarray** a, int rowsA, int colsA, Hos
  * @param nA  length of the first vector
  * @param b   [in] nB numbers
  * @param nB  length of the second vector
- * @param out [out] as many rows as the longer vector by 2 numbers
+ * @param out [out] max(nA, nB) by 2 numbers
  * @return 0
  */
 KORVEL_FLAT int VB_HMergeVectors(const double* a, int nA, const double* b, int nB, double* out);
@@ -215,7 +215,7 @@ KORVEL_FLAT int VB_VMergeVectorsStr2(OLECHAR** a, int nA, OLECHAR* const* b, int
  * Puts a table of numbers below another.
  *
  * @like VB_HMergeTablesDbl
- * @param out   [out] rowsA + rowsB rows by as many columns as the wider table numbers
+ * @param out   [out] rowsA + rowsB by max(colsA, colsB) numbers
  */
 KORVEL_FLAT int VB_VMergeTablesDbl(const double* a, int rowsA, int colsA, const double* b, int rowsB,
                                    int colsB, double* out);
@@ -229,7 +229,7 @@ KORVEL_FLAT int VB_VMergeTablesDbl(const double* a, int rowsA, int colsA, const 
  * @param b     [in] rowsB by colsB numbers
  * @param rowsB rows of the second table
  * @param colsB columns of the second table; 0 stands for 1
- * @param out   [out] rowsA + rowsB rows by as many columns as the wider table numbers
+ * @param out   [out] rowsA + rowsB by max(colsA, colsB) numbers
  * @return 0
  */
 KORVEL_FLAT int Cpp_VMergeTablesDblSPV(Hostarray** a, int rowsA, int colsA, const double* b, int rowsB,

@@ -77,7 +77,7 @@ KORVEL_FLAT int Cpp_M_RemoveRowsStr2(OLECHAR** x, int rows, int cols, int first,
  * @param list [in] n numbers of columns, in any order, also more than once. One that is not exactly the
  * number of a column leaves out none
  * @param n    length of the list
- * @param out  [out] rows by as many columns as stay numbers
+ * @param out  [out] rows by cols numbers, of which as many columns as stay are written
  * @return 0
  */
 KORVEL_FLAT int VB_M_RemoveColsInList(const double* x, int rows, int cols, const double* list, int n,
@@ -89,7 +89,7 @@ KORVEL_FLAT int VB_M_RemoveColsInList(const double* x, int rows, int cols, const
  * @like VB_M_RemoveColsInList
  * @param list [in] n numbers of rows, in any order, also more than once. One that is not the number of a row
  * leaves out none
- * @param out  [out] as many rows as stay by cols numbers
+ * @param out  [out] rows by cols numbers, of which as many rows as stay, by cols, are written
  */
 KORVEL_FLAT int VB_M_RemoveRowsInList(const double* x, int rows, int cols, const int* list, int n,
                                       double* out);

@@ -62,7 +62,7 @@ KORVEL_FLAT short int VB_M_IsDiagConstant(const double* x, int n);
  *
  * @param x [in] n by n numbers; the upper half is not read
  * @param n order
- * @param v [out] n(n + 1)/2 numbers: cell (i, j) with j <= i at place i(i - 1)/2 + j, from 1; may be x
+ * @param v [out] n * (n + 1) / 2 numbers: cell (i, j) with j <= i at place i(i - 1)/2 + j, from 1; may be x
  * @return 0
  */
 KORVEL_FLAT int Cpp_M_CopySymMatToVector(const double* x, int n, double* v);
@@ -70,7 +70,7 @@ KORVEL_FLAT int Cpp_M_CopySymMatToVector(const double* x, int n, double* v);
 /**
  * Unpacks a vector that holds a triangle row after row into both halves of a table.
  *
- * @param v [in] n(n + 1)/2 numbers
+ * @param v [in] n * (n + 1) / 2 numbers
  * @param n order
  * @param x [out] n by n numbers; may be v
  * @return 0

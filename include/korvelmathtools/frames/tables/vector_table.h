@@ -14,7 +14,7 @@
  * @param x    [in] rows by cols numbers
  * @param rows rows of x
  * @param cols columns of x
- * @param v    [out] rows * cols numbers; may be x
+ * @param v    [out] rows by cols numbers; may be x
  * @return 0
  */
 KORVEL_FLAT int Cpp_MatToVect(const double* x, int rows, int cols, double* v);
@@ -23,7 +23,7 @@ KORVEL_FLAT int Cpp_MatToVect(const double* x, int rows, int cols, double* v);
  * A vector back in the shape of the table that Cpp_MatToVect laid it out from. What is missing in that table
  * is missing in the result, whatever the vector has in its place.
  *
- * @param v       [in] rows * cols numbers, column after column
+ * @param v       [in] rows by cols numbers
  * @param pattern [in] rows by cols numbers; only its missing cells matter
  * @param rows    rows of the tables
  * @param cols    columns of the tables
@@ -43,14 +43,14 @@ KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowDbl(const double* x, int rows, int c
  * The rows of a table one after the other, as a vector.
  *
  * @like Cpp_MatToVect, texts for numbers
- * @param v    [inout] rows * cols texts, replaced where they differ; may be x
+ * @param v    [inout] rows by cols texts, replaced where they differ; may be x
  */
 KORVEL_FLAT int Cpp_M_CopyTabletoVectorByRowStr(OLECHAR* const* x, int rows, int cols, OLECHAR** v);
 
 /**
  * A vector cut into the rows of a table.
  *
- * @param v    [in] rows * cols numbers, row after row
+ * @param v    [in] rows by cols numbers, row after row
  * @param rows rows of x
  * @param cols columns of x
  * @param x    [out] rows by cols numbers; may be v

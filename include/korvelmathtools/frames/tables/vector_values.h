@@ -108,7 +108,7 @@ KORVEL_FLAT int Cpp_V_SetToValueLng_ST(SAFEARRAY** x, int n, int value);
  *
  * @param x     [inout] n texts, replaced where they differ
  * @param n     number of elements
- * @param value [in] the text
+ * @param value [in] one text
  * @return 0
  */
 KORVEL_FLAT int VB_V_SetToValueStr(OLECHAR** x, int n, const OLECHAR* value);
@@ -159,7 +159,7 @@ KORVEL_FLAT int Cpp_V_SwapStr(OLECHAR** a, int n, OLECHAR** b);
  *
  * @param x [inout] n numbers
  * @param n number of elements
- * @param m [out] how many they are
+ * @param m [out] one integer: how many they are
  * @return 0
  */
 KORVEL_FLAT int Cpp_V_CleanVectDbl2(double* x, int n, int* m);
@@ -170,7 +170,7 @@ KORVEL_FLAT int Cpp_V_CleanVectDbl2(double* x, int n, int* m);
  * @param x [inout] n numbers
  * @param n number of elements
  * @param w [inout] n weights
- * @param m [out] how many they are
+ * @param m [out] one integer: how many they are
  * @return 0
  */
 KORVEL_FLAT int Cpp_V_CleanVectDblW2(double* x, int n, double* w, int* m);
