@@ -91,6 +91,7 @@ TEST(MissingCells, AreMadeWhereAMarkStands)
              {{0, 1, 0, 0, 0, 0}, 3, 1, 1, {1, missing, 3, 4, 5, 6}},
              {{0, 1, 0, 0, 0, 0}, 3, 1, -1, {1, missing, 3, missing, 5, missing}},
              {{0, 0, 5, 0, 0, 5}, 3, 5, 0, {1, 2, missing, 4, 5, missing}},
+             {{0, 0, 5, 0, 0, 5}, 3, 5, 1, {1, 2, missing, 4, 5, missing}},
              {{0, 0, 5, 0, 0, 5}, 2, 5, 0, {1, 2, missing, 4, 5, 6}},
              {{0, 0, 5, 0, 0, 0}, 2, 5, -1, {missing, 2, missing, 4, missing, 6}},
              {{1, 1, 1, 1, 1, 1}, 3, 2, -1, cells},

@@ -48,6 +48,7 @@ TEST(MissingCounts, OfColumnsRowsAndTables)
     EXPECT_EQ(counted([&](auto* out) { M_NbMissingPerRow(&x, 3, 2, out); }, 3), (ints{1, 0, 2}));
     EXPECT_EQ(counted([&](auto* out) { M_NbMissingPerRow(&x, 2, 0, out); }, 3), (ints{0, 0, 9}));
     EXPECT_EQ(counted([&](auto* out) { M_NbNonMissing(&x, 0, 2, out); }, 2), (ints{0, 0}));
+    EXPECT_EQ(counted([&](auto* out) { M_NbNonMissing(&x, -4, 2, out); }, 2), (ints{0, 0}));
     EXPECT_EQ(M_NbMissing2(&x, 3, 2), 3);
     EXPECT_EQ(M_NbMissing2(&x, 3, 0), 0);
     std::vector<text> words{u"", u"a", u"", u""};

@@ -92,6 +92,7 @@ TEST(MissingFlags, AreSummarized)
     EXPECT_EQ(result, (flags{-1, -1, 5, 5, 5})) << "only a and b count, and only -1";
     EXPECT_EQ(korvel::summarizeMissing(5, a.data(), b.data(), c.data(), result.data()), 3);
     EXPECT_EQ(result, (flags{-1, -1, -1, 5, 5}));
+    EXPECT_EQ(korvel::summarizeMissing(5, b.data(), b.data(), a.data(), result.data()), 2) << "only -1 of c";
     EXPECT_EQ(korvel::summarizeAllMissing(5, a.data(), b.data(), result.data()), 0);
     EXPECT_EQ(korvel::summarizeAllMissing(5, a.data(), a.data(), result.data()), 1);
     EXPECT_EQ(korvel::summarizeMissing(0, nullptr, nullptr, nullptr, nullptr), 0);

@@ -1,5 +1,6 @@
 #include "ordering/sorted_insertion.h"
 
+#include "support/bits.h"
 #include "support/random_cells.h"
 
 #include <algorithm>
@@ -61,6 +62,18 @@ TEST(SortedInsertion, WalksThroughAVectorThatIsNotSorted)
     EXPECT_EQ(after(V_InsertValueLow, {1, 6, 2, 7}, 4, 0), (numbers{4, 6, 4, 7}));
     EXPECT_EQ(after(V_InsertValueUp, {1, 6, 2, 7}, 4, 0), (numbers{1, 4, 2, 4}));
     EXPECT_EQ(after(V_InsertValueLow, {3, 1, 2}, 2.5, 1), (numbers{3, 1, 2})) << "only -1 sorts";
+    EXPECT_EQ(after(V_InsertValueLow, {3, 1, 2}, 3, 0), (numbers{3, 1, 2})) << "equal to the first";
+    EXPECT_EQ(after(V_InsertValueUp, {2, 3, 1}, 1, 0), (numbers{2, 3, 1})) << "equal to the last";
+    EXPECT_EQ(after(V_InsertValueLow, {1, 5, 3}, 3, 0), (numbers{3, 5, 3})) << "not above the last";
+    EXPECT_EQ(after(V_InsertValueUp, {3, 1, 5}, 3, 0), (numbers{3, 1, 3})) << "not below the first";
+}
+
+TEST(SortedInsertion, StoresTheValueItselfBesideAnEqualOne)
+{
+    EXPECT_SAME_BITS(after(V_InsertValueLow, {-1, -0.0}, 0.0)[0], 0.0);
+    EXPECT_SAME_BITS(after(V_InsertValueLow, {-1, 0.0}, -0.0)[0], -0.0);
+    EXPECT_SAME_BITS(after(V_InsertValueUp, {-0.0, 1}, 0.0)[1], 0.0);
+    EXPECT_SAME_BITS(after(V_InsertValueUp, {0.0, 1}, -0.0)[1], -0.0);
 }
 
 TEST(SortedInsertion, OfOneElementOrNone)

@@ -4,6 +4,7 @@
 #include "support/bits.h"
 #include "support/random_cells.h"
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -141,6 +142,11 @@ TEST(ConditionalSummaries, ExtremesStartFromTheEndsOfTheScale)
     EXPECT_TRUE(sameBits(V_MinIf(&low, 2, &g, 1.0), -infinite));
     auto high = vectorOf<double>({infinite, largest});
     EXPECT_TRUE(sameBits(V_MinIf(&high, 2, &g, 1.0), missing));
+    const double start = -MISSING_DBL;
+    auto atStart = vectorOf<double>({start, start});
+    EXPECT_TRUE(sameBits(V_MinIf(&atStart, 2, &g, 1.0), missing));
+    atStart.data[1] = std::nextafter(start, 0.0);
+    EXPECT_TRUE(sameBits(V_MinIf(&atStart, 2, &g, 1.0), atStart.data[1]));
     EXPECT_TRUE(sameBits(V_MaxIf(&high, 2, &g, 1.0), infinite));
     auto unordered = vectorOf<double>({notANumber, notANumber});
     EXPECT_TRUE(sameBits(V_MinIf(&unordered, 2, &g, 1.0), missing));

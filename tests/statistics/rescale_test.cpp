@@ -143,7 +143,7 @@ TEST(ZScores, AGivenCentreIsUsedAsItStands)
     EXPECT_EQ(found.scores, (doubles{-0.5, none, 0.5}));
     EXPECT_EQ(found.centre, 3);
     EXPECT_EQ(found.scale, 4);
-    EXPECT_EQ(zScores({1}, 0, 3, none).scores, doubles{none}) << "a missing scale is not above 0";
+    EXPECT_EQ(zScores({1, 5}, 0, 3, none).scores, (doubles{none, none})) << "a missing scale is not above 0";
     EXPECT_EQ(zScores({1}, 0, 3, -2).scores, doubles{none});
 }
 
@@ -168,6 +168,13 @@ TEST(ZScores, RobustScoresLeaveTheArgumentsAlone)
     auto x = vectorOf<double>({1, 2, 3, 4, 100});
     korvel::zScores(x, 5, -1, nullptr, nullptr, x);
     EXPECT_EQ(cellsOf(x), (doubles{0.6745 * -2, 0.6745 * -1, 0, 0.6745, 0.6745 * 97}));
+}
+
+TEST(ZScores, RobustScoresFormTheProductBeforeTheQuotient)
+{
+    // Median 0, MAD 7.
+    EXPECT_SAME_BITS(zScores({-9, -7, 0, 5, 8}, -1, none, 0).scores[3], 0.6745 * 5.0 / 7.0);
+    EXPECT_FALSE(sameBits(0.6745 * 5.0 / 7.0, 0.6745 * (5.0 / 7.0))) << "the cells tell them apart";
 }
 
 TEST(ZScores, RobustWithoutADeviationIsMissingEverywhere)

@@ -81,7 +81,8 @@ TEST(TimeSteps, OfNumbersAreCheckedMoreClosely)
 {
     EXPECT_TRUE(sameBits(checked({1, 2, 3}, 1), 1.0));
     EXPECT_TRUE(sameBits(checked({1, 2, 3.000000005}, 0), 1.0));
-    EXPECT_TRUE(sameBits(checked({1, 2, 3.0000005}, 0), missing));
+    EXPECT_TRUE(sameBits(checked({1, 2, 3.00000002}, 0), missing));
+    EXPECT_TRUE(sameBits(checked({1, 2, 2.99999998}, 0), missing));
     EXPECT_TRUE(sameBits(checked({3, 1, 2}, 0), missing)) << "as they stand";
     EXPECT_TRUE(sameBits(checked({1}, 0), missing));
     EXPECT_TRUE(sameBits(checked({}, 2), missing));

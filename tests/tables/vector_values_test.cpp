@@ -34,6 +34,9 @@ TEST(VectorValues, AddingToThemLooksAtFlagsOrAtMissingCells)
     V_PlusVal(&x, 5, 0.5, flags.data());
     expectCells(x, {1.5, 2, 3, missing + 0.5, notANumber}, "flags");
     x = vectorOf(cells);
+    V_PlusVal(&x, 4, 1e300, flags.data());
+    expectCells(x, {1.0 + 1e300, 2, 3, missing + 1e300, notANumber}, "a missing cell without a flag");
+    x = vectorOf(cells);
     V_PlusVal(&x, 3, 1e300, nullptr);
     expectCells(x, {1.0 + 1e300, 2.0 + 1e300, 3.0 + 1e300, missing, notANumber}, "no flags");
     x = vectorOf(cells);

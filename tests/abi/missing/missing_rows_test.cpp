@@ -36,6 +36,12 @@ TEST(FlatMissingRows, AreLeftOutOfACopy)
     guarded<short int> shorter{9, 9};
     EXPECT_EQ(VB_RemoveRowsWithMissingBool(cells.data(), 3, 1, 1, flags.data(), shorter.data()), 0);
     EXPECT_EQ(valuesOf(shorter), (shorts{-1, 7}));
+    guarded<short int> oneColumn{9, 9};
+    EXPECT_EQ(VB_RemoveRowsWithMissingBool(cells.data(), 3, 0, 1, flags.data(), oneColumn.data()), 0);
+    EXPECT_EQ(valuesOf(oneColumn), (shorts{-1, 7})) << "0 is one column";
+    guarded<double> shortest{70, 70};
+    EXPECT_EQ(Cpp_RemoveRowsWithMissingOniMissing(x.data(), 3, 0, flags.data(), shortest.data()), 2);
+    EXPECT_EQ(valuesOf(shortest), (doubles{1, 11})) << "of what stands there now";
     EXPECT_EQ(VB_RemoveRowsWithMissing(nullptr, 0, 1, 0, nullptr, nullptr), 0);
 }
 
@@ -75,4 +81,10 @@ TEST(FlatMissingRows, AreSpreadAgain)
     guarded<int> longer{70, 70, 70};
     EXPECT_EQ(Cpp_M_InsertMissingLng(k.data(), 2, 1, flags.data(), 1, longer.data()), 0);
     EXPECT_EQ(valuesOf(longer), (ints{4, MISSING_LNG, 5}));
+    guarded<int> again{70, 70, 70};
+    EXPECT_EQ(Cpp_M_InsertMissingLng(k.data(), 2, 0, flags.data(), 1, again.data()), 0);
+    EXPECT_EQ(valuesOf(again), (ints{4, MISSING_LNG, 5})) << "0 is one column";
+    guarded<double> over{1, 2, 11, 12, 70, 70};
+    EXPECT_EQ(Cpp_M_InsertMissingDbl(over.data(), 2, 2, flags.data(), 1, over.data()), 0);
+    EXPECT_EQ(valuesOf(over), (doubles{1, MISSING_DBL, 2, 11, MISSING_DBL, 12})) << "over the table itself";
 }
