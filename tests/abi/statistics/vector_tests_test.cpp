@@ -106,3 +106,16 @@ TEST(FlatVectorTests, FindAndCount)
     EXPECT_EQ(VB_V_NbTrueFromTo(flags.data(), 2, 4), 1);
     EXPECT_EQ(VB_V_NbTrueFromTo(flags.data(), 3, 2), 0);
 }
+
+TEST(FlatVectorTests, OfATableWithoutAColumnCountLookAtOneColumn)
+{
+    guarded<double> x{1, -1, 1};
+    EXPECT_EQ(Cpp_M_IsPositive(x.data(), 2, 0, nullptr, 0), 0);
+    guarded<double> y{1, 1.5, 1};
+    EXPECT_EQ(VB_M_IsIn01(y.data(), 2, 0), 0);
+    EXPECT_EQ(VB_M_IsLong(y.data(), 2, 0), 0);
+    EXPECT_EQ(VB_V_V1GreaterThanMatCols(x.data(), 2, y.data(), 0), 0);
+    EXPECT_EQ(VB_M_IsColConstant(y.data(), 2, 0), 0);
+    EXPECT_EQ(VB_V_IsConstant(y.data(), 2, 0, 0), 0);
+    EXPECT_EQ(VB_V_IsConstant(y.data(), 1, 0, 0), -1);
+}
