@@ -229,6 +229,13 @@ Public Declare PtrSafe Function VB_M_LUDecomp Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByRef pivots As Long, ByRef sign As Double, _
     ByRef status As Integer) As Long
 
+' ---- linalg/lu_inverse.h
+
+' Inverse of a square table by LU decomposition with row scaling and partial pivoting.
+Public Declare PtrSafe Function VB_M_Inverse1 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef inverse As Double, ByRef error As Integer, _
+    ByVal tolerance As Double) As Long
+
 ' ---- linalg/packed_sweep.h
 
 ' Sweeps one pivot of a symmetric table in place: after all pivots the table is the negative of its
@@ -269,6 +276,24 @@ Public Declare PtrSafe Function VB_M_ProductADiagVB Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function VB_M_ProductADiagVTrB Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef b As Double, _
     ByVal m As Long, ByRef c As Double) As Long
+
+' ---- linalg/products_inverse.h
+
+' Product c = a' * g * a with g the generalised inverse of b by sweeping, as `Cpp_M_InverseG2` makes
+' it with the tolerance 1e-12.
+Public Declare PtrSafe Function VB_M_ProductTrAinvBA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, _
+    ByVal symmetric As Integer, ByRef c As Double) As Long
+
+' Product c = a * i * a' with i the inverse of b, as `VB_M_Inverse1` makes it: zeros when a pivot's
+' magnitude is at most 1e-8.
+Public Declare PtrSafe Function VB_M_ProductAinvBTrA Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByRef c As Double) As Long
+
+' The quadratic form v' * i * v with i the inverse of b, as `VB_M_Inverse1` makes it: zeros when a
+' pivot's magnitude is at most 1e-8.
+Public Declare PtrSafe Function VB_M_ProductTrVinvBV Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef b As Double) As Double
 
 ' ---- linalg/products_missing.h
 
