@@ -12,10 +12,10 @@ TEST(FlatLUInverse, InvertsARegularTable)
     guarded<double> inverse(numbers(4, 9.0));
     short int error = 3;
     EXPECT_EQ(VB_M_Inverse1(a.data(), 2, inverse.data(), &error, 1e-12), 0);
-    EXPECT_EQ(valuesOf(inverse), (numbers{0, 0.25, 0.5, 0}));
+    EXPECT_EQ(valuesOf(inverse), (numbers{0, 0.5, 0.25, 0}));
     EXPECT_EQ(error, 3) << "left alone";
     EXPECT_EQ(VB_M_Inverse1(a.data(), 2, a.data(), &error, 1e-12), 0);
-    EXPECT_EQ(valuesOf(a), (numbers{0, 0.25, 0.5, 0})) << "over the table itself";
+    EXPECT_EQ(valuesOf(a), (numbers{0, 0.5, 0.25, 0})) << "over the table itself";
 }
 
 TEST(FlatLUInverse, SaysWhenATableIsSingular)
