@@ -2,12 +2,14 @@
 
 #include "containers/record_columns.h"
 #include "containers/views.h"
+#include "linalg/kernels/sweep.h"
 #include "linalg/sweep_pivots.h"
 #include "tables/block_copy.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <memory>
 
 namespace
 {
@@ -15,6 +17,10 @@ namespace
 using korvel::reading;
 using korvel::withCells;
 using korvel::writing;
+
+/** Order from which on the pivots are taken in blocks; below, laying the table out costs more than it gains.
+ */
+constexpr int fewestInBlocks = 16;
 
 /** Zeros in row and column `k`, 0-based. */
 template <class Table>
@@ -51,7 +57,15 @@ void sweepPivot(Table& cells, int n, int k, double tolerance)
     cells.set(k, k, 1.0 / d);
 }
 
-/** Where the cells from `first` up to `last` of a column get `factor` times those of another added. */
+/** Takes `factor` times another column off the cells from `first` up to `last`. */
+void takeColumnOff(double* column, double factor, const double* other, int first, int last)
+{
+    for (int i = first; i < last; ++i) {
+        column[i] -= other[i] * factor;
+    }
+}
+
+/** Adds `factor` times another column to the cells from `first` up to `last`. */
 void addColumn(double* column, double factor, const double* other, int first, int last)
 {
     for (int i = first; i < last; ++i) {
@@ -59,38 +73,65 @@ void addColumn(double* column, double factor, const double* other, int first, in
     }
 }
 
-/** Copies the top left block, and hands its pivots to `sweep(cells, k)`, k from 0. */
-template <class From, class To, class Sweep>
-void sweepCopy(const From& from, int n, const To& to, Sweep sweep)
+/** The same steps on a block that lies inside its table, whose columns are `stride` apart: by columns. */
+void sweepInside(double* table, std::ptrdiff_t stride, int n, int k, double tolerance)
 {
-    korvel::copyBlock(from, {}, to, {}, n, n);
-    withCells(
-        [&](auto& cells) {
-            for (int k = 0; k < n; ++k) {
-                sweep(cells, k);
-            }
-        },
-        to.table(n, n));
+    double* const pivots = table + stride * k;
+    const double d = pivots[k];
+    if (std::fabs(d) < tolerance) {
+        for (int j = 0; j < n; ++j) {
+            table[stride * j + k] = 0.0;
+        }
+        std::fill_n(pivots, n, 0.0);
+        return;
+    }
+    for (int j = 0; j < n; ++j) {
+        double* const column = table + stride * j;
+        if (j != k) {
+            const double divided = column[k] / d;
+            takeColumnOff(column, divided, pivots, 0, k);
+            takeColumnOff(column, divided, pivots, k + 1, n);
+            column[k] = divided;
+        }
+    }
+    for (int i = 0; i < n; ++i) {
+        pivots[i] = -pivots[i] / d;
+    }
+    pivots[k] = 1.0 / d;
+}
+
+/** Sweeps pivot `k`, 0-based, of a dense table. */
+void sweepDense(matrix<double>& table, int n, int k, double tolerance)
+{
+    const int reached = std::max(n, k + 1);
+    if (k < n && writing(table).table(n, n).inside()) {
+        sweepInside(table.data, table.nbrows, n, k, tolerance);
+        table.oobValue = table.data[k + std::ptrdiff_t{table.nbrows} * k];
+        return;
+    }
+    withCells([=](auto& cells) { sweepPivot(cells, n, k, tolerance); },
+              writing(table).table(reached, reached));
 }
 
 } // namespace
 
 void korvel::sweepPivots(matrix<double>& table, int n, double tolerance)
 {
-    withCells(
-        [=](auto& cells) {
-            for (int k = 0; k < n; ++k) {
-                sweepPivot(cells, n, k, tolerance);
-            }
-        },
-        writing(table).table(n, n));
+    if (n < fewestInBlocks || !writing(table).table(n, n).inside()) {
+        for (int k = 0; k < n; ++k) {
+            sweepDense(table, n, k, tolerance);
+        }
+        return;
+    }
+    const kernels::sweep_kernel& kernel = kernels::sweepKernel();
+    const auto scratch = std::make_unique_for_overwrite<double[]>(kernel.scratchSize(n));
+    kernel.sweep(table.data, table.nbrows, n, tolerance, scratch.get());
+    table.oobValue = table.getElement(n - 1, n - 1);
 }
 
 void G2SweepStep(matrix<double>* A, int n, int k, double tolerance)
 {
-    const int reached = std::max(n, k);
-    withCells([=](auto& cells) { sweepPivot(cells, n, k - 1, tolerance); },
-              writing(*A).table(reached, reached));
+    sweepDense(*A, n, k - 1, tolerance);
 }
 
 void G2SweepStep(matrixSparse* A, int n, int k, double tolerance)
@@ -140,18 +181,25 @@ void M_InverseG2_ST(cST_MVect<double>& A, int n, double tolerance, cST_MVect<dou
 {
     korvel::column_list from(A, n);
     korvel::column_list to(G, n);
-    sweepCopy(reading(from.table()), n, writing(to.table()),
-              [=](auto& cells, int k) { sweepPivot(cells, n, k, tolerance); });
+    korvel::copyBlock(reading(from.table()), {}, writing(to.table()), {}, n, n);
+    withCells(
+        [=](auto& cells) {
+            for (int k = 0; k < n; ++k) {
+                sweepPivot(cells, n, k, tolerance);
+            }
+        },
+        writing(to.table()).table(n, n));
 }
 
 void M_InverseG2Selective(matrix<double>* A, int n, matrix<int>* selected, double tolerance,
                           matrix<double>* G, short int zeroOthers)
 {
-    sweepCopy(reading(*A), n, writing(*G), [&](auto& cells, int k) {
+    korvel::copyBlock(reading(*A), {}, writing(*G), {}, n, n);
+    for (int k = 0; k < n; ++k) {
         if ((*selected)[k] == 1) {
-            sweepPivot(cells, n, k, tolerance);
+            sweepDense(*G, n, k, tolerance);
         } else if (zeroOthers == -1) {
-            clearCross(cells, n, k);
+            withCells([=](auto& cells) { clearCross(cells, n, k); }, writing(*G).table(n, n));
         }
-    });
+    }
 }
