@@ -6,6 +6,10 @@
 #include <dlfcn.h>
 #include <string>
 
+extern "C" void dgetrf_(const int* m, const int* n, double* a, const int* lda, int* pivots, int* info);
+extern "C" void dgetri_(const int* n, double* a, const int* lda, const int* pivots, double* work,
+                        const int* size, int* info);
+
 namespace korvel::bench
 {
 
@@ -14,7 +18,7 @@ namespace
 
 /** OpenBLAS chooses its kernels from the environment when it is loaded; a name space of its own loads it
  * again. */
-decltype(&cblas_dgemm) loadAgain()
+void* loadAgain()
 {
     const char* const before = std::getenv("OPENBLAS_CORETYPE");
     const std::string asked = before == nullptr ? "" : before;
@@ -23,20 +27,38 @@ decltype(&cblas_dgemm) loadAgain()
     void* const library = dlmopen(LM_ID_NEWLM, "libopenblas.so.0", RTLD_NOW);
     setenv("OPENBLAS_CORETYPE", asked.c_str(), 1);
     unsetenv("OPENBLAS_NUM_THREADS");
-    void* const dgemm = library == nullptr ? nullptr : dlsym(library, "cblas_dgemm");
-    if (dgemm == nullptr) {
+    return library;
+}
+
+/** A routine of the library that was loaded again. */
+template <class Routine>
+Routine* withoutFusing(const char* name)
+{
+    static void* const library = loadAgain();
+    void* const routine = library == nullptr ? nullptr : dlsym(library, name);
+    if (routine == nullptr) {
         std::fprintf(stderr, "OpenBLAS cannot be loaded again: %s\n", dlerror());
         std::exit(2);
     }
-    return reinterpret_cast<decltype(&cblas_dgemm)>(dgemm);
+    return reinterpret_cast<Routine*>(routine);
 }
 
 } // namespace
 
 void dgemmWithoutFusing(const double* a, const double* b, double* c, int n)
 {
-    static const auto dgemm = loadAgain();
+    static const auto dgemm = withoutFusing<decltype(cblas_dgemm)>("cblas_dgemm");
     dgemm(CblasColMajor, CblasNoTrans, CblasNoTrans, n, n, n, 1.0, a, n, b, n, 0.0, c, n);
+}
+
+lapack_inverse lapackInverse()
+{
+    return {dgetrf_, dgetri_};
+}
+
+lapack_inverse lapackInverseWithoutFusing()
+{
+    return {withoutFusing<decltype(dgetrf_)>("dgetrf_"), withoutFusing<decltype(dgetri_)>("dgetri_")};
 }
 
 } // namespace korvel::bench

@@ -12,6 +12,17 @@ namespace korvel::bench
 /** c = a * b, all of them n by n, column after column, on one thread. */
 void dgemmWithoutFusing(const double* a, const double* b, double* c, int n);
 
+/** LAPACK's inverse in place: dgetrf and dgetri, on one thread. */
+struct lapack_inverse {
+    void (*dgetrf)(const int* m, const int* n, double* a, const int* lda, int* pivots, int* info);
+    void (*dgetri)(const int* n, double* a, const int* lda, const int* pivots, double* work, const int* size,
+                   int* info);
+};
+
+/** The routines of OpenBLAS as it is, and held to separate multiplications and additions. */
+[[nodiscard]] lapack_inverse lapackInverse();
+[[nodiscard]] lapack_inverse lapackInverseWithoutFusing();
+
 } // namespace korvel::bench
 
 #endif

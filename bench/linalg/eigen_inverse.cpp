@@ -1,0 +1,2 @@
+#define KORVEL_EIGEN_INVERSE eigenInverse
+#include "linalg/eigen_inverse.inc"
