@@ -231,7 +231,8 @@ Public Declare PtrSafe Function VB_M_LUDecomp Lib "KORVELMathTools.dll" ( _
 
 ' ---- linalg/lu_inverse.h
 
-' Inverse of a square table by LU decomposition with row scaling and partial pivoting.
+' Inverse of a square table, column after column, by LU decomposition with row scaling and partial
+' pivoting.
 Public Declare PtrSafe Function VB_M_Inverse1 Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByRef inverse As Double, ByRef error As Integer, _
     ByVal tolerance As Double) As Long

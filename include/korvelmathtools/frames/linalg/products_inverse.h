@@ -1,7 +1,8 @@
 /**
  * @file
- * Flat functions: products through an inverse. No failure is reported, and no cell is looked at for being
- * missing. What is read is copied first, so a result may be written over an array that is read.
+ * Flat functions: products through an inverse, all tables column after column. No failure is reported, and no
+ * cell is looked at for being missing. What is read is copied first, so a result may be written over an array
+ * that is read.
  */
 #ifndef KORVEL_FRAMES_LINALG_PRODUCTS_INVERSE_H
 #define KORVEL_FRAMES_LINALG_PRODUCTS_INVERSE_H
