@@ -19,7 +19,7 @@ constexpr int cells = n * n;
 constexpr double none = MISSING_DBL;
 
 const doubles table{1, 2, 6, 5, none, 3, 4, 0.5, 7};
-const doubles positive{2, 1, 3, 0.25, 5, 1, 2, 4, 0.5};
+const doubles positive{2, 1, 3, 0.25, 5, 1.5, 2, 4, 0.5};
 
 /** Reads a table, or a vector of as many cells, and another array, and writes a table apart from both. */
 struct writer {

@@ -4,6 +4,7 @@
 #include "support/caller_tables.h"
 #include "support/guarded.h"
 
+#include <cstring>
 #include <limits>
 
 using namespace korvel::test;
@@ -112,4 +113,26 @@ TEST(FlatVectorValues, AreCleaned)
     EXPECT_EQ(valuesOf(x), (doubles{3, 3, 3}));
     EXPECT_EQ(Cpp_V_CleanVectDbl2(nullptr, 0, &m), 0);
     EXPECT_EQ(m, 0);
+}
+
+TEST(FlatVectorValues, AResultMayLieAcrossTheVector)
+{
+    for (const int shift : {-1, 0, 1}) {
+        SCOPED_TRACE(shift);
+        guarded<double> x{9, 1, 2, 1, 3, 9};
+        VB_V_ReplaceVal(x.data() + 1, 4, 1, 5, x.data() + 1 + shift);
+        const doubles replaced = valuesOf(x);
+        EXPECT_EQ(doubles(replaced.begin() + 1 + shift, replaced.begin() + 5 + shift), (doubles{5, 2, 5, 3}));
+        guarded<double> y{9, 1, 2, 3, 4, 9};
+        VB_V_RemoveVal(y.data() + 1, 4, 2, y.data() + 1 + shift);
+        const doubles removed = valuesOf(y);
+        EXPECT_EQ(doubles(removed.begin() + 1 + shift, removed.begin() + 4 + shift), (doubles{1, 3, 4}));
+    }
+    guarded<double> numbers{1.5, 2.5, 3.5, 4.5};
+    Cpp_V_CopyDoubleToLong(numbers.data(), 3, reinterpret_cast<int*>(numbers.data() + 1));
+    int found[3];
+    std::memcpy(found, numbers.data() + 1, sizeof found);
+    EXPECT_EQ(found[0], 1);
+    EXPECT_EQ(found[1], 2);
+    EXPECT_EQ(found[2], 3);
 }
