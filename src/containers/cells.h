@@ -197,7 +197,7 @@ auto withCells(Loop&& loop, const Source&... sources)
 
 /** `withCells` on the first `n` elements of each vector, all of them only read. */
 template <class Loop, class... T>
-auto withCells(std::int64_t n, Loop&& loop, const matrix<T>&... vectors)
+auto withCells(Loop&& loop, std::int64_t n, const matrix<T>&... vectors)
 {
     return withCells(std::forward<Loop>(loop), readVector(vectors, n)...);
 }

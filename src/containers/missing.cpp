@@ -21,13 +21,12 @@ short int IsMissingValue(OLECHAR* const& value)
 int V_GetMissingDbl(matrix<double>* x, int n, short int* iMissing, short int* iMissingOut)
 {
     korvel::withCells(
-        n,
         [&](auto values) {
             for (int i = 0; i < n; ++i) {
                 const bool flagged = iMissing != nullptr && iMissing[i] == -1;
                 iMissingOut[i] = flagged || korvel::isMissingOrdered(values[i]) ? -1 : 0;
             }
         },
-        *x);
+        n, *x);
     return 0;
 }

@@ -3,8 +3,7 @@
 #include "linalg/clear_result.h"
 #include "linalg/product_forms.h"
 #include "linalg/team.h"
-
-#include <cstdint>
+#include "platform/wrapping.h"
 
 namespace
 {
@@ -15,6 +14,8 @@ using korvel::down;
 using korvel::formProduct;
 using korvel::term_factors;
 using korvel::workers;
+using korvel::wrappedProduct;
+using korvel::wrappedSum;
 
 /** The checked form of the column update: columns of A times an element of B are added to a column of C. */
 void addProductChecked(const matrix<double>& A, int n, int p, const matrix<double>& B, int q,
@@ -30,13 +31,6 @@ void addProductChecked(const matrix<double>& A, int n, int p, const matrix<doubl
     }
 }
 
-/** `sum + a * b` modulo 2^32. Unsigned arithmetic is used because signed overflow is undefined. */
-int addWrapping(int sum, int a, int b)
-{
-    return static_cast<int>(static_cast<std::uint32_t>(sum) +
-                            static_cast<std::uint32_t>(a) * static_cast<std::uint32_t>(b));
-}
-
 /** Rows of C = A·B for the integers that lie inside, column after column. */
 void multiplyRows(const matrix<int>& A, korvel::stretch rows, int p, const matrix<int>& B, int q,
                   matrix<int>& C)
@@ -48,7 +42,7 @@ void multiplyRows(const matrix<int>& A, korvel::stretch rows, int p, const matri
             const int factor = B.data[k + j * B.nbrows];
             const int* const column = A.data + k * A.nbrows + rows.first;
             for (std::ptrdiff_t i = 0; i < rows.count; ++i) {
-                sums[i] = addWrapping(sums[i], column[i], factor);
+                sums[i] = wrappedSum(sums[i], wrappedProduct(column[i], factor));
             }
         }
     }
@@ -60,7 +54,7 @@ void multiplyChecked(const matrix<int>& A, int n, int p, const matrix<int>& B, i
         for (int j = 0; j < q; ++j) {
             int sum = 0;
             for (int k = 0; k < p; ++k) {
-                sum = addWrapping(sum, A.getElement(i, k), B.getElement(k, j));
+                sum = wrappedSum(sum, wrappedProduct(A.getElement(i, k), B.getElement(k, j)));
             }
             C.setElement(i, j, sum);
         }

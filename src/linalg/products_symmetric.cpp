@@ -3,9 +3,9 @@
 #include "containers/conversion.h"
 #include "linalg/clear_result.h"
 #include "linalg/product_forms.h"
+#include "platform/wrapping.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <type_traits>
 #include <utility>
 
@@ -16,12 +16,7 @@ using korvel::clearResult;
 using korvel::formSymmetricProduct;
 using korvel::term_factors;
 using korvel::withCells;
-
-/** The product of two integers as the machine has it, wrapped around to 32 bits. */
-double wrappedProduct(int a, int b)
-{
-    return static_cast<int>(static_cast<std::uint32_t>(a) * static_cast<std::uint32_t>(b));
-}
+using korvel::wrappedProduct;
 
 template <class T>
 T converted(double sum)

@@ -37,7 +37,7 @@ double productOfAll(const matrix<T>& v, int n)
         }
         return product;
     };
-    return withCells(n, multiply, v);
+    return withCells(multiply, n, v);
 }
 
 } // namespace
@@ -62,7 +62,7 @@ double V_ProductWTrV1V2(matrix<double>* x1, int n, matrix<double>* x2, matrix<do
         }
         return total > 0.0 ? sum / total : sum;
     };
-    return withCells(n, sumBoth, *x1, *x2, *w);
+    return withCells(sumBoth, n, *x1, *x2, *w);
 }
 
 void V_ProductV1V2(matrix<double>* x1, int n, matrix<double>* x2, matrix<double>* y)

@@ -19,8 +19,7 @@ double V_SumIfNotMissing(matrix<double>* x, int n, matrix<double>* y)
     const auto presentInBoth = [](korvel::pair a, korvel::pair b) {
         return korvel::only(korvel::present(a), korvel::only(korvel::present(b), a));
     };
-    return withCells(
-        n, [=](auto... cells) { return korvel::sumOf(0, n, presentInBoth, cells...); }, *x, *y);
+    return withCells([=](auto... cells) { return korvel::sumOf(0, n, presentInBoth, cells...); }, n, *x, *y);
 }
 
 void MatToVect_NoMissing(matrix<double>* x, int n, int p, matrix<double>* counts, double& emptyColumns,

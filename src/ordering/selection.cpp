@@ -21,13 +21,12 @@ std::vector<double> firstOf(const matrix<double>& x, int n)
 {
     std::vector<double> values(static_cast<std::size_t>(std::max(n, 0)));
     withCells(
-        n,
         [&](auto cells) {
             for (int i = 0; i < n; ++i) {
                 values[static_cast<std::size_t>(i)] = cells[i];
             }
         },
-        x);
+        n, x);
     return values;
 }
 

@@ -82,7 +82,6 @@ void SortQVector2(matrix<text>* x, int n, int from, int to, bool bDesc, matrix<i
 short int V_IsSorted(matrix<double>* x, int n, bool bStrict)
 {
     return korvel::withCells(
-        n,
         [&](auto values) -> short int {
             for (int i = 0; i + 1 < n; ++i) {
                 if (!(bStrict ? values[i] < values[i + 1] : values[i] <= values[i + 1])) {
@@ -91,5 +90,5 @@ short int V_IsSorted(matrix<double>* x, int n, bool bStrict)
             }
             return -1;
         },
-        *x);
+        n, *x);
 }

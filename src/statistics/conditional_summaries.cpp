@@ -27,7 +27,6 @@ template <class State, class Test, class Kept, class Y, class G, class... W>
 State stateOf(State start, Test test, Kept kept, const matrix<Y>& y, int n, const matrix<G>& g, const W&... w)
 {
     return withCells(
-        n,
         [=](auto values, auto codes, auto... weights) {
             State state = start;
             korvel::forEachFound(n, test, codes, [&](int i) {
@@ -37,7 +36,7 @@ State stateOf(State start, Test test, Kept kept, const matrix<Y>& y, int n, cons
             });
             return state;
         },
-        y, g, w...);
+        n, y, g, w...);
 }
 
 /** The state after the rows of a group. A code that is missing stands for no group. */
@@ -107,8 +106,8 @@ template <class T>
 double countEqual(const matrix<T>& x, int n, T val)
 {
     const auto isEqual = [val](auto cell) { return cell == val; };
-    return withCells(
-        n, [=](auto cells) { return static_cast<double>(korvel::countOf(n, isEqual, cells)); }, x);
+    return withCells([=](auto cells) { return static_cast<double>(korvel::countOf(n, isEqual, cells)); }, n,
+                     x);
 }
 
 } // namespace

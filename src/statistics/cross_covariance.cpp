@@ -76,7 +76,6 @@ int M_CorrMatMatSPV(matrix<double>** x, int rows, int colsX, matrix<double>** y,
 double V_Correl2W(matrix<double>* x, int n, matrix<double>* y, matrix<double>* w)
 {
     const auto pair = korvel::withCells(
-        n,
         [n](auto left, auto right, auto weights) {
             running_correlation state;
             for (int i = 0; i < n; ++i) {
@@ -86,7 +85,7 @@ double V_Correl2W(matrix<double>* x, int n, matrix<double>* y, matrix<double>* w
             }
             return state;
         },
-        *x, *y, *w);
+        n, *x, *y, *w);
     const double product = pair.squaresX * pair.squaresY;
     return product > 0.0 ? pair.products / std::sqrt(product) : MISSING_DBL;
 }

@@ -51,10 +51,10 @@ weighted_total errorsFrom(int first, const matrix<double>& actual, const matrix<
     // A position before the first lies outside the block as well, which only the checked access knows.
     const std::int64_t reach = from < 0 ? std::numeric_limits<std::int64_t>::max() : n;
     if (w == nullptr) {
-        return withCells(
-            reach, [=](auto a, auto p) { return total(a, p, korvel::unit_weights{}); }, actual, predicted);
+        return withCells([=](auto a, auto p) { return total(a, p, korvel::unit_weights{}); }, reach, actual,
+                         predicted);
     }
-    return withCells(reach, total, actual, predicted, *w);
+    return withCells(total, reach, actual, predicted, *w);
 }
 
 } // namespace
@@ -100,7 +100,7 @@ double GetSSE(matrix<double>* y, int n, matrix<double>* w, double& mean)
         const pair d = value - centre;
         return korvel::weighted_terms{only(kept, weight * (d * d)), only(kept, weight)};
     };
-    const weighted_total squares = withCells(
-        n, [=](auto... cells) { return korvel::totalOf(0, n, termsOf, cells...); }, *y, *w);
+    const weighted_total squares =
+        withCells([=](auto... cells) { return korvel::totalOf(0, n, termsOf, cells...); }, n, *y, *w);
     return squares.sumW == 0.0 ? MISSING_DBL : squares.sum;
 }

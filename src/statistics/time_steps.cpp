@@ -19,8 +19,8 @@ double stepOf(const matrix<double>& x, int n, Regular isRegular)
     if (n < 2) {
         return MISSING_DBL;
     }
-    return korvel::withCells(
-        n, [&](auto cells) { return isRegular(cells) ? cells[1] - cells[0] : MISSING_DBL; }, x);
+    return korvel::withCells([&](auto cells) { return isRegular(cells) ? cells[1] - cells[0] : MISSING_DBL; },
+                             n, x);
 }
 
 /** Whether all differences are within a tolerance of the first; a NaN is not. */

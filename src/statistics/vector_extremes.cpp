@@ -104,7 +104,7 @@ extremes keptExtremes(const matrix<T>& x, int n, Flags flags)
         const int first = firstKept(cells, n, flags, presentAndUnflagged);
         return first < n ? extremesFrom(first, cells, n, flags, presentAndUnflagged) : noExtremes;
     };
-    return withCells(n, find, x);
+    return withCells(find, n, x);
 }
 
 template <class T>
@@ -138,7 +138,7 @@ void minMax2(const matrix<T>& x, int n, double* min, double* max, short int bSki
         }
         return extremesFrom(first, cells, n, flags, everyElement);
     };
-    const extremes found = withCells(std::max(n, 1), find, x);
+    const extremes found = withCells(find, std::max(n, 1), x);
     *min = found.smallest;
     *max = found.largest;
 }
@@ -175,7 +175,7 @@ double withPosition(const matrix<T>& x, int n, int* pos, Replaces replaces)
         *pos = where;
         return best[0];
     };
-    return withCells(std::max(n, 1), find, x);
+    return withCells(find, std::max(n, 1), x);
 }
 
 constexpr auto isLess = [](pair x, pair best) { return x < best; };

@@ -13,8 +13,8 @@ double weightNear(const matrix<T>& x, int n, const matrix<double>& w, double val
         const korvel::pair distance = korvel::absolute(cells - value);
         return korvel::only(korvel::pairOf(distance < tol), weights);
     };
-    return korvel::withCells(
-        n, [=](auto... cells) { return korvel::sumOf(0, n, weightIfNear, cells...); }, x, w);
+    return korvel::withCells([=](auto... cells) { return korvel::sumOf(0, n, weightIfNear, cells...); }, n, x,
+                             w);
 }
 
 } // namespace
@@ -40,5 +40,5 @@ double V_FreqStr(matrix<text>* labels, int n, matrix<double>* w, text value)
         }
         return sum;
     };
-    return korvel::withCells(n, weight, *labels, *w);
+    return korvel::withCells(weight, n, *labels, *w);
 }

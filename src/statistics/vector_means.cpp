@@ -38,7 +38,7 @@ double V_Mean(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
     const auto total = [=](auto values, auto weights) {
         return keptTotal(values, n, iMissing, weights, product);
     };
-    return withCells(n, total, *x, *w).mean();
+    return withCells(total, n, *x, *w).mean();
 }
 
 double V_MeanAbs(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
@@ -47,7 +47,7 @@ double V_MeanAbs(matrix<double>* x, int n, short int* iMissing, matrix<double>* 
         return keptTotal(values, n, iMissing, weights,
                          [](pair value, pair weight) { return weight * absolute(value); });
     };
-    return withCells(n, total, *x, *w).mean();
+    return withCells(total, n, *x, *w).mean();
 }
 
 double V_Mean2(const matrix<double>& x, int n)
@@ -55,7 +55,7 @@ double V_Mean2(const matrix<double>& x, int n)
     const auto total = [n](auto values) {
         return keptTotal(values, n, korvel::no_flags{}, korvel::unit_weights{}, product);
     };
-    return withCells(n, total, x).mean();
+    return withCells(total, n, x).mean();
 }
 
 double V_Mean2(matrix<double>* x, int n)
@@ -68,7 +68,7 @@ double V_MeanW2(matrix<double>* x, int n, matrix<double>* w)
     const auto total = [n](auto values, auto weights) {
         return keptTotal(values, n, korvel::no_flags{}, weights, product);
     };
-    const weighted_total result = withCells(n, total, *x, *w);
+    const weighted_total result = withCells(total, n, *x, *w);
     return result.sumW > 0.0 ? result.sum / result.sumW : MISSING_DBL;
 }
 
@@ -85,7 +85,7 @@ double V_HarmonicMean(matrix<double>* x, int n, short int* iMissing, matrix<doub
         }
         return total.sum == 0.0 ? MISSING_DBL : total.sumW / total.sum;
     };
-    return withCells(n, mean, *x, *w);
+    return withCells(mean, n, *x, *w);
 }
 
 int V_GMeanGSD(matrix<double>* x, int n, short int* iMissing, matrix<double>* w, double& gmean, double& gsd)
@@ -116,6 +116,6 @@ int V_GMeanGSD(matrix<double>* x, int n, short int* iMissing, matrix<double>* w,
             gsd = std::exp(korvel::rootOrMissing(logarithms.m2 / denominator));
         }
     };
-    korvel::withCells(n, compute, *x, *w);
+    korvel::withCells(compute, n, *x, *w);
     return 0;
 }

@@ -148,11 +148,10 @@ void V_MeanVarSkewPKurtP(matrix<double>* x, int n, double& mean, double& var, do
                          matrix<double>* w, short int bUnbiased, short int bFreq)
 {
     auto moments = korvel::withCells(
-        n,
         [=](auto values, auto weights) {
             return korvel::accumulate<running_moments>(values, n, iMissing, weights);
         },
-        *x, *w);
+        n, *x, *w);
     moments.finish();
     const auto found = resultsFrom(moments, bUnbiased, bFreq);
     // A caller may pass one variable for several results that it does not want, so none is read again.

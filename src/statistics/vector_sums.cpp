@@ -1,6 +1,7 @@
 #include "statistics/vector_sums.h"
 
 #include "containers/cells.h"
+#include "platform/wrapping.h"
 #include "statistics/pairs.h"
 #include "statistics/stand_ins.h"
 
@@ -42,19 +43,18 @@ constexpr auto products = [](pair x, pair w) { return x * w; };
 template <class Term, class... T>
 double sumOverCells(int n, Term term, const matrix<T>&... sources)
 {
-    return withCells(
-        n, [=](auto... cells) { return sumOf(0, n, term, cells...); }, sources...);
+    return withCells([=](auto... cells) { return sumOf(0, n, term, cells...); }, n, sources...);
 }
 
-/** The sum modulo 2^32. Unsigned arithmetic is used because signed overflow is undefined. */
+/** The sum modulo 2^32. */
 template <class Cells>
 int wrappingSum(Cells x, std::int64_t first, std::int64_t last)
 {
-    std::uint32_t sum = 0;
+    int sum = 0;
     for (std::int64_t i = first; i < last; ++i) {
-        sum += static_cast<std::uint32_t>(x[i]);
+        sum = korvel::wrappedSum(sum, x[i]);
     }
-    return static_cast<int>(sum);
+    return sum;
 }
 
 } // namespace
@@ -64,12 +64,11 @@ double V_Sum(matrix<double>* x, int n, short int* iMissing, matrix<double>* w)
     return korvel::withFlags(iMissing, [&](auto flags) {
         if (w == nullptr) {
             return withCells(
-                n,
                 [&](auto values) { return sumOf(0, n, keptProducts, values, korvel::unit_weights{}, flags); },
-                *x);
+                n, *x);
         }
         return withCells(
-            n, [&](auto values, auto weights) { return sumOf(0, n, keptProducts, values, weights, flags); },
+            [&](auto values, auto weights) { return sumOf(0, n, keptProducts, values, weights, flags); }, n,
             *x, *w);
     });
 }
@@ -86,8 +85,7 @@ double V_Sum2(matrix<double>* x, int n)
 
 double V_Sum2(matrix<int>* x, int n)
 {
-    return withCells(
-        n, [n](auto cells) { return wrappingSum(cells, 0, n); }, *x);
+    return withCells([n](auto cells) { return wrappingSum(cells, 0, n); }, n, *x);
 }
 
 double V_Sum2(int* x, int n)
@@ -125,8 +123,8 @@ double V_DiffSqStart(matrix<double>* x, int n, matrix<double>* y, int start)
     // Only the checked access handles a position before the first.
     const std::int64_t reach = start < 1 ? std::numeric_limits<std::int64_t>::max() : n;
     const std::int64_t first = std::int64_t{start} - 1;
-    return withCells(
-        reach, [=](auto... cells) { return sumOf(first, n, squaredDifferences, cells...); }, *x, *y);
+    return withCells([=](auto... cells) { return sumOf(first, n, squaredDifferences, cells...); }, reach, *x,
+                     *y);
 }
 
 void V_CuSum(matrix<double>* x, const int& n, matrix<double>* out)

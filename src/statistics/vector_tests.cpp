@@ -20,8 +20,7 @@ using korvel::withCells;
 template <class Test, class... T>
 bool allElements(int n, Test isGood, const matrix<T>&... x)
 {
-    return withCells(
-        n, [=](auto... cells) { return korvel::allOf(n, isGood, cells...); }, x...);
+    return withCells([=](auto... cells) { return korvel::allOf(n, isGood, cells...); }, n, x...);
 }
 
 /** What a walk over weights finds. Their sum is above 0 when one of them is, and none is below. */
@@ -33,7 +32,6 @@ struct weights_found {
 weights_found weightsIn(const matrix<double>& x, int n)
 {
     return withCells(
-        n,
         [n](auto cells) {
             bool anyAboveZero = false;
             bool all1 = true;
@@ -45,7 +43,7 @@ weights_found weightsIn(const matrix<double>& x, int n)
             });
             return weights_found{noneBelow && anyAboveZero, all1};
         },
-        x);
+        n, x);
 }
 
 template <class Column>
@@ -195,8 +193,7 @@ namespace korvel
 
 int countTrue(const matrix<short int>& x, int n)
 {
-    return static_cast<int>(withCells(
-        n, [n](auto cells) { return countOf(n, isTrue, cells); }, x));
+    return static_cast<int>(withCells([n](auto cells) { return countOf(n, isTrue, cells); }, n, x));
 }
 
 short int isPositive(const matrix<double>& x, int rows, int cols, const short int* iMissing,

@@ -17,7 +17,7 @@ template <class State>
 State stateAfter(const matrix<double>& x, int n, const short int* iMissing, const matrix<double>& w)
 {
     return withCells(
-        n, [=](auto values, auto weights) { return korvel::accumulate<State>(values, n, iMissing, weights); },
+        [=](auto values, auto weights) { return korvel::accumulate<State>(values, n, iMissing, weights); }, n,
         x, w);
 }
 
@@ -26,7 +26,6 @@ template <class Kept>
 korvel::running_count_variance unweightedState(const matrix<double>& x, int n, Kept isKept)
 {
     return withCells(
-        n,
         [=](auto values) {
             korvel::running_count_variance state;
             for (int i = 0; i < n; ++i) {
@@ -36,7 +35,7 @@ korvel::running_count_variance unweightedState(const matrix<double>& x, int n, K
             }
             return state;
         },
-        x);
+        n, x);
 }
 
 } // namespace
@@ -74,12 +73,11 @@ void V_MeanVarW2(matrix<double>* x, int n, matrix<double>* w, double* mean, doub
                  short int bFreq)
 {
     const auto state = withCells(
-        n,
         [=](auto values, auto weights) {
             return korvel::accumulate<korvel::running_guarded_share_variance>(values, n, korvel::no_flags{},
                                                                               weights);
         },
-        *x, *w);
+        n, *x, *w);
     *mean = state.shares.mean;
     *var = overPositive(state.shares.m2, state.denominator(bUnbiased, bFreq));
 }
@@ -105,7 +103,7 @@ namespace korvel
 double unweightedVariance(const matrix<double>& x, int n, short int bUnbiased, short int bFreq)
 {
     const auto state = withCells(
-        n, [=](auto values) { return accumulate<running_variance>(values, n, no_flags{}, unit_weights{}); },
+        [=](auto values) { return accumulate<running_variance>(values, n, no_flags{}, unit_weights{}); }, n,
         x);
     return state.variance(bUnbiased, bFreq);
 }

@@ -22,7 +22,6 @@ short int CheckSameVectorStr(matrix<text>* a, int nA, matrix<text>* b, int nB)
         return 0;
     }
     return korvel::withCells(
-        nA,
         [nA](auto first, auto second) -> short int {
             for (int i = 0; i < nA; ++i) {
                 if (first[i] != second[i]) {
@@ -31,5 +30,5 @@ short int CheckSameVectorStr(matrix<text>* a, int nA, matrix<text>* b, int nB)
             }
             return -1;
         },
-        *a, *b);
+        nA, *a, *b);
 }

@@ -30,13 +30,12 @@ TEST(Cells, InsideTheBlockTheLoopGetsPlainPointers)
     const auto x = numbered<double>(2, 3);
     const auto y = numbered<int>(6, 1);
     const double sum = korvel::withCells(
-        6,
         [&](auto a, auto b) {
             EXPECT_TRUE(isRaw<decltype(a)>);
             EXPECT_TRUE(isRaw<decltype(b)>);
             return a[5] + b[4];
         },
-        x, y);
+        6, x, y);
     EXPECT_EQ(sum, 11.0);
 }
 
@@ -46,12 +45,11 @@ TEST(Cells, OutsideTheLoopReadsAsTheTablesDo)
     x.oobValue = 40.0;
     const auto y = numbered<double>(6, 1);
     const double sum = korvel::withCells(
-        6,
         [&](auto a, auto b) {
             EXPECT_FALSE(isRaw<decltype(a)>);
             EXPECT_FALSE(isRaw<decltype(b)>);
             return a[1] + a[2] + a[-1] + b[5];
         },
-        x, y);
+        6, x, y);
     EXPECT_EQ(sum, 2.0 + 40.0 + 40.0 + 6.0);
 }
