@@ -36,6 +36,13 @@ text_table shape(data_set& data);
 /** The correlation of each pair of columns over the rows that neither misses, and the count of these rows. */
 text_table correlations(data_set& data);
 
+/** The variance of each principal component of the standardised columns, over the rows in which no number is
+ * missing; columns that are constant there are left out. */
+text_table componentShares(data_set& data);
+
+/** The correlations of the columns with the leading components. */
+text_table componentLoadings(data_set& data);
+
 /** The most frequent values of each column of texts. */
 text_table frequencies(data_set& data);
 

@@ -21,3 +21,6 @@ print(round(cor(x, use = "pairwise.complete.obs"), 3))
 print(crossprod(!is.na(x)))
 print(round(100 * colMeans(is.na(x)), 1))
 print(lapply(split(seq_len(nrow(x)), rowSums(is.na(x))), function(rows) c(length(rows), head(rows, 12))))
+p <- prcomp(na.omit(x), scale. = TRUE) # The signs of components are arbitrary.
+print(rbind(p$sdev^2, 100 * p$sdev^2 / ncol(x)))
+print(round(sweep(p$rotation, 2, p$sdev, "*"), 3))
