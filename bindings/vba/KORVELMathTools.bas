@@ -436,6 +436,23 @@ Public Declare PtrSafe Function Cpp_M_RowSumNorm Lib "KORVELMathTools.dll" ( _
 ' A root r with r' * r = a, from the eigenvalues and eigenvectors of a.
 Public Declare PtrSafe Function Cpp_M_SquareRoot Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByRef r As Double) As Long
+' ---- linalg/singular_values.h
+
+' Singular value decomposition.
+Public Declare PtrSafe Function VB_M_SVDecomp Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef s As Double, ByRef u As Double, _
+    ByRef v As Double, ByVal job As Long, ByRef info As Long) As Long
+
+' Singular value decomposition of a chunked table.
+Public Declare PtrSafe Function VB_M_SVDecompSPV Lib "KORVELMathTools.dll" ( _
+    ByVal a As LongPtr, ByVal n As Long, ByVal p As Long, ByRef s As Double, ByVal u As LongPtr, _
+    ByVal v As LongPtr, ByVal job As Long, ByRef info As Long) As Long
+
+' ---- linalg/spectral_norm.h
+
+' The largest singular value of a square table.
+Public Declare PtrSafe Function Cpp_M_Norm2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal rows As Long, ByVal cols As Long) As Double
 
 ' ---- linalg/symmetric_eigen.h
 

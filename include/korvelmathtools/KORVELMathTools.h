@@ -31,6 +31,8 @@
 #include "frames/linalg/products_table_vector.h"
 #include "frames/linalg/products_triple.h"
 #include "frames/linalg/reductions.h"
+#include "frames/linalg/singular_values.h"
+#include "frames/linalg/spectral_norm.h"
 #include "frames/linalg/square_roots.h"
 #include "frames/linalg/symmetric_eigen.h"
 #include "frames/linalg/triangular_inverse.h"
