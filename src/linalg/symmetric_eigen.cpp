@@ -5,13 +5,20 @@
 #include "containers/stretches.h"
 #include "containers/views.h"
 #include "linalg/clear_result.h"
+#include "linalg/kernels/symmetric_eigen.h"
+#include "linalg/product_forms.h"
 #include "linalg/tridiagonal_ql.h"
 #include "ordering/sort_table.h"
+#include "ordering/sorted_keys.h"
 #include "tables/block_copy.h"
 #include "tables/blocks.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -21,6 +28,7 @@ namespace
 using korvel::reading;
 using korvel::withCells;
 using korvel::writing;
+using korvel::kernels::eigen_problem;
 
 constexpr int success = 0;
 constexpr int failure = -1;
@@ -53,9 +61,9 @@ void sortDescending(const View& vectors, matrix<double>& values, int n)
         vectors.table(n, n));
 }
 
-/** Replaces the cells of a symmetric table by its eigenvectors. */
+/** Replaces the cells of a symmetric table by its eigenvectors, cell by cell. */
 template <class View>
-int decompose(const View& vectors, matrix<double>& values, int n, short int sortFlag, int tooMany)
+int decomposePlainly(const View& vectors, matrix<double>& values, int n, short int sortFlag, int tooMany)
 {
     std::vector<double> e(static_cast<std::size_t>(std::max(n, 0)));
     const bool converged =
@@ -68,6 +76,80 @@ int decompose(const View& vectors, matrix<double>& values, int n, short int sort
         sortDescending(vectors, values, n);
     }
     return success;
+}
+
+/** The order in which the vectors are wanted; sorts the values when asked to. */
+std::vector<int> orderOfVectors(double* values, int n, short int sortFlag)
+{
+    std::vector<int> order(static_cast<std::size_t>(n));
+    if (sortFlag != -1) {
+        std::iota(order.begin(), order.end(), 0);
+        return order;
+    }
+    const korvel::sorted_numbers<double> sorted(n, true, [values](std::int32_t k) { return values[k]; });
+    std::vector<double> keys(order.size());
+    for (std::size_t k = 0; k < order.size(); ++k) {
+        order[k] = sorted.position(k);
+        keys[k] = sorted.key(k);
+    }
+    std::copy(keys.begin(), keys.end(), values);
+    return order;
+}
+
+/** The same on raw memory. */
+int decomposeInKernel(const eigen_problem& problem, short int sortFlag)
+{
+    const auto& kernel = korvel::kernels::symmetricEigenKernel();
+    const auto scratch = std::make_unique_for_overwrite<double[]>(kernel.scratchSize(problem.n));
+    if (!kernel.decompose(problem, scratch.get())) {
+        return failure;
+    }
+    const auto order = orderOfVectors(problem.values, static_cast<int>(problem.n), sortFlag);
+    kernel.arrange(problem, order.data(), scratch.get());
+    return success;
+}
+
+/** The block of a dense table that has no cell but those of n columns of n; null for any other table. */
+double* blockOf(matrix<double>& table, int n)
+{
+    return table.nbrows == n ? table.data : nullptr;
+}
+double* blockOf(matrix3D<matrix<double>>&, int)
+{
+    return nullptr;
+}
+
+/**
+ * The eigenvectors of one table into another, or in place. In the kernel when all cells lie inside; otherwise
+ * through the checked access, which is the loop's own.
+ */
+template <class From, class To>
+int decompose(const From& from, To& vectors, matrix<double>& values, int n, short int sortFlag, int tooMany)
+{
+    if (n < 1) {
+        return success;
+    }
+    const auto to = writing(vectors);
+    if (!reading(from).table(n, n).inside() || !to.table(n, n).inside() || !korvel::holds(values, n)) {
+        if (static_cast<const void*>(&from) != &vectors) {
+            korvel::copyBlock(reading(from), {0, 0}, to, {0, 0}, n, n);
+        }
+        return decomposePlainly(to, values, n, sortFlag, tooMany);
+    }
+    const korvel::column_places<const double> source(from, n, n);
+    eigen_problem problem{n, source.get(), blockOf(vectors, n), values.data, tooMany};
+    if (problem.vectors != nullptr) {
+        return decomposeInKernel(problem, sortFlag);
+    }
+    const auto size = static_cast<std::size_t>(n);
+    const auto block = std::make_unique_for_overwrite<double[]>(size * size);
+    problem.vectors = block.get();
+    const int status = decomposeInKernel(problem, sortFlag);
+    const korvel::column_places<double> target(vectors, n, n);
+    for (int j = 0; status == success && j < n; ++j) {
+        std::copy_n(block.get() + size * static_cast<std::size_t>(j), size, target.get()(j));
+    }
+    return status;
 }
 
 /** Runs `work`, and makes a failure of whatever it throws. */
@@ -136,8 +218,7 @@ int M_Eigen(matrix<double> const& A, matrix<double>& values, matrix<double>& vec
     return withoutExceptions([&] {
         values.Redim(n, 1, 0.0);
         vectors.Redim(n, n, 0.0);
-        korvel::copyBlock(reading(A), {0, 0}, writing(vectors), {0, 0}, n, n);
-        return decompose(writing(vectors), values, n, sortFlag, korvel::sweepsTooMany);
+        return decompose(A, vectors, values, n, sortFlag, korvel::sweepsTooMany);
     });
 }
 
@@ -163,7 +244,7 @@ int M_Eigen(matrixSparse* A, matrix<double>* values, matrixSparse* vectors, int 
         }
         values->Redim(n, 1, 0.0);
         vectors->Redim(n, n, 0.0);
-        const int status = decompose(view, *values, n, sortFlag, korvel::sweepsTooMany);
+        const int status = decomposePlainly(view, *values, n, sortFlag, korvel::sweepsTooMany);
         storeEntries(cells, *vectors);
         return status;
     });
@@ -177,8 +258,7 @@ int M_EigenSPV(matrix3D<matrix<double>>* A, matrix<double>*& values, matrix3D<ma
     }
     values->Redim(n, 1, 0.0);
     korvel::clearResult(*vectors, n, n);
-    korvel::copyBlock(reading(*A), {0, 0}, writing(*vectors), {0, 0}, n, n);
-    return decompose(writing(*vectors), *values, n, sortFlag, korvel::sweepsTooMany);
+    return decompose(std::as_const(*A), *vectors, *values, n, sortFlag, korvel::sweepsTooMany);
 }
 
 int M_EigenDestroySPV(matrix3D<matrix<double>>* A, matrix<double>*& values, int n, short int sortFlag)
@@ -187,7 +267,7 @@ int M_EigenDestroySPV(matrix3D<matrix<double>>* A, matrix<double>*& values, int 
         return failure;
     }
     values->Redim(n, 1, 0.0);
-    return decompose(writing(*A), *values, n, sortFlag, korvel::sweepsTooMany);
+    return decompose(std::as_const(*A), *A, *values, n, sortFlag, korvel::sweepsTooMany);
 }
 
 int M_EigenSPV_T(matrix3D<matrix<double>>* A, matrix<double>* values, matrix3D<matrix<double>>* vectors,
@@ -202,5 +282,6 @@ int M_EigenSPV_T(matrix3D<matrix<double>>* A, matrix<double>* values, matrix3D<m
     }
     values->Redim(n, 1, 0.0);
     M_CopyBlockSPV_T(A, 1, n, 1, n, vectors);
-    return decompose(writing(*vectors), *values, n, sortFlag, korvel::sweepsTooManyOfTriangle);
+    return decompose(std::as_const(*vectors), *vectors, *values, n, sortFlag,
+                     korvel::sweepsTooManyOfTriangle);
 }

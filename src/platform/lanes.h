@@ -254,6 +254,68 @@ KORVEL_IN_LANES doubles<2> secondOf(doubles<2> a, doubles<2> b)
     return __builtin_shufflevector(a, b, 1, 3);
 }
 
+namespace detail
+{
+
+#if defined(__AVX512F__)
+/** Pairs of lanes of two registers: the first and third of each four, and the others. */
+template <class Doubles>
+KORVEL_IN_LANES Doubles evenPairs(Doubles a, Doubles b)
+{
+    return __builtin_shufflevector(a, b, 0, 1, 4, 5, 8, 9, 12, 13);
+}
+template <class Doubles>
+KORVEL_IN_LANES Doubles oddPairs(Doubles a, Doubles b)
+{
+    return __builtin_shufflevector(a, b, 2, 3, 6, 7, 10, 11, 14, 15);
+}
+#endif
+
+} // namespace detail
+
+/** Transposes a square of as many registers as each has lanes: lane k of register i becomes lane i of
+ * register k.
+ */
+KORVEL_IN_LANES void transpose(doubles<registerWidth>* square)
+{
+#if defined(__AVX512F__)
+    doubles<8> single[8];
+    doubles<8> pairs[8];
+#pragma GCC unroll 4
+    for (int i = 0; i < 8; i += 2) {
+        const doubles<8> a = square[i];
+        const doubles<8> b = square[i + 1];
+        single[i] = __builtin_shufflevector(a, b, 0, 8, 2, 10, 4, 12, 6, 14);
+        single[i + 1] = __builtin_shufflevector(a, b, 1, 9, 3, 11, 5, 13, 7, 15);
+    }
+#pragma GCC unroll 2
+    for (int half = 0; half < 8; half += 4) {
+        pairs[half] = detail::evenPairs(single[half], single[half + 2]);
+        pairs[half + 1] = detail::evenPairs(single[half + 1], single[half + 3]);
+        pairs[half + 2] = detail::oddPairs(single[half], single[half + 2]);
+        pairs[half + 3] = detail::oddPairs(single[half + 1], single[half + 3]);
+    }
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        square[i] = detail::evenPairs(pairs[i], pairs[i + 4]);
+        square[i + 4] = detail::oddPairs(pairs[i], pairs[i + 4]);
+    }
+#elif defined(__AVX__)
+    const doubles<4> a = __builtin_shufflevector(square[0], square[1], 0, 4, 2, 6);
+    const doubles<4> b = __builtin_shufflevector(square[0], square[1], 1, 5, 3, 7);
+    const doubles<4> c = __builtin_shufflevector(square[2], square[3], 0, 4, 2, 6);
+    const doubles<4> d = __builtin_shufflevector(square[2], square[3], 1, 5, 3, 7);
+    square[0] = __builtin_shufflevector(a, c, 0, 1, 4, 5);
+    square[1] = __builtin_shufflevector(b, d, 0, 1, 4, 5);
+    square[2] = __builtin_shufflevector(a, c, 2, 3, 6, 7);
+    square[3] = __builtin_shufflevector(b, d, 2, 3, 6, 7);
+#else
+    const doubles<2> first = firstOf(square[0], square[1]);
+    square[1] = secondOf(square[0], square[1]);
+    square[0] = first;
+#endif
+}
+
 /** Asks for the line of the cache that holds an address, which may lie anywhere. */
 KORVEL_IN_LANES void prefetch(const void* address)
 {
