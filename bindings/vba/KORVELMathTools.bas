@@ -431,11 +431,6 @@ Public Declare PtrSafe Function VB_M_FrobeniusNorm Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_M_RowSumNorm Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByVal m As Long) As Double
 
-' ---- linalg/square_roots.h
-
-' A root r with r' * r = a, from the eigenvalues and eigenvectors of a.
-Public Declare PtrSafe Function Cpp_M_SquareRoot Lib "KORVELMathTools.dll" ( _
-    ByRef a As Double, ByVal n As Long, ByRef r As Double) As Long
 ' ---- linalg/singular_values.h
 
 ' Singular value decomposition.
@@ -453,6 +448,12 @@ Public Declare PtrSafe Function VB_M_SVDecompSPV Lib "KORVELMathTools.dll" ( _
 ' The largest singular value of a square table.
 Public Declare PtrSafe Function Cpp_M_Norm2 Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal rows As Long, ByVal cols As Long) As Double
+
+' ---- linalg/square_roots.h
+
+' A root r with r' * r = a, from the eigenvalues and eigenvectors of a.
+Public Declare PtrSafe Function Cpp_M_SquareRoot Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef r As Double) As Long
 
 ' ---- linalg/symmetric_eigen.h
 
