@@ -21,12 +21,14 @@
  * @param a    [in] n by p numbers, column after column
  * @param n    rows
  * @param p    columns
- * @param s    [out] min(n + 1, p) numbers: the first min(n, p) are the singular values, descending
- * @param u    [out] n rows and as many columns as the job asks for, column after column. May be null when it
- * asks for none
+ * @param s    [out] p numbers, of which the first min(n + 1, p) are written: min(n, p) singular values,
+ * descending, and perhaps a 0
+ * @param u    [out] n by n numbers, column after column; n by p numbers are enough when the job asks for
+ * min(n, p) columns. May be null when it asks for none
  * @param v    [out] p by p numbers, column after column. May be null when the job does not ask for it
  * @param job  what is wanted, see above
- * @param info [out] 0; minus the number of values that did not converge, which are the first ones
+ * @param info [out] one integer: 0; minus the number of values that did not converge, which are the first
+ * ones
  * @return 0
  */
 KORVEL_FLAT int VB_M_SVDecomp(const double* a, int n, int p, double* s, double* u, double* v, int job,
@@ -38,13 +40,15 @@ KORVEL_FLAT int VB_M_SVDecomp(const double* a, int n, int p, double* s, double* 
  * @param a    [in] host array of p records, each with a numeric column of n numbers
  * @param n    rows
  * @param p    columns
- * @param s    [out] min(n + 1, p) numbers: the first min(n, p) are the singular values, descending
+ * @param s    [out] p numbers, of which the first min(n + 1, p) are written: min(n, p) singular values,
+ * descending, and perhaps a 0
  * @param u    [inout] host array of a record for each column that the job asks for, each with a numeric
  * column of n numbers; a null array when it asks for none
  * @param v    [inout] host array of p records, each with a numeric column of p numbers; a null array when the
  * job does not ask for it
  * @param job  what is wanted, see above
- * @param info [out] 0; minus the number of values that did not converge, which are the first ones
+ * @param info [out] one integer: 0; minus the number of values that did not converge, which are the first
+ * ones
  * @return 0
  */
 KORVEL_FLAT int VB_M_SVDecompSPV(Hostarray** a, int n, int p, double* s, Hostarray** u, Hostarray** v,
