@@ -206,6 +206,24 @@ Public Declare PtrSafe Function VB_V_Gauss Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_V_Gauss_ST Lib "KORVELMathTools.dll" ( _
     ByVal a As LongPtr, ByVal n As Long, ByVal b As LongPtr) As Long
 
+' ---- linalg/generalized_inverse.h
+
+' Moore-Penrose inverse of a square table, column after column.
+Public Declare PtrSafe Function VB_M_InvGeneralized Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef g As Double, ByVal tolerance As Double, _
+    ByRef rank As Long) As Long
+
+' Generalised inverse of a symmetric positive semidefinite table: the left singular vectors stand on
+' both sides, so that a negative eigenvalue has a positive inverse.
+Public Declare PtrSafe Function VB_M_InvGeneralizedSym Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef g As Double, ByVal tolerance As Double, _
+    ByRef rank As Long) As Long
+
+' Rank of a table, column after column: the number of singular values up to the first that is at
+' most 1e-12.
+Public Declare PtrSafe Function VB_M_Rank Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal p As Long) As Long
+
 ' ---- linalg/hermite_form.h
 
 ' Forward Doolittle reduction of a symmetric table.

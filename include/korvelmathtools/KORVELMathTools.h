@@ -18,6 +18,7 @@
 #include "frames/linalg/element_wise.h"
 #include "frames/linalg/g2_sweep.h"
 #include "frames/linalg/gauss.h"
+#include "frames/linalg/generalized_inverse.h"
 #include "frames/linalg/hermite_form.h"
 #include "frames/linalg/logical_inverse.h"
 #include "frames/linalg/lu.h"
