@@ -132,6 +132,33 @@ TEST(FlatCentering, WeightsAndFlags)
     EXPECT_EQ(valuesOf(out), (doubles{0, 100, 2})) << "1 is not true";
 }
 
+TEST(FlatCentering, TheTwoFlagsStandInTheirPlaces)
+{
+    const doubles cellsOfTwo{0, 4};
+    guarded<double> w{1, 3};
+    const double sd = std::sqrt(8.0);         // 8 over 2 - 2/2
+    const double weightedSd = std::sqrt(6.0); // 12 over 4 - 4/2
+    const doubles weighted{-3 / weightedSd, 1 / weightedSd};
+    guarded<double> means{9};
+    guarded<double> sds{9};
+    guarded<double> x(cellsOfTwo);
+    VB_M_Standardize3(x.data(), 2, 1, means.data(), sds.data(), -1, 0);
+    EXPECT_EQ(valuesOf(x), (doubles{-2 / sd, 2 / sd}));
+    guarded<double> second(cellsOfTwo);
+    VB_M_StandardizeW2(second.data(), 2, 1, w.data(), -1, 0);
+    EXPECT_EQ(valuesOf(second), weighted);
+    guarded<double> third(cellsOfTwo);
+    VB_M_StandardizeW3(third.data(), 2, 1, w.data(), means.data(), sds.data(), -1, 0);
+    EXPECT_EQ(valuesOf(third), weighted);
+    EXPECT_EQ(valuesOf(sds), doubles{weightedSd});
+    guarded<double> out{9, 9};
+    VB_M_Reduce(cellsOfTwo.data(), 2, 1, out.data(), -1, 0);
+    EXPECT_EQ(valuesOf(out), (doubles{0, 4 / sd}));
+    guarded<double> fourth(cellsOfTwo);
+    VB_M_ReduceW2(fourth.data(), 2, 1, w.data(), -1, 0);
+    EXPECT_EQ(valuesOf(fourth), (doubles{0, 4 / weightedSd}));
+}
+
 TEST(FlatCentering, SeparateColumns)
 {
     const double sd = std::sqrt(14.0 / 3.0);

@@ -21,9 +21,15 @@ TEST(FlatConditionalSummaries, SummariseAGroup)
     EXPECT_TRUE(sameBits(VB_V_MinIf(y.data(), 5, g.data(), 1.0), 1.0));
     EXPECT_TRUE(sameBits(Cpp_V_VarIf(y.data(), 5, g.data(), 1.0, -1), 2.0));
     EXPECT_TRUE(sameBits(Cpp_V_VarIfW(y.data(), 5, g.data(), w.data(), 1.0, 0), 0.75));
+    EXPECT_TRUE(sameBits(Cpp_V_VarIfW(y.data(), 5, g.data(), w.data(), 1.0, -1), 1.5));
     g.data()[1] = 0.0;
     EXPECT_TRUE(sameBits(Cpp_V_VarIfSup0W(y.data(), 5, g.data(), w.data(), 0), 1.25)) << "-0.5 and 3, over 2";
+    EXPECT_TRUE(sameBits(Cpp_V_VarIfSup0W(y.data(), 5, g.data(), w.data(), -1), 2.5));
     EXPECT_TRUE(y.intact() && g.intact() && w.intact());
+    const double below = -2.0;
+    const double code = 1.0;
+    const double weight = 3.0;
+    EXPECT_TRUE(sameBits(VB_V_SumIfW(&below, 1, &code, &weight, 1.0), -6.0));
 }
 
 TEST(FlatConditionalSummaries, OfNothing)

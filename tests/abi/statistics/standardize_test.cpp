@@ -84,6 +84,19 @@ TEST(FlatStandardize, TheResultMayShareMemoryWithTheTable)
     EXPECT_EQ(valuesOf(weighed), (doubles{-1, 1, 0, 0})) << "the weights are a column of the table";
 }
 
+TEST(FlatStandardize, TheFlagsAndTheStatisticsStandInTheirPlaces)
+{
+    guarded<double> x{0, 4};
+    guarded<double> w{1, 3};
+    guarded<double> sds{9};
+    guarded<double> vars{9};
+    VB_M_Standardize(x.data(), 2, 1, nullptr, nullptr, sds.data(), vars.data(), nullptr, w.data(), -1, 0);
+    const double sd = std::sqrt(6.0); // 12 over 4 - 4/2
+    EXPECT_EQ(valuesOf(x), (doubles{-3 / sd, 1 / sd}));
+    EXPECT_EQ(valuesOf(sds), doubles{sd});
+    EXPECT_EQ(valuesOf(vars), doubles{6});
+}
+
 TEST(FlatStandardize, Vectors)
 {
     guarded<double> x{0, 4, none, 9};

@@ -4,6 +4,7 @@
 #include "support/caller_memory.h"
 #include "support/guarded.h"
 
+#include <cstddef>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
@@ -120,7 +121,7 @@ void expectSameCells(const doubles& actual, const doubles& expected)
 struct shared_room {
     int shift;
     int from = shift < 0 ? -shift : 0;
-    guarded<double> cellsOfBoth{doubles(cells + (shift < 0 ? -shift : shift), 1.5)};
+    guarded<double> cellsOfBoth{doubles(static_cast<std::size_t>(cells + (shift < 0 ? -shift : shift)), 1.5)};
 
     shared_room(int apart, const doubles& values) : shift(apart)
     {
