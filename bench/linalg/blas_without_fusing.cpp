@@ -30,9 +30,9 @@ void* loadAgain()
     return library;
 }
 
-/** A routine of the library that was loaded again. */
-template <class Routine>
-Routine* withoutFusing(const char* name)
+} // namespace
+
+void* routineWithoutFusing(const char* name)
 {
     static void* const library = loadAgain();
     void* const routine = library == nullptr ? nullptr : dlsym(library, name);
@@ -40,14 +40,12 @@ Routine* withoutFusing(const char* name)
         std::fprintf(stderr, "OpenBLAS cannot be loaded again: %s\n", dlerror());
         std::exit(2);
     }
-    return reinterpret_cast<Routine*>(routine);
+    return routine;
 }
-
-} // namespace
 
 void dgemmWithoutFusing(const double* a, const double* b, double* c, int n)
 {
-    static const auto dgemm = withoutFusing<decltype(cblas_dgemm)>("cblas_dgemm");
+    static const auto dgemm = withoutFusing(cblas_dgemm, "cblas_dgemm");
     dgemm(CblasColMajor, CblasNoTrans, CblasNoTrans, n, n, n, 1.0, a, n, b, n, 0.0, c, n);
 }
 
@@ -58,7 +56,7 @@ lapack_inverse lapackInverse()
 
 lapack_inverse lapackInverseWithoutFusing()
 {
-    return {withoutFusing<decltype(dgetrf_)>("dgetrf_"), withoutFusing<decltype(dgetri_)>("dgetri_")};
+    return {withoutFusing(dgetrf_, "dgetrf_"), withoutFusing(dgetri_, "dgetri_")};
 }
 
 } // namespace korvel::bench

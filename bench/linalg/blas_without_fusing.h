@@ -23,6 +23,16 @@ struct lapack_inverse {
 [[nodiscard]] lapack_inverse lapackInverse();
 [[nodiscard]] lapack_inverse lapackInverseWithoutFusing();
 
+/** A routine of that OpenBLAS by its name, also one of the LAPACK in it. */
+void* routineWithoutFusing(const char* name);
+
+/** The same, with the type of the routine `like`. */
+template <class Routine>
+Routine* withoutFusing(Routine*, const char* name)
+{
+    return reinterpret_cast<Routine*>(routineWithoutFusing(name));
+}
+
 } // namespace korvel::bench
 
 #endif

@@ -20,7 +20,6 @@ namespace
 
 namespace kernels = korvel::kernels;
 using korvel::lu_outcome;
-using korvel::kernels::columns_of;
 
 using index = std::ptrdiff_t;
 
@@ -124,15 +123,15 @@ class by_halves
 {
 public:
     /** @param scratch what the largest product needs */
-    by_halves(const columns_of<double>& cells, index order, int* pivots, double* scales, double* scratch)
-        : cells_(cells), order_(order), pivots_(pivots), scales_(scales), scratch_(scratch)
+    by_halves(double* cells, index stride, index order, int* pivots, double* scales, double* scratch)
+        : cells_(cells), stride_(stride), order_(order), pivots_(pivots), scales_(scales), scratch_(scratch)
     {
     }
 
     /** Doubles of scratch. */
     static std::size_t scratchSize(index order)
     {
-        kernels::product largest{order, order, order};
+        kernels::product largest{order, order, order / 2 + kernels::panelWidth};
         largest.right.sumsDownColumns = true;
         largest.onto = true;
         return kernels::productKernel().scratchSize(largest);
@@ -176,7 +175,7 @@ private:
     bool decomposePanel(index first, index count)
     {
         const kernels::panel_outcome panel =
-            kernel_.decomposePanel({at(first, first), cells_.stride, order_ - first, count, scales_ + first,
+            kernel_.decomposePanel({at(first, first), stride_, order_ - first, count, scales_ + first,
                                     pivots_ + first, static_cast<int>(first)});
         outcome_.sign = panel.isOdd ? -outcome_.sign : outcome_.sign;
         outcome_.singular = outcome_.singular || panel.hasZero;
@@ -186,10 +185,35 @@ private:
     /** Swaps the rows of `count` columns as the pivots of `swaps` columns from `pivot` on say. */
     void swapRows(index pivot, index swaps, index first, index count)
     {
-        for (index j = first; j < first + count; ++j) {
-            double* const column = cells_(j);
-            for (index i = pivot; i < pivot + swaps; ++i) {
-                std::swap(column[i], column[pivots_[i] - 1]);
+        index j = first;
+        for (; j + 4 <= first + count; j += 4) {
+            swapRowsOf<4>(pivot, swaps, j);
+        }
+        for (; j < first + count; ++j) {
+            swapRowsOf<1>(pivot, swaps, j);
+        }
+    }
+
+    /** The same in a few columns at once: their elements are read before any is written. */
+    template <index Count>
+    void swapRowsOf(index pivot, index swaps, index first)
+    {
+        double* columns[Count];
+        for (index c = 0; c < Count; ++c) {
+            columns[c] = at(0, first + c);
+        }
+        const int* const pivots = pivots_;
+        for (index i = pivot; i < pivot + swaps; ++i) {
+            const index other = pivots[i] - 1;
+            double here[Count];
+            double there[Count];
+            for (index c = 0; c < Count; ++c) {
+                here[c] = columns[c][i];
+                there[c] = columns[c][other];
+            }
+            for (index c = 0; c < Count; ++c) {
+                columns[c][i] = there[c];
+                columns[c][other] = here[c];
             }
         }
     }
@@ -198,7 +222,7 @@ private:
     void solve(index row, index order, index first, index cols)
     {
         if (order <= kernels::panelWidth) {
-            kernel_.solveTriangle(at(row, row), cells_.stride, order, at(row, first), cells_.stride, cols);
+            kernel_.solveTriangle(at(row, row), stride_, order, at(row, first), stride_, cols);
             return;
         }
         const index half = (order / 2 + kernels::panelWidth - 1) / kernels::panelWidth * kernels::panelWidth;
@@ -212,16 +236,17 @@ private:
     void takeProductsOff(index row, index rows, index k, index depth, index first, index cols)
     {
         kernels::product form{rows, cols, depth};
-        form.left.columns = {at(row, k), cells_.stride};
-        form.right = {{at(k, first), cells_.stride}, true};
-        form.result = {at(row, first), cells_.stride};
+        form.left.columns = {at(row, k), stride_};
+        form.right = {{at(k, first), stride_}, true};
+        form.result = {at(row, first), stride_};
         form.onto = true;
         kernels::productKernel().multiply(form, scratch_);
     }
 
-    [[nodiscard]] double* at(index i, index j) const { return cells_(j) + i; }
+    [[nodiscard]] double* at(index i, index j) const { return cells_ + j * stride_ + i; }
 
-    columns_of<double> cells_;
+    double* cells_;
+    index stride_;
     index order_;
     int* pivots_;
     double* scales_;
@@ -241,20 +266,19 @@ std::optional<lu_outcome> decomposeInside(matrix<double>& A, index n, matrix<int
     const auto space = std::make_unique_for_overwrite<double[]>(cells + rows + by_halves::scratchSize(n));
     double* const copy = space.get();
     double* const scales = copy + cells;
-    const columns_of<double> columns{A.data, A.nbrows};
     std::fill_n(scales, rows, 0.0);
     kernels::factorKernel().copyAndScale(A.data, A.nbrows, n, copy, scales);
     if (!invert(scales, scales + rows)) {
         return lu_outcome{1, -1, false};
     }
-    const auto outcome = by_halves(columns, n, pivots.data, scales, scales + rows).run();
+    const auto outcome = by_halves(A.data, A.nbrows, n, pivots.data, scales, scales + rows).run();
     if (outcome) {
-        A.oobValue = columns(n - 1)[n - 1];
+        A.oobValue = A.getElement(static_cast<int>(n) - 1, static_cast<int>(n) - 1);
         pivots.oobValue = pivots.data[n - 1];
         return outcome;
     }
     for (index j = 0; j < n; ++j) {
-        std::copy_n(copy + j * n, n, columns(j));
+        std::copy_n(copy + j * n, n, A.data + j * A.nbrows);
     }
     std::fill_n(pivots.data, n, 0);
     return std::nullopt;
