@@ -3,6 +3,9 @@
 #include "containers/views.h"
 #include "linalg/cholesky_columns.h"
 #include "linalg/determinants.h"
+#include "linalg/g2_sweep.h"
+#include "linalg/inverse1.h"
+#include "linalg/triangular_inverse.h"
 
 #include <cstddef>
 #include <vector>
@@ -96,6 +99,51 @@ int cholesky(const matrix<double>& A, int n, const matrix<Number>& constraints, 
     return status;
 }
 
+constexpr double tolerance = 1e-12;
+
+/**
+ * Inverts the reduced table by `invert(reduced, order, result)` and spreads the result unless the status of
+ * that is negative. A single cell has its reciprocal.
+ */
+template <class Number, class Invert>
+int invertFreePart(const matrix<double>& table, int n, const matrix<Number>& constraints,
+                   matrix<double>& inverse, Invert invert)
+{
+    const free_part kept = freePart(constraints, n);
+    matrix<double> reduced = reducedTable(reading(table).table(n, n), kept);
+    matrix<double> found(kept.order, kept.order, 0.0);
+    int status = 0;
+    if (kept.order == 1) {
+        const double cell = reduced.data[0];
+        found.data[0] = 1.0 / (cell == 0.0 ? tolerance : cell);
+    } else {
+        status = invert(reduced, kept.order, found);
+    }
+    if (status >= 0) {
+        spread(found, kept, n, inverse);
+    }
+    return status;
+}
+
+/** The inverse, or the swept one of a singular table and status 1. */
+int invertOrSweep(matrix<double>& table, int n, matrix<double>& inverse)
+{
+    short int error = 0;
+    if (Inverse1(&table, &inverse, &error, tolerance) == 0) {
+        return 0;
+    }
+    M_InverseG2(&table, n, tolerance, &inverse);
+    return 1;
+}
+
+auto invertTriangle(short int lowerFlag)
+{
+    return [lowerFlag](matrix<double>& table, int n, matrix<double>& inverse) {
+        auto* place = &inverse;
+        return M_InverseTriang(&table, n, lowerFlag, place, tolerance);
+    };
+}
+
 } // namespace
 
 double M_DeterminantCleaned(matrix<double>* A, int n, matrix<double>* constraints, short int* error)
@@ -121,4 +169,38 @@ int M_CholDecompCleaned(matrix<double>* A, int n, matrix<double>* constraints, m
 int M_CholDecompCleaned(matrix<double>* A, int n, matrix<int>* constraints, matrix<double>* L)
 {
     return cholesky(*A, n, *constraints, *L);
+}
+
+int cCleanConstraintsAndInvert(int n, matrix<double> const& constraints, matrix<double> const& H,
+                               matrix<double>& inverse)
+{
+    return invertFreePart(H, n, constraints, inverse, invertOrSweep);
+}
+
+int cCleanConstraintsAndInvert(int n, matrix<int> const& constraints, matrix<double> const& H,
+                               matrix<double>& inverse)
+{
+    return invertFreePart(H, n, constraints, inverse, invertOrSweep);
+}
+
+int cCleanConstraintsAndInvert(int n, matrix<double>* constraints, matrix<double>* H, matrix<double>* inverse)
+{
+    return cCleanConstraintsAndInvert(n, *constraints, *H, *inverse);
+}
+
+int cCleanConstraintsAndInvert(int n, matrix<int>* constraints, matrix<double>* H, matrix<double>* inverse)
+{
+    return cCleanConstraintsAndInvert(n, *constraints, *H, *inverse);
+}
+
+int cCleanConstraintsAndInvertTriang(int n, matrix<double>* constraints, matrix<double>* T,
+                                     short int lowerFlag, matrix<double>*& inverse)
+{
+    return invertFreePart(*T, n, *constraints, *inverse, invertTriangle(lowerFlag));
+}
+
+int cCleanConstraintsAndInvertTriang(int n, matrix<int>* constraints, matrix<double>* T, short int lowerFlag,
+                                     matrix<double>* inverse)
+{
+    return invertFreePart(*T, n, *constraints, *inverse, invertTriangle(lowerFlag));
 }

@@ -62,4 +62,51 @@ KORVEL_API int M_CholDecompCleaned(matrix<double>* A, int n, matrix<double>* con
 /** The same, with constraints that are integers. */
 KORVEL_API int M_CholDecompCleaned(matrix<double>* A, int n, matrix<int>* constraints, matrix<double>* L);
 
+/**
+ * The inverse of the reduced table, by LU decomposition as in `Inverse1SPV` with a positive tolerance: what
+ * is singular has a pivot whose magnitude is at most 1e-8. A singular table gets the generalised inverse of
+ * `M_InverseG2` with the tolerance 1e-12 instead, which is a full inverse where all pivots lie between the
+ * two. Both limits are absolute: a table of tiny scale counts as singular. A reduced table of order 1 has the
+ * reciprocal of its only cell, a cell of exactly 0 counting as 1e-12.
+ *
+ * @param n           order
+ * @param constraints `n` elements
+ * @param H           `n` by `n`; only free rows and columns are read
+ * @param inverse     `n` by `n`; the columns of free positions are written whole, with 0 in the rows of other
+ *                    positions. The columns of other positions stay as they are: the caller clears them
+ * @return 0, or 1 when the reduced table was singular
+ * @throws std::bad_alloc when memory is short
+ */
+KORVEL_API int cCleanConstraintsAndInvert(int n, matrix<double> const& constraints, matrix<double> const& H,
+                                          matrix<double>& inverse);
+
+/** The same, with constraints that are integers. */
+KORVEL_API int cCleanConstraintsAndInvert(int n, matrix<int> const& constraints, matrix<double> const& H,
+                                          matrix<double>& inverse);
+
+/** Both, given by pointers. */
+KORVEL_API int cCleanConstraintsAndInvert(int n, matrix<double>* constraints, matrix<double>* H,
+                                          matrix<double>* inverse);
+KORVEL_API int cCleanConstraintsAndInvert(int n, matrix<int>* constraints, matrix<double>* H,
+                                          matrix<double>* inverse);
+
+/**
+ * The inverse of the reduced table of a triangular one, by `M_InverseTriang` with the tolerance 1e-12. A
+ * reduced table of order 1 as above.
+ *
+ * @param n           order
+ * @param constraints `n` elements
+ * @param T           `n` by `n`, triangular
+ * @param lowerFlag   0: T is upper triangular; otherwise it is lower triangular
+ * @param inverse     written as above; untouched on failure
+ * @return 0, or -1 when an element of the diagonal is below 1e-12 in magnitude
+ * @throws std::bad_alloc when memory is short
+ */
+KORVEL_API int cCleanConstraintsAndInvertTriang(int n, matrix<double>* constraints, matrix<double>* T,
+                                                short int lowerFlag, matrix<double>*& inverse);
+
+/** The same, with constraints that are integers. */
+KORVEL_API int cCleanConstraintsAndInvertTriang(int n, matrix<int>* constraints, matrix<double>* T,
+                                                short int lowerFlag, matrix<double>* inverse);
+
 #endif

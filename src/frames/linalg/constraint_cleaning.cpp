@@ -26,3 +26,20 @@ int VB_M_CholDecompCleaned(const double* a, int n, const int* constraints, doubl
     auto fixed = frame::borrow(constraints, n);
     return M_CholDecompCleaned(&table, n, &fixed, &factor);
 }
+
+int CleanConstraintsAndInvert(int n, const int* constraints, const double* h, double* inverse)
+{
+    auto result = frame::changing(inverse, n, n);
+    auto table = frame::besides(result, h, n, n);
+    auto fixed = frame::borrow(constraints, n);
+    return cCleanConstraintsAndInvert(n, fixed, table, result);
+}
+
+int CleanConstraintsAndInvertTriang(int n, const int* constraints, const double* t, short int lowerFlag,
+                                    double* inverse)
+{
+    auto result = frame::changing(inverse, n, n);
+    auto table = frame::besides(result, t, n, n);
+    auto fixed = frame::borrow(constraints, n);
+    return cCleanConstraintsAndInvertTriang(n, &fixed, &table, lowerFlag, &result);
+}

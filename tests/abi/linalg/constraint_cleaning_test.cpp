@@ -44,3 +44,36 @@ TEST(FlatConstraintCleaning, FactorisesTheFreePart)
     EXPECT_EQ(VB_M_CholDecompCleaned(bad.data(), 1, none.data(), kept.data()), -1);
     expectCells(kept, {7});
 }
+
+TEST(FlatConstraintCleaning, InvertsTheFreePart)
+{
+    guarded<double> h{2, 9, 0, 9, 9, 9, 0, 9, 4};
+    guarded<int> fixed{0, 1, 0};
+    guarded<double> inverse(std::vector<double>(9, 7.0));
+    EXPECT_EQ(CleanConstraintsAndInvert(3, fixed.data(), h.data(), inverse.data()), 0);
+    expectCells(inverse, {0.5, 0, 0, 7, 7, 7, 0, 0, 0.25});
+    EXPECT_EQ(CleanConstraintsAndInvert(3, fixed.data(), h.data(), h.data()), 0) << "over its own table";
+    expectCells(h, {0.5, 0, 0, 9, 9, 9, 0, 0, 0.25});
+    guarded<double> singular{1, 1, 1, 1};
+    guarded<int> none{0, 0};
+    guarded<double> swept{7, 7, 7, 7};
+    EXPECT_EQ(CleanConstraintsAndInvert(2, none.data(), singular.data(), swept.data()), 1);
+    expectCells(swept, {1, 0, 0, 0});
+}
+
+TEST(FlatConstraintCleaning, InvertsTheFreePartOfATriangle)
+{
+    guarded<double> lower{2, 9, 1, 0, 9, 9, 0, 0, 4};
+    guarded<int> fixed{0, 1, 0};
+    guarded<double> inverse(std::vector<double>(9, 7.0));
+    EXPECT_EQ(CleanConstraintsAndInvertTriang(3, fixed.data(), lower.data(), -1, inverse.data()), 0);
+    expectCells(inverse, {0.5, 0, -0.125, 7, 7, 7, 0, 0, 0.25});
+    guarded<double> upper{2, 0, 0, 9, 9, 0, 1, 9, 4};
+    EXPECT_EQ(CleanConstraintsAndInvertTriang(3, fixed.data(), upper.data(), 0, inverse.data()), 0);
+    expectCells(inverse, {0.5, 0, 0, 7, 7, 7, -0.125, 0, 0.25});
+    guarded<double> singular{2, 0, 0, 0};
+    guarded<int> none{0, 0};
+    guarded<double> kept{7, 7, 7, 7};
+    EXPECT_EQ(CleanConstraintsAndInvertTriang(2, none.data(), singular.data(), 0, kept.data()), -1);
+    expectCells(kept, {7, 7, 7, 7});
+}

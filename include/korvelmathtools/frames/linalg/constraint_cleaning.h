@@ -43,4 +43,32 @@ KORVEL_FLAT double Cpp_M_DeterminantCleanedSPV_T(Hostarray** a, int n, const int
  */
 KORVEL_FLAT int VB_M_CholDecompCleaned(const double* a, int n, const int* constraints, double* l);
 
+/**
+ * Inverse of the free rows and columns. A table with a pivot of at most 1e-8 in magnitude is singular and
+ * gets a generalised inverse by sweeping, in which pivots below 1e-12 give zeros. A single free cell gives
+ * its reciprocal, 0 counting as 1e-12.
+ *
+ * @param n           rows and columns
+ * @param constraints [in] n integers
+ * @param h           [in] n by n numbers, column after column
+ * @param inverse     [inout] n by n numbers; the columns of free positions are written whole, with 0 in the
+ * other rows. The other columns stay as they are: pass zeros. May be the array that is read
+ * @return 0; 1: the reduced table was singular
+ */
+KORVEL_FLAT int CleanConstraintsAndInvert(int n, const int* constraints, const double* h, double* inverse);
+
+/**
+ * Inverse of the free rows and columns of a triangular table. A single free cell gives its reciprocal, 0
+ * counting as 1e-12.
+ *
+ * @param n           rows and columns
+ * @param constraints [in] n integers
+ * @param t           [in] n by n numbers, column after column
+ * @param lowerFlag   0: t is upper triangular; any other value: lower triangular
+ * @param inverse     [inout] n by n numbers, as for CleanConstraintsAndInvert; stays as it is on failure
+ * @return 0; -1: an element of the diagonal is below 1e-12 in magnitude
+ */
+KORVEL_FLAT int CleanConstraintsAndInvertTriang(int n, const int* constraints, const double* t,
+                                                short int lowerFlag, double* inverse);
+
 #endif
