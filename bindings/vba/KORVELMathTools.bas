@@ -89,6 +89,15 @@ Public Declare PtrSafe Function Cpp_M_DeterminantCleanedSPV_T Lib "KORVELMathToo
 Public Declare PtrSafe Function VB_M_CholDecompCleaned Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByRef constraints As Long, ByRef l As Double) As Long
 
+' Inverse of the free rows and columns.
+Public Declare PtrSafe Function CleanConstraintsAndInvert Lib "KORVELMathTools.dll" ( _
+    ByVal n As Long, ByRef constraints As Long, ByRef h As Double, ByRef inverse As Double) As Long
+
+' Inverse of the free rows and columns of a triangular table.
+Public Declare PtrSafe Function CleanConstraintsAndInvertTriang Lib "KORVELMathTools.dll" ( _
+    ByVal n As Long, ByRef constraints As Long, ByRef t As Double, ByVal lowerFlag As Integer, _
+    ByRef inverse As Double) As Long
+
 ' ---- linalg/determinants.h
 
 ' The determinant, as the exponential of the logarithms of the pivots of an LU decomposition.
