@@ -9,6 +9,9 @@
 namespace korvel::bench
 {
 
+/** A routine of that second OpenBLAS, of BLAS or LAPACK, by its name as a symbol. */
+[[nodiscard]] void* routineWithoutFusing(const char* name);
+
 /** c = a * b, all of them n by n, column after column, on one thread. */
 void dgemmWithoutFusing(const double* a, const double* b, double* c, int n);
 

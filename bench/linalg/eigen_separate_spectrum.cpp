@@ -1,0 +1,2 @@
+#define KORVEL_EIGEN_SPECTRUM eigenSeparateSpectrum
+#include "linalg/eigen_spectrum.inc"
