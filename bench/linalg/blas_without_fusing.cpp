@@ -34,13 +34,6 @@ void* loadAgain()
 
 void* routineWithoutFusing(const char* name)
 {
-    return reinterpret_cast<Routine*>(routineWithoutFusing(name));
-}
-
-} // namespace
-
-void* routineWithoutFusing(const char* name)
-{
     static void* const library = loadAgain();
     void* const routine = library == nullptr ? nullptr : dlsym(library, name);
     if (routine == nullptr) {

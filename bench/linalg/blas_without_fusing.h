@@ -12,6 +12,13 @@ namespace korvel::bench
 /** A routine of that second OpenBLAS, of BLAS or LAPACK, by its name as a symbol. */
 [[nodiscard]] void* routineWithoutFusing(const char* name);
 
+/** The same, with the type of the routine that is passed. */
+template <class Routine>
+Routine* withoutFusing(Routine*, const char* name)
+{
+    return reinterpret_cast<Routine*>(routineWithoutFusing(name));
+}
+
 /** c = a * b, all of them n by n, column after column, on one thread. */
 void dgemmWithoutFusing(const double* a, const double* b, double* c, int n);
 
@@ -25,16 +32,6 @@ struct lapack_inverse {
 /** The routines of OpenBLAS as it is, and held to separate multiplications and additions. */
 [[nodiscard]] lapack_inverse lapackInverse();
 [[nodiscard]] lapack_inverse lapackInverseWithoutFusing();
-
-/** A routine of that OpenBLAS by its name, also one of the LAPACK in it. */
-void* routineWithoutFusing(const char* name);
-
-/** The same, with the type of the routine `like`. */
-template <class Routine>
-Routine* withoutFusing(Routine*, const char* name)
-{
-    return reinterpret_cast<Routine*>(routineWithoutFusing(name));
-}
 
 } // namespace korvel::bench
 
