@@ -217,7 +217,7 @@ private:
     }
 
     /** Where the last unreduced block begins, and what is to be done with it. */
-    enum class part { small_last, small_inside, step, converged };
+    enum class part { smallLast, smallInside, step, converged };
     struct block {
         part what;
         int first;
@@ -248,7 +248,7 @@ private:
         if (k == l) {
             return {part::step, l};
         }
-        return k == m ? block{part::small_last, l} : block{part::small_inside, k};
+        return k == m ? block{part::smallLast, l} : block{part::smallInside, k};
     }
 
     int iterate()
@@ -263,11 +263,11 @@ private:
             }
             const block found = lastBlock(m);
             switch (found.what) {
-            case part::small_last:
+            case part::smallLast:
                 deflateLast(found.first, m);
                 ++splits;
                 break;
-            case part::small_inside:
+            case part::smallInside:
                 splitAt(found.first, m);
                 ++splits;
                 break;

@@ -656,7 +656,8 @@ class Names(Tree):
         script = load("check_names")
         known = script.known_names(self.root)
         kinds = {"V_Sum": "function", "VB_V_Sum": "function", "CheckType": "member", "MISSING_DBL": "variable",
-                 "B2": "parameter", "sum_of": "function", "Count": "member", "B": "variable"}
+                 "B2": "parameter", "T": "variable", "U": "member",
+                 "sum_of": "function", "Count": "member", "Sums": "variable", "B": "function"}
         output = "".join(f"{self.root}/src/tables/a.h:3:5: warning: invalid case style for {kind} '{name}' [x]\n"
                          for name, kind in kinds.items())
         output += f"{self.root}/include/korvelmathtools/platform/automation.h:9:1: " \
@@ -664,7 +665,7 @@ class Names(Tree):
         self.assertEqual(
             list(script.broken_rules(self.root, output, known)),
             [f"src/tables/a.h:3: {kind} {name} is not named as docs/names.md says"
-             for kind, name in (("function", "sum_of"), ("member", "Count"), ("variable", "B"))],
+             for kind, name in (("function", "sum_of"), ("member", "Count"), ("variable", "Sums"), ("function", "B"))],
         )
 
 
