@@ -79,12 +79,12 @@ TEST(HermiteForm, ClearsARowWhoseDiagonalIsNegligible)
 
 TEST(HermiteForm, LeavesAPivotThatIsNearlyOne)
 {
-    const double near = 1 + 0.9e-12;
-    const matrix<double> H = reduced(M_ForwardDoolittle, tableOf({{near, 3}, {3, 20}}));
-    EXPECT_SAME_BITS(H.getElement(0, 0), near);
+    const double nearlyOne = 1 + 0.9e-12;
+    const matrix<double> H = reduced(M_ForwardDoolittle, tableOf({{nearlyOne, 3}, {3, 20}}));
+    EXPECT_SAME_BITS(H.getElement(0, 0), nearlyOne);
     EXPECT_SAME_BITS(H.getElement(0, 1), 3.0) << "and its row is not divided";
-    const matrix<double> far = reduced(M_ForwardDoolittle, tableOf({{1 + 3e-12, 3}, {3, 20}}));
-    EXPECT_SAME_BITS(far.getElement(0, 0), 1.0);
+    const matrix<double> further = reduced(M_ForwardDoolittle, tableOf({{1 + 3e-12, 3}, {3, 20}}));
+    EXPECT_SAME_BITS(further.getElement(0, 0), 1.0);
 }
 
 TEST(HermiteForm, IsTheUnitTableForFullRank)
