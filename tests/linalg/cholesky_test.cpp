@@ -1,6 +1,6 @@
 #include "linalg/cholesky.h"
 
-#include "linalg/kernels/product.h"
+#include "linalg/kernels/instruction_sets.h"
 #include "linalg/square_kinds.h"
 #include "reference/cholesky.h"
 #include "support/near_tables.h"
@@ -158,11 +158,7 @@ TEST(Cholesky, ClearsItsResultInStorageOrder)
 
 TEST(Cholesky, HasTheBitsOfThePlainLoop)
 {
-    using korvel::kernels::instruction_set;
-    for (const auto set : {instruction_set::baseline, instruction_set::avx2, instruction_set::avx512}) {
-        if (!korvel::kernels::hasSet(set)) {
-            continue;
-        }
+    for (const auto set : korvel::test::setsOfThisProcessor()) {
         const korvel::kernels::forced_set forced(set);
         compareWithThePlainLoop();
     }

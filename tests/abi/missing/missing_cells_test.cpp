@@ -66,4 +66,7 @@ TEST(FlatMissingCells, AreMadeMarkedAndWeighed)
     guarded<double> rows{5, 6};
     EXPECT_EQ(VB_M_SetWeightsToZeroForMissing(x.data(), 2, 1, rows.data(), 1), 0);
     EXPECT_EQ(valuesOf(rows), (doubles{5, 0}));
+    guarded<double> y{1, 2, MISSING_DBL, 4};
+    EXPECT_EQ(VB_M_SetWeightsToZeroForMissing(y.data(), 2, 2, rows.data(), 1), 0);
+    EXPECT_EQ(valuesOf(rows), (doubles{0, 0})) << "a weight for each row, whatever column misses";
 }

@@ -77,6 +77,52 @@ TEST(FlatCovariance, LabelledTables)
     EXPECT_TRUE(caller.guardsIntact());
 }
 
+TEST(FlatCovariance, LabelledTablesHeedEveryArgument)
+{
+    caller_memory caller;
+    ST_MVect x = caller.table({caller.column(u"a", doubles{0, 9, 2}), caller.column(u"b", doubles{0, 9, 4})},
+                              {u"a", u"b"});
+    ST_MVect flat = caller.table(
+        {caller.column(u"a", doubles{0, 9, 2}), caller.column(u"b", doubles{5, 9, 5})}, {u"a", u"b"});
+    ST_MVect out =
+        caller.table({caller.column(u"a", doubles{7, 7}), caller.column(u"b", doubles{7, 7})}, {u"a", u"b"});
+    shorts flags{0, 1, 0};
+    doubles w{1, 8, 3};
+    // The rows kept sum up to 4, and their squares about the mean of 1.5 to 3.
+    EXPECT_EQ(Cpp_M_CovCorr_ST(&x, 3, 2, &out, 0, flags.data(), w.data(), 0, 0, 0), 0);
+    expectNumbers(numbersIn<double>(columnOf(out, 0).Vect), {0.75, 1.5});
+    EXPECT_EQ(Cpp_M_CovCorr_ST(&x, 3, 2, &out, 0, flags.data(), w.data(), -1, -1, 0), 0);
+    expectNumbers(numbersIn<double>(columnOf(out, 0).Vect), {1, 2});
+    EXPECT_EQ(Cpp_M_CovCorr_ST(&x, 3, 2, &out, 0, flags.data(), w.data(), -1, 0, 0), 0);
+    expectNumbers(numbersIn<double>(columnOf(out, 0).Vect), {1.5, 3});
+    EXPECT_EQ(Cpp_M_CovCorr_ST(&flat, 3, 2, &out, -1, flags.data(), w.data(), 0, 0, 0), 0);
+    expectNumbers(numbersIn<double>(columnOf(out, 0).Vect), {1, gone});
+    EXPECT_EQ(Cpp_M_CovCorr_ST(&flat, 3, 2, &out, -1, flags.data(), w.data(), 0, 0, -1), 0);
+    expectNumbers(numbersIn<double>(columnOf(out, 0).Vect), {1, 0});
+    EXPECT_TRUE(caller.guardsIntact());
+}
+
+TEST(FlatCovariance, CentringAndReducingAreAskedForApart)
+{
+    for (auto* const function : {VB_M_CovCorrAndMeanStDevVar, VB_M_CovCorrVAndMeanStDevVar}) {
+        guarded<double> w{1, 1};
+        guarded<double> out{7};
+        guarded<double> means{7};
+        guarded<double> sds{7};
+        guarded<double> vars{7};
+        const auto changed = [&](short int bCenter, short int bReduce) {
+            guarded<double> x{0, 4}; // mean 2, deviation 2
+            function(x.data(), 2, 1, out.data(), means.data(), sds.data(), vars.data(), 0, nullptr, w.data(),
+                     0, 0, bCenter, bReduce, 0);
+            return valuesOf(x);
+        };
+        expectNumbers(changed(-1, 0), {-2, 2});
+        expectNumbers(changed(0, -1), {0, 2});
+        expectNumbers(changed(-1, -1), {-1, 1});
+        expectNumbers(changed(0, 0), {0, 4});
+    }
+}
+
 TEST(FlatCovariance, WithStatisticsAndInPlace)
 {
     for (auto* const function : {VB_M_CovCorrAndMeanStDevVar, VB_M_CovCorrVAndMeanStDevVar}) {
@@ -121,6 +167,22 @@ TEST(FlatCrossCovariance, OfTwoTables)
     expectNumbers(valuesOf(out), {0, 0});
 }
 
+TEST(FlatCrossCovariance, TheDenominatorIsAskedForByTwoFlags)
+{
+    guarded<double> x{1, 2, 3};
+    guarded<double> y{2, 4, 6};
+    guarded<double> w{2, 2, 2};
+    const auto covariance = [&](short int bUnbiased, short int bFreq) {
+        guarded<double> out{7};
+        VB_M_CorrMatMat(x.data(), 3, 1, y.data(), 1, out.data(), nullptr, w.data(), 0, 0, bUnbiased, bFreq,
+                        0);
+        return out.data()[0];
+    };
+    EXPECT_DOUBLE_EQ(covariance(0, 0), 8.0 / 6.0);
+    EXPECT_DOUBLE_EQ(covariance(-1, -1), 8.0 / 5.0);
+    EXPECT_DOUBLE_EQ(covariance(-1, 0), 8.0 / 4.0);
+}
+
 TEST(FlatCrossCovariance, OfSeparateColumns)
 {
     caller_columns x({{1, 2, 3, 9}});
@@ -132,6 +194,12 @@ TEST(FlatCrossCovariance, OfSeparateColumns)
                                  0, 0, -1, -1, 0),
               0);
     EXPECT_EQ(out.values(), (caller_columns::columns{{2}, {-1}}));
+    VB_M_CorrMatMatSPV(x.argument(), 4, 1, y.argument(), 2, out.argument(), flags.data(), w.data(), 1, 0, -1,
+                       -1, 0);
+    EXPECT_EQ(out.values(), (caller_columns::columns{{1}, {-1}}));
+    VB_M_CorrMatMatSPV(x.argument(), 4, 1, y.argument(), 2, out.argument(), flags.data(), w.data(), 1, 1, -1,
+                       -1, 0);
+    EXPECT_EQ(out.values(), (caller_columns::columns{{1}, {1}})) << "squared";
 }
 
 TEST(FlatCrossCovariance, OfTwoVectors)

@@ -107,6 +107,11 @@ TEST(FlatWeightedSums, OfTablesAndOfLabelledTables)
     EXPECT_EQ(Cpp_M_Sums1As2B_ST(&left, 2, 2, &left, 1.0, 2.0, &out), 0);
     EXPECT_EQ(numbersIn<double>(columnOf(out, 0).Vect), (doubles{3, 0, 7}));
     EXPECT_EQ(numbersIn<double>(columnOf(out, 1).Vect), (doubles{9, 12}));
+    ST_MVect right = caller.table(
+        {caller.column(u"a", doubles{10, 20}), caller.column(u"b", doubles{30, 40})}, {u"a", u"b"});
+    EXPECT_EQ(Cpp_M_Sums1As2B_ST(&left, 2, 2, &right, 1.0, 2.0, &out), 0);
+    EXPECT_EQ(numbersIn<double>(columnOf(out, 0).Vect), (doubles{21, 0, 7})) << "each with its own factor";
+    EXPECT_EQ(numbersIn<double>(columnOf(out, 1).Vect), (doubles{63, 84}));
     EXPECT_TRUE(caller.guardsIntact());
 }
 

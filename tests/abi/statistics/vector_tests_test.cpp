@@ -79,6 +79,7 @@ TEST(FlatVectorTests, OfTables)
     EXPECT_EQ(Cpp_M_IsPositive_ST(&record, 2, 2, nullptr, 0), 0);
     EXPECT_EQ(Cpp_M_IsPositive_ST(&record, 2, 2, second.data(), 0), -1);
     EXPECT_EQ(Cpp_M_IsPositive_ST(&record, 2, 1, nullptr, 0), -1);
+    EXPECT_EQ(Cpp_M_IsPositive_ST(&record, 2, 1, nullptr, -1), 0) << "0 is not above 0";
     EXPECT_EQ(Cpp_M_IsLong_ST(&record, 2, 1), -1);
     EXPECT_EQ(Cpp_M_IsLong_ST(&record, 2, 2), 0);
     EXPECT_EQ(Cpp_M_IsLong_ST(&record, 2, 7), 0) << "as far as it has columns";
