@@ -2,13 +2,18 @@
 
 #include "containers/views.h"
 #include "linalg/golub_kahan.h"
+#include "linalg/kernels/singular_values.h"
+#include "linalg/product_forms.h"
 #include "tables/block_copy.h"
 
+#include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace
 {
 
+using korvel::column_places;
 using korvel::reading;
 using korvel::svd_shape;
 using korvel::withCells;
@@ -20,30 +25,82 @@ svd_shape shapeOf(int n, int p, int job, int mostSteps)
     return {n, p, asked.columnsOfU, asked.wantsV, mostSteps};
 }
 
-/** Decomposes a table in place, in its reduced form. */
-template <class A, class U, class V>
-int decomposeInPlace(const A& a, matrix<double>& s, const U& u, const V& v, const svd_shape& shape)
+/** What is to be decomposed, and where the results go; the tables are of one form. */
+template <class Table>
+struct decomposition {
+    Table& A;
+    matrix<double>& s;
+    Table& U;
+    Table& V;
+    const svd_shape shape;
+
+    [[nodiscard]] auto sourceOfA() const { return writing(A).table(shape.n, shape.p); }
+    [[nodiscard]] auto sourceOfU() const
+    {
+        return writing(U).table(shape.wantsU ? shape.n : 0, shape.columnsOfU);
+    }
+    [[nodiscard]] auto sourceOfV() const { return writing(V).table(orderOfV(), orderOfV()); }
+    [[nodiscard]] auto sourceOfValues() const
+    {
+        return korvel::writeVector(s, std::min(shape.n + 1, shape.p));
+    }
+    [[nodiscard]] int orderOfV() const { return shape.wantsV ? shape.p : 0; }
+
+    /** Whether there are cells, and all of them lie inside. */
+    [[nodiscard]] bool inside() const
+    {
+        return shape.n > 0 && shape.p > 0 && sourceOfA().inside() && sourceOfU().inside() &&
+               sourceOfV().inside() && sourceOfValues().inside();
+    }
+};
+
+/** Decomposes a table in place by the plain loops, in its reduced form. */
+template <class Source, class Table>
+int decomposePlainly(const Source& cellsOfA, const decomposition<Table>& what)
 {
-    const int orderOfV = shape.wantsV ? shape.p : 0;
     return withCells(
         [&](auto& cells, auto& left, auto& right, auto& values) {
-            return korvel::golub_kahan(cells, left, right, values, shape).run();
+            return korvel::golub_kahan(cells, left, right, values, what.shape).run();
         },
-        a.table(shape.n, shape.p), u.table(shape.columnsOfU > 0 ? shape.n : 0, shape.columnsOfU),
-        v.table(orderOfV, orderOfV), korvel::writeVector(s, std::min(shape.n + 1, shape.p)));
+        cellsOfA, what.sourceOfU(), what.sourceOfV(), what.sourceOfValues());
 }
 
-/** The same with the table as it was before. */
-template <class A, class U, class V>
-int decompose(const A& a, matrix<double>& s, const U& u, const V& v, const svd_shape& shape)
+/** Decomposes a table on raw memory; it receives its reduced form when it is not to be kept. */
+template <class Table>
+int decomposeInKernel(const decomposition<Table>& what, bool keepsTable)
 {
-    matrix<double> copy(std::max(shape.n, 0), std::max(shape.p, 0), 0.0);
-    korvel::copyBlock(a, {0, 0}, writing(copy), {0, 0}, shape.n, shape.p);
-    if (a.table(shape.n, shape.p).inside()) {
-        return decomposeInPlace(writing(copy), s, u, v, shape);
+    const svd_shape& shape = what.shape;
+    const column_places<double> A(what.A, shape.n, shape.p);
+    const column_places<double> U(what.U, shape.n, shape.columnsOfU);
+    const column_places<double> V(what.V, shape.p, what.orderOfV());
+    const auto& kernel = korvel::kernels::singularValueKernel();
+    const auto scratch = std::make_unique_for_overwrite<double[]>(kernel.scratchSize(shape));
+    korvel::kernels::svd_problem problem{shape};
+    problem.table = A.get();
+    problem.values = what.s.data;
+    problem.U = U.get();
+    problem.V = V.get();
+    problem.keepsTable = keepsTable;
+    return kernel.decompose(problem, scratch.get());
+}
+
+/** Leaves the table as it was. */
+template <class Table>
+int decompose(const decomposition<Table>& what)
+{
+    if (what.inside()) {
+        return decomposeInKernel(what, true);
     }
-    const int info = decomposeInPlace(a, s, u, v, shape);
-    korvel::copyBlock(reading(copy), {0, 0}, a, {0, 0}, shape.n, shape.p);
+    const int n = what.shape.n;
+    const int p = what.shape.p;
+    const auto A = writing(what.A);
+    matrix<double> copy(std::max(n, 0), std::max(p, 0), 0.0);
+    korvel::copyBlock(A, {0, 0}, writing(copy), {0, 0}, n, p);
+    if (what.sourceOfA().inside()) {
+        return decomposePlainly(writing(copy).table(n, p), what);
+    }
+    const int info = decomposePlainly(what.sourceOfA(), what);
+    korvel::copyBlock(reading(copy), {0, 0}, A, {0, 0}, n, p);
     return info;
 }
 
@@ -68,7 +125,7 @@ int decompose(Table& A, int n, int p, matrix<double>& s, Table* U, Table* V, int
 {
     const table_or_none<Table> left(U);
     const table_or_none<Table> right(V);
-    return decompose(writing(A), s, writing(left.get()), writing(right.get()), shapeOf(n, p, job, mostSteps));
+    return decompose(decomposition<Table>{A, s, left.get(), right.get(), shapeOf(n, p, job, mostSteps)});
 }
 
 matrix<double>& firstColumn(cST_MVect<double>& record)
@@ -93,8 +150,8 @@ void M_SVDecompSPV(matrix3D<matrix<double>>* A, int n, int p, matrix<double>* s,
 void M_SVDecomp_Fast_ST(cST_MVect<double>& A, int n, int p, cST_MVect<double>& s, cST_MVect<double>& U,
                         cST_MVect<double>& V, int job, int* info)
 {
-    *info = decomposeInPlace(writing(A), firstColumn(s), writing(U), writing(V),
-                             shapeOf(n, p, job, korvel::noLimit));
+    const decomposition<cST_MVect<double>> what{A, firstColumn(s), U, V, shapeOf(n, p, job, korvel::noLimit)};
+    *info = what.inside() ? decomposeInKernel(what, false) : decomposePlainly(what.sourceOfA(), what);
 }
 
 void M_GeneralizedSVDecomp_Fast_ST(cST_MVect<double>& A, int n, int p, cST_MVect<double>& rowWeights,

@@ -1,6 +1,7 @@
 #include "linalg/vector_kernels.h"
 
 #include "containers/views.h"
+#include "linalg/rotations.h"
 #include "linalg/vector_runs.h"
 
 #include <cmath>

@@ -121,28 +121,6 @@ void rotateRuns(int n, X x, Y y, double c, double s)
     }
 }
 
-struct rotation {
-    double c = 1.0;
-    double s = 0.0;
-};
-
-/** The rotation that turns (a, b) to (r, 0); a becomes r. */
-[[nodiscard]] inline rotation rotationOf(double& a, double b)
-{
-    const double scale = std::fabs(a) + std::fabs(b);
-    if (scale == 0.0) {
-        a = 0.0;
-        return {};
-    }
-    const double larger = std::fabs(a) > std::fabs(b) ? a : b;
-    const double x = a / scale;
-    const double y = b / scale;
-    const double r = std::copysign(scale * std::sqrt(x * x + y * y), larger);
-    const rotation made{a / r, b / r};
-    a = r;
-    return made;
-}
-
 } // namespace korvel
 
 #endif
