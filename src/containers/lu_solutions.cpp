@@ -9,8 +9,8 @@ namespace
 {
 
 /** Right sides that are solved side by side. Each is a sum of its own, so their number changes no bit. */
-constexpr std::size_t lanes = 8;
-using lane_row = std::array<double, lanes>;
+constexpr std::size_t unitsAtOnce = 8;
+using lane_row = std::array<double, unitsAtOnce>;
 
 double* columnOf(matrix<double>& a, std::size_t j)
 {
@@ -27,7 +27,7 @@ void transpose(matrix<double>& a, std::size_t n)
 }
 
 /**
- * Solves for the unit vectors whose 1 stands, after the swaps, at rows `first` to `first + lanes - 1`.
+ * Solves for the unit vectors whose 1 stands, after the swaps, at rows `first` to `first + unitsAtOnce - 1`.
  * Column i of `factors` holds row i of the factors. `b` has a place for each row of the right sides and
  * receives the solutions.
  */
@@ -35,11 +35,11 @@ void solve(matrix<double>& factors, std::size_t first, std::vector<lane_row>& b)
 {
     const std::size_t n = b.size();
     std::fill(b.begin(), b.end(), lane_row{});
-    for (std::size_t lane = 0; lane < lanes && first + lane < n; ++lane) {
+    for (std::size_t lane = 0; lane < unitsAtOnce && first + lane < n; ++lane) {
         b[first + lane][lane] = 1.0;
     }
     const auto subtract = [](lane_row& sum, double factor, const lane_row& solved) {
-        for (std::size_t lane = 0; lane < lanes; ++lane) {
+        for (std::size_t lane = 0; lane < unitsAtOnce; ++lane) {
             sum[lane] -= factor * solved[lane];
         }
     };
@@ -48,7 +48,7 @@ void solve(matrix<double>& factors, std::size_t first, std::vector<lane_row>& b)
         lane_row sum = b[i];
         // A right side enters with its 1: the zeros before it are skipped, and must be, since a factor may be
         // infinite.
-        const std::size_t allEntered = std::min(i, first + lanes);
+        const std::size_t allEntered = std::min(i, first + unitsAtOnce);
         for (std::size_t k = first; k < allEntered; ++k) {
             for (std::size_t lane = 0; lane <= k - first; ++lane) {
                 sum[lane] -= row[k] * b[k][lane];
@@ -65,7 +65,7 @@ void solve(matrix<double>& factors, std::size_t first, std::vector<lane_row>& b)
         for (std::size_t k = i + 1; k < n; ++k) {
             subtract(sum, row[k], b[k]);
         }
-        for (std::size_t lane = 0; lane < lanes; ++lane) {
+        for (std::size_t lane = 0; lane < unitsAtOnce; ++lane) {
             b[i][lane] = sum[lane] / row[i];
         }
     }
@@ -85,10 +85,10 @@ matrix<double> korvel::solveForUnits(matrix<double>& factors, const std::vector<
     transpose(factors, n);
     matrix<double> inverse(factors.nbrows, factors.nbcols, 0);
     std::vector<lane_row> b(n);
-    for (std::size_t first = 0; first < n; first += lanes) {
+    for (std::size_t first = 0; first < n; first += unitsAtOnce) {
         solve(factors, first, b);
         for (std::size_t i = 0; i < n; ++i) {
-            for (std::size_t lane = 0; lane < lanes && first + lane < n; ++lane) {
+            for (std::size_t lane = 0; lane < unitsAtOnce && first + lane < n; ++lane) {
                 columnOf(inverse, i)[origin[first + lane]] = b[i][lane];
             }
         }
