@@ -25,7 +25,7 @@ TEST(Memory, CommittedPagesAreZeroedAndWritable)
 {
     auto* block = static_cast<unsigned char*>(commitPages(megabyte));
     ASSERT_NE(block, nullptr);
-    EXPECT_TRUE(std::all_of(block, block + megabyte, [](unsigned char byte) { return byte == 0; }));
+    EXPECT_TRUE(std::all_of(block, block + megabyte, [](unsigned char read) { return read == 0; }));
     std::memset(block, 0xA5, megabyte);
     EXPECT_EQ(block[megabyte - 1], 0xA5);
     releasePages(block, megabyte);
