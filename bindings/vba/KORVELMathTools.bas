@@ -305,6 +305,30 @@ Public Declare PtrSafe Function VB_M_ProductADiagVTrB Lib "KORVELMathTools.dll" 
     ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef d As Double, ByRef b As Double, _
     ByVal m As Long, ByRef c As Double) As Long
 
+' ---- linalg/products_design.h
+
+' Replaces the columns of a design by their interactions with those of another.
+Public Declare PtrSafe Function VB_M_ProductDesignAB2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef colsA As Long, ByRef b As Double, ByVal colsB As Long, _
+    ByVal typeValue As Long, ByRef weights As Double, ByRef sums As Double) As Long
+
+' Each column of the result is the product of two columns, cell by cell.
+Public Declare PtrSafe Function VB_M_ProductHorizAB Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByVal colsA As Long, ByRef b As Double, ByVal colsB As Long, _
+    ByRef c As Double, ByVal extra As Long) As Long
+
+' The same in place of a, and missing where one of the two cells is.
+Public Declare PtrSafe Function VB_M_ProductHorizAB2 Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef colsA As Long, ByRef b As Double, ByVal colsB As Long) As Long
+
+' Every element of one vector times every element of another: x(i) * y(j), i outside.
+Public Declare PtrSafe Function VB_V_ProductHorizV1V2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByRef y As Double, ByVal m As Long, ByRef out As Double) As Long
+
+' The same in place of x.
+Public Declare PtrSafe Function VB_V_ProductHorizV1V22 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByRef n As Long, ByRef y As Double, ByVal m As Long) As Long
+
 ' ---- linalg/products_inverse.h
 
 ' Product c = a' * g * a with g the generalised inverse of b by sweeping, as `Cpp_M_InverseG2` makes
@@ -323,6 +347,13 @@ Public Declare PtrSafe Function VB_M_ProductAinvBTrA Lib "KORVELMathTools.dll" (
 Public Declare PtrSafe Function VB_M_ProductTrVinvBV Lib "KORVELMathTools.dll" ( _
     ByRef v As Double, ByVal n As Long, ByRef b As Double) As Double
 
+' ---- linalg/products_kronecker.h
+
+' The Kronecker product: the block (i, j) of c is a(i, j) * b.
+Public Declare PtrSafe Function Cpp_KroneckerTensorProduct Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal r1 As Long, ByVal c1 As Long, ByRef b As Double, ByVal r2 As Long, _
+    ByVal c2 As Long, ByRef c As Double) As Long
+
 ' ---- linalg/products_missing.h
 
 ' Product of two tables that heeds missing cells: where a term has a missing factor, c(i,j) is
@@ -330,6 +361,25 @@ Public Declare PtrSafe Function VB_M_ProductTrVinvBV Lib "KORVELMathTools.dll" (
 Public Declare PtrSafe Function VB_M_ProductABMissing Lib "KORVELMathTools.dll" ( _
     ByRef a As Double, ByVal n As Long, ByVal p As Long, ByRef b As Double, ByVal q As Long, _
     ByRef c As Double) As Long
+
+' ---- linalg/products_packed.h
+
+' Product of a packed symmetric table and a vector, y = s * x.
+Public Declare PtrSafe Function VB_M_ProductASymV Lib "KORVELMathTools.dll" ( _
+    ByRef s As Double, ByVal m As Long, ByRef x As Double, ByRef y As Double) As Long
+
+' Product of a vector and a packed symmetric table, y = x' * s.
+Public Declare PtrSafe Function VB_M_ProductVASym Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal m As Long, ByRef s As Double, ByRef y As Double) As Long
+
+' The quadratic form v' * s * v of a full symmetric table: twice the sum over i below j of v(i) *
+' v(j) * s(j, i), i outside, plus the sum of v(i)^2 * s(i, i).
+Public Declare PtrSafe Function Cpp_M_ProductTrVSymV Lib "KORVELMathTools.dll" ( _
+    ByRef v As Double, ByVal n As Long, ByRef s As Double) As Double
+
+' The lower triangle of a * b, all three packed.
+Public Declare PtrSafe Function Cpp_MV_ProductAsymBsym Lib "KORVELMathTools.dll" ( _
+    ByRef a As Double, ByVal n As Long, ByRef b As Double, ByRef c As Double) As Long
 
 ' ---- linalg/products_records.h
 

@@ -68,8 +68,12 @@ class Call:
     def count(self, expression):
         """What an expression of a room is worth; a count of columns of 0 stands for 1 where the function says so."""
         names = {name: value or self.least(name) for name, value in self.values.items()}
+        names |= {p.name: self.filled[p.name][0] for p in self.changed_counts() if p.name in self.filled}
         return int(eval(expression, {"__builtins__": {}, "max": max, "sum": self.positive_sum},
-                        {**names, **self.filled}))
+                        {**self.filled, **names}))
+
+    def changed_counts(self):
+        return [p for p in self.function.parameters if p.is_changed_count]
 
     def least(self, name):
         text = flat_headers.one_line(next(p for p in self.function.parameters if p.name == name).text)
@@ -108,8 +112,10 @@ class Call:
         return ctypes.c_void_p(place)
 
     def run(self, called):
-        # A room that is a sum of cells needs these before.
-        late = [p for p in self.function.parameters if p.plain_type in CELLS | {"OLECHAR**": None} and "sum" in str(p.rooms)]
+        # A room that is a sum of cells, or made of a count that is changed, needs these before.
+        needed = "|".join(["sum", *(p.name for p in self.changed_counts())])
+        late = [p for p in self.function.parameters
+                if p.plain_type in CELLS | {"OLECHAR**": None} and re.search(rf"\b({needed})\b", str(p.rooms))]
         made = {}
         for parameter in [p for p in self.function.parameters if p not in late] + late:
             made[parameter.name] = self.argument(parameter)

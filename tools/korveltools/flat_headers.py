@@ -113,6 +113,11 @@ class Parameter:
         return rooms
 
     @property
+    def is_changed_count(self):
+        """Whether it is one integer that the caller passes and that is then changed: a count that rooms may be made of."""
+        return self.type == "int*" and self.direction == "inout" and one_line(self.text).startswith("one integer:")
+
+    @property
     def plain_type(self):
         """The type as it would be if the array were written."""
         return READ_ONLY.get(self.type, self.type)
@@ -266,7 +271,7 @@ def has_room(parameter, by_name):
     counts = " ".join(f"{room.rows} {room.columns}" for room in parameter.rooms.values())
     summed = re.findall(r"sum\((\w+)\)", counts)
     names = set(re.findall(r"[A-Za-z_]\w*", re.sub(r"\b(sum|max)\(", "(", counts))) - set(summed)
-    passed = {name for name, p in by_name.items() if p.type == "int"}
+    passed = {name for name, p in by_name.items() if p.type == "int" or p.is_changed_count}
     arrays = {name for name, p in by_name.items() if p.plain_type == "double*"}
     choosers = {key[0] for key in parameter.rooms if key}
     return bool(counts) and names <= passed and set(summed) <= arrays and choosers <= set(by_name)
@@ -305,14 +310,17 @@ def describe(function, problem):
             problem(tag.line, f"{function.name}: @param {tag.name} has no text")
         if parameter.type == "short int" and one_line(tag.text) and not TRUTH.match(one_line(tag.text)):
             problem(tag.line, f"{function.name}: @param {tag.name} must say whether only -1 or anything but 0 is true")
-        if parameter.plain_type in ARRAYS and direction and not has_room(parameter, by_name):
-            problem(tag.line, f"{function.name}: @param {tag.name} must begin with its room: 'n numbers', "
-                              "'rows by cols numbers', made of counts that are parameters, or 'one number'")
         if tag.name.startswith("iMissing") and parameter.direction != "out" and not FLAG_TRUTH.search(one_line(tag.text)):
             problem(tag.line, f"{function.name}: @param {tag.name} must say which flags leave a cell out")
         if parameter.type == "SAFEARRAY**" and parameter.host_element not in HOST_ARRAY_ELEMENTS:
             elements = ", ".join(HOST_ARRAY_ELEMENTS)
             problem(tag.line, f"{function.name}: @param {tag.name} must say 'host array of' one of {elements}")
+    for tag in doc.tagged("param"):
+        # A room may be made of a count that is described later.
+        parameter = by_name.get(tag.name)
+        if parameter and parameter.plain_type in ARRAYS and parameter.direction and not has_room(parameter, by_name):
+            problem(tag.line, f"{function.name}: @param {tag.name} must begin with its room: 'n numbers', "
+                              "'rows by cols numbers', made of counts that are parameters, or 'one number'")
     for parameter in function.parameters:
         if parameter.name not in described:
             problem(function.line, f"{function.name}: parameter {parameter.name} has no @param line")
