@@ -19,8 +19,7 @@ class moment_table
 {
 public:
     explicit moment_table(index columns)
-        : columns_((columns + kernels::laneColumns - 1) / kernels::laneColumns * kernels::laneColumns),
-          sums_(static_cast<std::size_t>(4 * columns_))
+        : columns_(kernels::inGroups(columns)), sums_(static_cast<std::size_t>(4 * columns_))
     {
     }
 
@@ -54,10 +53,11 @@ std::vector<running_variance> momentsInMemory(const column_pointers& columns, co
         for (index first = 0; first < cols; first += stripColumns) {
             char& isComplete = complete[static_cast<std::size_t>(first / stripColumns)];
             const index count = std::min(stripColumns, cols - first);
-            const index packed = packColumns(&columns[static_cast<std::size_t>(first)], count,
-                                             blocks.numbers(), now.count, panel, stripColumns);
+            const bool mayMiss =
+                kernel.pack(&columns[static_cast<std::size_t>(first)], count, now, panel, stripColumns);
+            const index packed = kernels::inGroups(count);
             const kernels::moment_lanes here = sums.after(first);
-            if (isComplete != 0 && kernel.hasMissing(panel, packed, stripColumns, now)) {
+            if (isComplete != 0 && mayMiss) {
                 isComplete = 0;
                 std::fill_n(here.sumW, packed, blocks.before().sumW);
                 std::fill_n(here.kept, packed, blocks.before().weighted);

@@ -24,10 +24,10 @@ public:
 
     pair_strip(const column_pointers& table, index first)
         : table_(table), first_(first), last_(std::min(first + columns, static_cast<index>(table.size()))),
-          stride_((last_ + width - 1) / width * width),
-          rowsAtOnce_(std::clamp<index>(panelCells / stride_, 16, 256)), memory_(2 * rowsAtOnce_ * stride_),
-          panel_(memory_.get()), factored_(panel_ + rowsAtOnce_ * stride_),
-          means_(static_cast<std::size_t>(stride_)),
+          stride_(kernels::inGroups(last_)),
+          rowsAtOnce_(std::clamp<index>(panelCells / stride_, 16, kernels::mostPanelRows)),
+          memory_(2 * rowsAtOnce_ * stride_), panel_(memory_.get()),
+          factored_(panel_ + rowsAtOnce_ * stride_), means_(static_cast<std::size_t>(stride_)),
           products_(static_cast<std::size_t>(stride_ * (last_ - first_)))
     {
     }
@@ -37,8 +37,8 @@ public:
         row_blocks blocks(rows, static_cast<int>(rowsAtOnce_));
         while (blocks.next()) {
             const kernels::panel_rows now = blocks.rows();
-            packColumns(table_.data(), last_, blocks.numbers(), now.count + now.weightless, panel_, stride_);
-            if (isComplete() && kernel_.hasMissing(panel_, stride_, stride_, now)) {
+            const bool mayMiss = kernel_.pack(table_.data(), last_, now, panel_, stride_);
+            if (isComplete() && mayMiss) {
                 separate(blocks.before());
             }
             isComplete() ? addProducts(now) : addPairs(now);

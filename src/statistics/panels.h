@@ -52,20 +52,15 @@ template <class View>
 class row_blocks
 {
 public:
-    static constexpr int mostRows = 256;
-
-    /** @param atOnce rows of a block, at most `mostRows` */
+    /** @param atOnce rows of a block, at most `mostPanelRows` */
     row_blocks(const weighted_rows& rows, int atOnce) : rows_(rows), atOnce_(atOnce) {}
 
     /** Goes to the next block; false when there is none. */
     bool next();
 
-    /** The rows of weight other than 0, and then the others. */
-    [[nodiscard]] const int* numbers() const { return numbers_.data(); }
-
     [[nodiscard]] kernels::panel_rows rows() const
     {
-        return {count_, weightless_, weights_.data(), sums_.data(), factors_.data()};
+        return {count_, weightless_, numbers_.data(), weights_.data(), sums_.data(), factors_.data()};
     }
 
     /** The sum of the weights, and how many rows have one other than 0, and one of 0. */
@@ -86,11 +81,11 @@ private:
     std::ptrdiff_t weightless_ = 0;
     totals before_;
     totals now_;
-    std::array<int, mostRows> numbers_;
-    std::array<int, mostRows> ofWeightZero_;
-    std::array<double, mostRows> weights_;
-    std::array<double, mostRows> sums_;
-    std::array<double, mostRows> factors_;
+    std::array<int, kernels::mostPanelRows> numbers_;
+    std::array<int, kernels::mostPanelRows> ofWeightZero_;
+    std::array<double, kernels::mostPanelRows> weights_;
+    std::array<double, kernels::mostPanelRows> sums_;
+    std::array<double, kernels::mostPanelRows> factors_;
 };
 
 /** A panel, or several: cells that start a line of the cache. */
@@ -110,13 +105,6 @@ private:
     };
     std::vector<line> lines_;
 };
-
-/**
- * Copies rows of some columns to a panel; the last group is filled up with the last column.
- * @return the columns of the panel, a number of groups
- */
-std::ptrdiff_t packColumns(const double* const* columns, std::ptrdiff_t count, const int* rows,
-                           std::ptrdiff_t rowCount, double* panel, std::ptrdiff_t stride);
 
 } // namespace korvel
 

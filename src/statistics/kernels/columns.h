@@ -17,10 +17,20 @@ namespace korvel::kernels
 /** Columns of a group. */
 constexpr std::ptrdiff_t laneColumns = 8;
 
+/** As many columns as the groups have that hold `columns`. */
+[[gnu::always_inline]] constexpr std::ptrdiff_t inGroups(std::ptrdiff_t columns)
+{
+    return (columns + laneColumns - 1) / laneColumns * laneColumns;
+}
+
+/** The rows of a panel, at most. */
+constexpr int mostPanelRows = 256;
+
 /** The rows of a panel. */
 struct panel_rows {
     std::ptrdiff_t count = 0;       ///< rows of a weight other than 0, which come first
     std::ptrdiff_t weightless = 0;  ///< rows of weight 0 behind them
+    const int* number = nullptr;    ///< of each in its table; both kinds are in the order of the table
     const double* weight = nullptr; ///< of the `count` first rows
     /** What the rows of a column without missing cells have in common: the sum of the weights up to each, and
      * `w - w * w / sum`. */
@@ -53,11 +63,15 @@ struct pair_lanes {
 
 /** What is compiled once for each instruction set. */
 struct column_kernel {
-    /** Whether columns of a panel, some groups of them, have a missing cell. Rows are `stride` apart. */
-    bool (*hasMissing)(const double* panel, std::ptrdiff_t columns, std::ptrdiff_t stride,
-                       const panel_rows& rows);
+    /**
+     * Copies the rows of some columns of a table to a panel. The last group is filled up with the last
+     * column.
+     * @return whether a cell is missing; also true where one is below the sentinel
+     */
+    bool (*pack)(const double* const* columns, std::ptrdiff_t count, const panel_rows& rows, double* panel,
+                 std::ptrdiff_t stride);
 
-    /** Adds the rows of weights other than 0 to the sums of some groups of columns. */
+    /** Adds the rows of weights other than 0 to the sums of some groups of columns, rows `stride` apart. */
     void (*addMoments)(const double* panel, std::ptrdiff_t columns, std::ptrdiff_t stride,
                        const panel_rows& rows, const moment_lanes& sums);
 
