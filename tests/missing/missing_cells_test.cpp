@@ -63,6 +63,37 @@ TEST(MissingCells, TakeAValueInChunksAndTriangles)
     EXPECT_TRUE(sameBits(table.getElement(0, 1), 3));
 }
 
+TEST(MissingCells, TakeAValueInTheColumnsOfARecord)
+{
+    struct given {
+        int rows;
+        int cols;
+        std::vector<numbers> expected;
+    };
+    for (const given& table : std::vector<given>{
+             {2, 3, {{7, 7}, {7, 7}, {7, 7}}},
+             {2, 1, {{7, 7}, {missing, missing}, {missing, missing}}},
+             {1, 2, {{7, missing}, {7, missing}, {missing, missing}}},
+             {2, 9, {{7, 7}, {7, 7}, {7, 7}}},
+             {2, 0, {{missing, missing}, {missing, missing}, {missing, missing}}},
+         }) {
+        SCOPED_TRACE(::testing::Message() << table.rows << " by " << table.cols);
+        cST_MVect<double> x(2, 3);
+        cST_MVect<text> words(2, 3);
+        for (auto& column : x.Vectors) {
+            std::fill_n(column.Vect.data, 2, missing);
+        }
+        korvel::replaceMissing(x, table.rows, table.cols, 7.0);
+        korvel::replaceMissing(words, table.rows, table.cols, text(u"none"));
+        for (std::size_t j = 0; j < 3; ++j) {
+            for (std::size_t i = 0; i < 2; ++i) {
+                EXPECT_EQ(x.Vectors[j].Vect.data[i], table.expected[j][i]);
+                EXPECT_EQ(words.Vectors[j].Vect.data[i], table.expected[j][i] == 7 ? u"none" : u"");
+            }
+        }
+    }
+}
+
 TEST(MissingCells, LeaveTheSpareSlotAsCheckedStoresDo)
 {
     auto x = vectorOf<double>({missing, 2, missing, 4});

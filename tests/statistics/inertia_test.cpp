@@ -41,7 +41,7 @@ TEST(Inertia, TakesTheRowsOfTheGroup)
         int group;
         double first;
         double cross;
-    } const cases[] = {{7, 2.0, 4.0}, {8, 48.0, 96.0}, {-1, 50.0, 100.0}, {9, 0.0, 0.0}};
+    } const cases[] = {{7, 2.0, 4.0}, {8, 48.0, 96.0}, {-1, 50.0, 100.0}, {9, 0.0, 0.0}, {-2, 0.0, 0.0}};
     for (const auto& expected : cases) {
         matrix<double> out(2, 2, 9.0);
         M_Inertie_W(&x, 3, 2, &w, expected.group, &ids, &centres, &out);
@@ -64,8 +64,8 @@ TEST(Inertia, EqualToThePlainLoops)
         auto x = nearTable<double>(cells, rows, cols);
         auto w = cells.weights(rows);
         auto centres = cells.values(cols);
-        auto ids = cells.integers(rows, -1, 1);
-        const int group = cells.integer(-1, 1);
+        auto ids = cells.integers(rows, -2, 1);
+        const int group = cells.integer(-2, 1);
         const auto takes = [&](int r) { return group == -1 || ids.data[r] == group; };
         matrix<double> out(cols, cols, 9.0);
         M_Inertie_W(&x, rows, cols, &w, group, &ids, &centres, &out);

@@ -25,6 +25,10 @@ TEST(FlatMissingCounts, OfNumbers)
     caller_columns chunks({{MISSING_DBL, 2}, {MISSING_DBL, MISSING_DBL}});
     EXPECT_EQ(Cpp_M_NbMissingSPV(chunks.argument(), 2, 2), 3);
     EXPECT_EQ(VB_M_NbMissingSPV_T(chunks.argument(), 2, 2), 2);
+    caller_columns high({{MISSING_DBL, 2, MISSING_DBL, MISSING_DBL}, {1, MISSING_DBL, MISSING_DBL}});
+    EXPECT_EQ(VB_M_NbMissingSPV_T(high.argument(), 4, 2), 5) << "columns of 4 and of 3";
+    EXPECT_EQ(VB_M_NbMissingSPV_T(high.argument(), 3, 2), 3) << "columns of 3 and of 2";
+    EXPECT_EQ(VB_M_NbMissingSPV_T(high.argument(), 1, 2), 1) << "of 1, and none";
 }
 
 TEST(FlatMissingCounts, OfTexts)

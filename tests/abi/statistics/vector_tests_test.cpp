@@ -83,6 +83,13 @@ TEST(FlatVectorTests, OfTables)
     EXPECT_EQ(Cpp_M_IsLong_ST(&record, 2, 1), -1);
     EXPECT_EQ(Cpp_M_IsLong_ST(&record, 2, 2), 0);
     EXPECT_EQ(Cpp_M_IsLong_ST(&record, 2, 7), 0) << "as far as it has columns";
+    ST_MVect wide = caller.table({caller.column(u"a", doubles{1, 0.5}), caller.column(u"b", doubles{1, 0.5}),
+                                  caller.column(u"c", doubles{0.5, 1})},
+                                 {u"a", u"b", u"c"});
+    EXPECT_EQ(Cpp_M_IsLong_ST(&wide, 1, 2), -1);
+    EXPECT_EQ(Cpp_M_IsLong_ST(&wide, 1, 3), 0);
+    EXPECT_EQ(Cpp_M_IsLong_ST(&wide, 1, 7), 0) << "as far as it has columns";
+    EXPECT_EQ(Cpp_M_IsLong_ST(&wide, 2, 0), -1) << "0 is no column";
     caller_columns chunks({{0, 0.5}, {0, 1}});
     EXPECT_EQ(VB_V_IsIndicatorSPV(chunks.argument(), 2, 1), 0);
     EXPECT_EQ(VB_V_IsIndicatorSPV(chunks.argument(), 2, 2), -1);

@@ -4,6 +4,7 @@
 #include "support/caller_tables.h"
 #include "support/guarded.h"
 
+#include <array>
 #include <cstring>
 #include <limits>
 
@@ -128,11 +129,30 @@ TEST(FlatVectorValues, AResultMayLieAcrossTheVector)
         const doubles removed = valuesOf(y);
         EXPECT_EQ(doubles(removed.begin() + 1 + shift, removed.begin() + 4 + shift), (doubles{1, 3, 4}));
     }
-    guarded<double> numbers{1.5, 2.5, 3.5, 4.5};
-    Cpp_V_CopyDoubleToLong(numbers.data(), 3, reinterpret_cast<int*>(numbers.data() + 1));
-    int found[3];
-    std::memcpy(found, numbers.data() + 1, sizeof found);
-    EXPECT_EQ(found[0], 1);
-    EXPECT_EQ(found[1], 2);
-    EXPECT_EQ(found[2], 3);
+}
+
+TEST(FlatVectorValues, AConversionMayLieAcrossTheVector)
+{
+    constexpr int count = 4;
+    for (int shift = -count; shift <= 2 * count; ++shift) {
+        SCOPED_TRACE(shift);
+        guarded<double> numbers{9, 9, 1.5, 2.5, 3.5, 4.5, 9, 9};
+        double* const x = numbers.data() + 2;
+        int* const y = reinterpret_cast<int*>(x) + shift;
+        Cpp_V_CopyDoubleToLong(x, count, y);
+        std::array<int, count> found{};
+        std::memcpy(found.data(), y, sizeof found);
+        EXPECT_EQ(found, (std::array<int, count>{1, 2, 3, 4}));
+    }
+    for (int shift = -2 * count; shift <= count; ++shift) {
+        SCOPED_TRACE(shift);
+        guarded<double> room{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+        double* const y = room.data() + 4;
+        int* const x = reinterpret_cast<int*>(y) - shift;
+        const std::array<int, count> integers{1, -2, 3, 4};
+        std::memcpy(x, integers.data(), sizeof integers);
+        Cpp_V_CopyLongToDouble(x, count, y);
+        const doubles all = valuesOf(room);
+        EXPECT_EQ(doubles(all.begin() + 4, all.begin() + 8), (doubles{1, -2, 3, 4}));
+    }
 }
