@@ -29,6 +29,9 @@ struct lane_results {
     double repeated[laneCells];
     double kept[laneCells];
     double keptByBoth[laneCells];
+    double keptByEither[laneCells];
+    double keptOrNaN[laneCells];
+    double transposed[laneCells];
     double chosen[laneCells];
     double smaller[laneCells];
     double larger[laneCells];

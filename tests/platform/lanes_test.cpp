@@ -61,6 +61,12 @@ void compareWithPlain(lane_operations runLanes, int width)
             ASSERT_TRUE(identical(out.repeated[k], in.a[k / width * width + 1]));
             ASSERT_TRUE(identical(out.kept[k], a != b ? a : 0.0));
             ASSERT_TRUE(identical(out.keptByBoth[k], a < b && clear ? a : 0.0));
+            ASSERT_TRUE(identical(out.keptByEither[k], a < b || clear ? a : 0.0));
+            const double orNaN = out.keptOrNaN[k];
+            ASSERT_TRUE(a < b ? identical(orNaN, a) : std::isnan(orNaN));
+            const int square = k / (width * width) * width * width;
+            ASSERT_TRUE(
+                identical(out.transposed[k], in.a[square + k % width * width + k / width % width + 1]));
             ASSERT_TRUE(identical(out.chosen[k], a <= b || a == 2.5 ? a : b));
             ASSERT_TRUE(identical(out.smaller[k], a < b ? a : b));
             ASSERT_TRUE(identical(out.larger[k], a > b ? a : b));
