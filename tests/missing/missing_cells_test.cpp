@@ -4,6 +4,7 @@
 #include "support/random_cells.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 using namespace korvel::test;
@@ -61,6 +62,39 @@ TEST(MissingCells, TakeAValueInChunksAndTriangles)
     M_ReplaceMissingByValSPV(&table, 2, 2, 4);
     EXPECT_TRUE(sameBits(table.getElement(1, 1), 4));
     EXPECT_TRUE(sameBits(table.getElement(0, 1), 3));
+}
+
+TEST(MissingCells, TakeAValueInSomeRowsAndColumnsOfEachForm)
+{
+    using table = matrix3D<matrix<double>>;
+    struct {
+        const char* name;
+        void (*change)(table& x, matrix<double>** chunks, int rows, int cols);
+        bool isTriangular;
+    } const forms[] = {
+        {"chunks", [](table&, matrix<double>** c, int m, int n) { M_ReplaceMissingByValSPV(c, m, n, 7); },
+         false},
+        {"table", [](table& x, matrix<double>**, int m, int n) { M_ReplaceMissingByValSPV(&x, m, n, 7); },
+         false},
+        {"triangle of chunks",
+         [](table&, matrix<double>** c, int m, int n) { M_ReplaceMissingByValSPV_T(c, m, n, 7); }, true},
+        {"triangle",
+         [](table& x, matrix<double>**, int m, int n) { M_ReplaceMissingByValSPV_T(&x, m, n, 7); }, true},
+    };
+    for (const auto& form : forms) {
+        for (const auto& [rows, cols] : {std::pair{3, 2}, {2, 3}, {1, 3}, {3, 1}, {0, 3}, {3, 0}}) {
+            SCOPED_TRACE(::testing::Message() << form.name << ", " << rows << " by " << cols);
+            table x(3, 3, 3, missing);
+            matrix<double>* chunks[]{&x.chunks[0], &x.chunks[1], &x.chunks[2]};
+            form.change(x, chunks, rows, cols);
+            for (int j = 0; j < 3; ++j) {
+                for (int i = 0; i < 3; ++i) {
+                    const bool isReached = j < cols && i < (form.isTriangular ? rows - j : rows);
+                    EXPECT_EQ(chunks[j]->data[i], isReached ? 7 : missing) << i << ", " << j;
+                }
+            }
+        }
+    }
 }
 
 TEST(MissingCells, TakeAValueInTheColumnsOfARecord)
@@ -150,11 +184,22 @@ TEST(MissingCells, AreMarked)
     matrix<int> m(2, 2, marks.data(), true);
     M_IdentifyMissingInMat(&x, 2, 2, &m);
     EXPECT_EQ(marks, (ints{5, 1, 1, 5}));
+    marks = {5, 5, 5, 5};
+    M_IdentifyMissingInMat(&x, 1, 2, &m);
+    EXPECT_EQ(marks, (ints{5, 5, 1, 5}));
+    M_IdentifyMissingInMat(&x, 2, 1, &m);
+    EXPECT_EQ(marks, (ints{5, 1, 1, 5}));
     auto first = vectorOf<double>({missing, 2});
     auto second = vectorOf<double>({3, 4});
     matrix<double>* chunks[]{&first, &second};
     M_IdentifyMissingInMatSPV(chunks, 2, 2, &m);
     EXPECT_EQ(marks, (ints{1, 1, 1, 5}));
+    for (matrix<double>* chunk : chunks) {
+        std::fill_n(chunk->data, 2, missing);
+    }
+    marks = {5, 5, 5, 5};
+    M_IdentifyMissingInMatSPV(chunks, 1, 2, &m);
+    EXPECT_EQ(marks, (ints{1, 5, 1, 5}));
 }
 
 TEST(MissingCells, LoseTheirWeight)

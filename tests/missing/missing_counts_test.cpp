@@ -68,9 +68,15 @@ TEST(MissingCounts, OfChunks)
     EXPECT_EQ(M_NbMissingSPV_T(chunks, 3, 3), 4);
     EXPECT_EQ(M_NbMissingSPV_T(chunks, 2, 2), 2) << "2 cells, and 1";
     EXPECT_EQ(M_NbMissingSPV_T(chunks, 1, 3), 1);
+    EXPECT_EQ(M_NbMissingSPV_T(chunks, 3, 2), 3) << "3 cells, and 2";
     matrix3D<matrix<double>> table(3, 3, 3, missing);
     EXPECT_EQ(M_NbMissing2(&table, 3, 3), 9);
     EXPECT_EQ(M_NbMissingSPV_T(&table, 3, 3), 6);
+    table.chunks[0].data[2] = 1;
+    EXPECT_EQ(M_NbMissing2(&table, 3, 2), 5);
+    EXPECT_EQ(M_NbMissing2(&table, 2, 3), 6);
+    EXPECT_EQ(M_NbMissingSPV_T(&table, 3, 2), 4) << "columns of 3 and of 2";
+    EXPECT_EQ(M_NbMissingSPV_T(&table, 2, 3), 3) << "columns of 2, of 1, and none";
 }
 
 TEST(MissingCounts, EqualThePlainLoops)

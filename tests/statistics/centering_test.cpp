@@ -279,15 +279,17 @@ TEST(Centering, ChunksAsColumns)
         const member& m = *std::find_if(std::begin(members), std::end(members), [&](const member& each) {
             return each.name == std::string(form.dense);
         });
-        const auto expected = resultOf(m, table, weights, {-1, -1});
-        column_chunks x(table);
-        auto w = vectorOf<double>(weights);
-        matrix<double> means;
-        matrix<double> sds;
-        form.run(x.get(), {nullptr, 3, 3, &w, {-1, -1}, nullptr, &means, &sds});
-        EXPECT_EQ(x.cells(), expected.cells) << form.dense;
-        EXPECT_EQ(cellsOf(means), expected.means);
-        EXPECT_EQ(cellsOf(sds), expected.sds);
+        for (const denominator_flags how : allFlags) {
+            const auto expected = resultOf(m, table, weights, how);
+            column_chunks x(table);
+            auto w = vectorOf<double>(weights);
+            matrix<double> means;
+            matrix<double> sds;
+            form.run(x.get(), {nullptr, 3, 3, &w, how, nullptr, &means, &sds});
+            EXPECT_EQ(x.cells(), expected.cells) << form.dense;
+            EXPECT_EQ(cellsOf(means), expected.means);
+            EXPECT_EQ(cellsOf(sds), expected.sds);
+        }
     }
 }
 

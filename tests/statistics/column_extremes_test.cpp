@@ -151,3 +151,19 @@ TEST(ColumnExtremes, TrianglesHaveWholeColumns)
     EXPECT_TRUE(sameBits(mins.data[0], 5));
     EXPECT_TRUE(sameBits(maxs.data[2], 7));
 }
+
+TEST(ColumnExtremes, OfTrianglesThatAreTooShortTakeTheSpareSlots)
+{
+    matrix3D<matrix<double>> x(2, 2, 2, 0.0);
+    x.chunks[0] = vectorOf<double>({5, 6});
+    x.chunks[1] = vectorOf<double>({7});
+    x.chunks[0].oobValue = -3;
+    x.chunks[1].oobValue = 40;
+    matrix<double> mins(2, 1, 0.0);
+    matrix<double> maxs(2, 1, 0.0);
+    M_MinMaxSPV_T(&x, 3, 2, &mins, &maxs, nullptr, -1);
+    EXPECT_TRUE(sameBits(mins.data[0], -3));
+    EXPECT_TRUE(sameBits(maxs.data[0], 6));
+    EXPECT_TRUE(sameBits(mins.data[1], 6));
+    EXPECT_TRUE(sameBits(maxs.data[1], 40));
+}

@@ -79,8 +79,10 @@ TEST(ColumnSums, ResultsBehindReferencesAreResized)
     auto* to = &out;
     M_SquaredRows(&x, 2, 3, to);
     expectVector(out, {5.0, 9.25});
+    EXPECT_EQ(out.nbcols, 1);
     M_SquaredColumns(&x, 2, 3, to);
     expectVector(out, {1.0, 13.0, 0.25});
+    EXPECT_EQ(out.nbcols, 1) << "a column, of sums of columns too";
 }
 
 TEST(ColumnSums, PowersTakeMissingCellsAsNumbers)
@@ -96,6 +98,9 @@ TEST(ColumnSums, PowersTakeMissingCellsAsNumbers)
     x.data[0] = gone;
     EXPECT_TRUE(sameBits(M_SumDiagPow(&x, 2, 0, 2.0), infinite));
     EXPECT_TRUE(sameBits(M_Sum2Pow(&x, 2, 2, 1.0), gone));
+    const std::vector<double> apart{1e16, 1, -1e16, 1};
+    std::copy(apart.begin(), apart.end(), x.data);
+    EXPECT_TRUE(sameBits(M_Sum2Pow(&x, 2, 2, 1.0), 1.0)) << "column after column";
 }
 
 TEST(ColumnSums, EqualToThePlainLoops)

@@ -9,6 +9,7 @@
 #include "support/bits.h"
 #include "support/random_tables.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -129,6 +130,21 @@ TEST_P(ColumnKernels, EqualToThePlainLoops)
 INSTANTIATE_TEST_SUITE_P(Sets, ColumnKernels,
                          ::testing::Values(instruction_set::baseline, instruction_set::avx2,
                                            instruction_set::avx512));
+
+TEST(ColumnPanels, GoOnAfterManyRowsWithoutWeight)
+{
+    for (const missing_cells missing : {missing_cells::none, missing_cells::throughout}) {
+        sample s = randomSample(1500, 9, missing, 1);
+        std::fill_n(s.flags.begin(), 1000, short{0});
+        std::fill_n(s.w.data, 600, 0.0);
+        std::fill_n(s.w.data + 600, 300, 2.0);
+        expectMoments(s);
+        expectPairs(s);
+        std::fill_n(s.w.data, 1500, 0.0);
+        expectMoments(s);
+        expectPairs(s);
+    }
+}
 
 TEST(ColumnsInMemory, OnlyWhatLiesInsideIs)
 {
