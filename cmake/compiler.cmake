@@ -17,8 +17,8 @@ endif()
 
 find_program(KORVEL_CCACHE ccache)
 if(KORVEL_CCACHE)
-    # Paths count from the checkout, so that every checkout shares what one has compiled. The dates of precompiled
-    # headers say nothing: their contents are compared.
+    # Paths are relative to the checkout, so that all checkouts share the cache. Precompiled headers are compared by
+    # content, not by date.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
         CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
         CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
@@ -32,7 +32,7 @@ if(KORVEL_WERROR)
     add_compile_options(-Werror)
 endif()
 if(WIN32)
-    # The Windows stack is not aligned for 32-byte moves, so the assembler must use the unaligned form.
+    # The Windows stack is not aligned to 32 bytes, so the assembler must use unaligned moves.
     add_compile_options(-Wa,-muse-unaligned-vector-move)
     add_compile_definitions(NOMINMAX WIN32_LEAN_AND_MEAN UNICODE _UNICODE)
 endif()
@@ -49,8 +49,8 @@ if(KORVEL_SANITIZE)
     endif()
 endif()
 
-# Header-only libraries of the build machine reach a cross build through links in the build folder: the machine's
-# whole include folder would bring in headers of the wrong system.
+# A cross build finds header-only libraries of the build machine through links in the build folder. The machine's whole
+# include folder would bring in headers of the wrong system.
 add_library(korvel_header_libraries INTERFACE)
 if(CMAKE_CROSSCOMPILING)
     set(host_headers ${CMAKE_BINARY_DIR}/host_headers)

@@ -67,8 +67,8 @@ components componentsOf(const data_set& data)
                             visualBasicTrue) != 0) {
         return {};
     }
-    // A component without variance has no share; of the values a copy is filtered, since small ones are
-    // dropped from it.
+    // A component without variance has no share. A copy of the values is filtered, because filtering drops
+    // small ones.
     constexpr double none = 1e-12;
     std::vector<double> filtered = found.variances;
     found.percents.resize(n);

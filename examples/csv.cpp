@@ -53,7 +53,7 @@ public:
 
     [[nodiscard]] bool atEnd() const { return rest_.empty(); }
 
-    // The first record with something on it; a blank one when there is none.
+    // The first record that is not blank, or a blank one when all are.
     record header()
     {
         for (;;) {
@@ -149,7 +149,7 @@ char separatorOf(std::string_view text)
     std::array<std::size_t, candidates.size()> cells{};
     std::transform(candidates.begin(), candidates.end(), cells.begin(),
                    [&](char candidate) { return record_reader(text, candidate).header().cells.size(); });
-    // The first of equals, so that a header of one cell counts as comma-separated.
+    // The first one wins a tie, so a header of one cell counts as comma-separated.
     return candidates[static_cast<std::size_t>(std::max_element(cells.begin(), cells.end()) - cells.begin())];
 }
 

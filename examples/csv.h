@@ -33,10 +33,10 @@ struct csv_table {
 };
 
 /**
- * Reads a table with a header line. The separator is the one of comma, semicolon and tab that the header has
- * most of. Cells may be quoted, with quotes inside doubled; blanks round other cells are dropped. Lines may
- * end in any of the usual ways; a byte order mark is passed over, and so are empty lines, except that inside
- * a file of one column each is an empty cell.
+ * Reads a table with a header line. The separator is whichever of comma, semicolon and tab is most frequent
+ * in the header. Cells may be quoted, with quotes inside doubled; blanks around other cells are dropped.
+ * Lines may end in any usual way. A byte order mark is skipped. Empty lines are skipped too, except in a file
+ * of one column, where each one is an empty cell.
  * @throws csv_error when there is no such file, no row in it, or a row with more or fewer cells than the
  * header
  */

@@ -48,8 +48,8 @@ private:
 };
 
 /**
- * The columns of a file by kind. A column is one of numbers when all its cells but the missing ones (empty,
- * or NA) are; with semicolons as separators a number may have a decimal comma.
+ * The columns of a file by kind. A column is numeric when all its cells are numbers or missing (empty, or
+ * NA). If semicolons separate the cells, a number may have a decimal comma.
  */
 class data_set
 {

@@ -18,7 +18,7 @@ constexpr short int weightsAreFrequencies = visualBasicTrue; // Each row counts 
 
 constexpr int shapeDecimals = 3;
 
-// Means say a little more than the numbers that they are made of.
+// A mean deserves more decimals than its numbers have.
 int meanDecimals(const number_column& column)
 {
     return std::max(column.decimals + 2, 3);
@@ -35,7 +35,7 @@ struct extreme {
     int row = 0; // From 1; 0 when there is no value.
 };
 
-// A missing value is below all others, so the smallest is looked for among the others alone.
+// A missing value is below all others, so the smallest is searched without them.
 extreme smallest(const data_set& data, const number_column& column)
 {
     std::vector<double> present;
@@ -70,7 +70,7 @@ std::string shownRow(const extreme& found)
     return found.row == 0 ? "-" : shown(found.row);
 }
 
-// The standard error of an estimate; a constant column has one of 0 and no estimate.
+// The standard error of an estimate. A constant column has no estimate, and its standard error is 0.
 std::string errorOf(double estimate, double error)
 {
     return rounded(VB_IsMissingValueDbl(estimate) != 0 ? missingNumber : error, shapeDecimals);
@@ -151,7 +151,8 @@ text_table shape(data_set& data)
                                    data.leftOut.data(), data.weights.data(), visualBasicFalse,
                                    weightsAreFrequencies);
         }
-        // These two means are for positive numbers; the harmonic one would come out of negative ones as well.
+        // These two means are for positive numbers. The harmonic mean would have a value for negative ones
+        // too.
         double geometricMean = missingNumber;
         double geometricDeviation = missingNumber;
         double harmonicMean = missingNumber;

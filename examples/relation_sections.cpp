@@ -15,8 +15,8 @@ constexpr short int visualBasicFalse = 0;
 
 constexpr int correlationDecimals = 3;
 
-// For each pair of columns the number of rows in which neither is missing: the product of the table of what
-// is there, 1 or 0, with itself.
+// For each pair of columns the number of rows in which neither is missing. It is the product with itself of a
+// table of 1 for present and 0 for missing.
 std::vector<double> commonRows(const data_set& data, int columns)
 {
     std::vector<double> present(data.numbers.size());
@@ -28,7 +28,7 @@ std::vector<double> commonRows(const data_set& data, int columns)
     return counts;
 }
 
-// Each column with mean 0 and deviation 1, so that no variance is so small as to pass for none.
+// Each column with mean 0 and deviation 1, so that no small variance counts as none.
 std::vector<double> standardized(data_set& data)
 {
     std::vector<double> scores(data.numbers.size());

@@ -31,12 +31,12 @@ std::vector<category> countCategories(data_set& data, text_column& column)
         counted.push_back(
             {text, VB_V_FreqStr(column.block.data(), data.rows, data.weights.data(), value.get())});
     }
-    // Equals stay in the order of their appearance.
+    // Ties stay in order of appearance.
     std::ranges::stable_sort(counted, std::greater(), &category::count);
     return counted;
 }
 
-// The empty text, which stands for a missing one, counts as a text of its own.
+// The empty text, which means missing, counts as a text here.
 int differentTexts(const data_set& data, text_column& column)
 {
     return Cpp_V_NbDistinctStr(column.block.data(), data.rows) - (column.present < data.rows ? 1 : 0);

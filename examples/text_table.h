@@ -46,8 +46,10 @@ private:
     std::vector<std::vector<std::string>> rows_;
 };
 
-/** A number with `decimals` digits after its point, in powers of ten when that would not show it; "-" when it
- * is missing. */
+/**
+ * A number with `decimals` digits after its point, or in powers of ten when these digits would not show it;
+ * "-" when it is missing.
+ */
 std::string shown(double number, int decimals);
 
 /** The same, but a number too small for its decimals becomes zero. */

@@ -1,5 +1,5 @@
-// The sparse table beside Eigen's. Each iteration does the same work in both, one after the other: the time
-// shown is ours, "Eigen_ms" the peer's, "ratio" ours over theirs.
+// The sparse table beside Eigen's. Each iteration does the same work in both, one after the other. The time
+// shown is ours, "Eigen_ms" is the peer's, and "ratio" is ours over the peer's.
 #include "containers/sparse_matrix.h"
 
 #include <Eigen/Dense>
@@ -64,7 +64,7 @@ triplets gather(const matrix<double>& dense)
     return found;
 }
 
-/** The peer is given its triplets; ours has to find the cells in the dense table. */
+/** Eigen is given triplets; ours must find the cells in the dense table. */
 void loadBesideSetFromTriplets(benchmark::State& state)
 {
     const auto n = static_cast<int>(state.range(0));

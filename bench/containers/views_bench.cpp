@@ -1,5 +1,5 @@
-// The same three loops on raw pointers, through views of dense and chunked tables, and through the checked
-// access that the views spare the caller: what a view costs is the difference of the first two.
+// Three loops, each on raw pointers, through views of dense and chunked tables, and through the checked
+// access that views avoid. A view costs the difference between the first two.
 
 #include "containers/views.h"
 

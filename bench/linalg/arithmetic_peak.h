@@ -5,9 +5,9 @@ namespace korvel::bench
 {
 
 /**
- * Adds products to sums in registers alone, as wide as this machine has them: what no product of tables can
- * beat. A multiplication and then an addition, as the sums of the library are made.
- * @return how many multiplications and additions it was
+ * Adds products to sums in the widest registers of this machine, without touching memory: no product of
+ * tables can be faster. Multiplication and addition are separate, as in the library.
+ * @return the number of multiplications and additions
  */
 double separateArithmetic();
 
@@ -17,7 +17,7 @@ double separateArithmeticOfAvx2();
 /** The same in the registers that every machine has. */
 double separateArithmeticOfBaseline();
 
-/** As wide as this machine has them again, each pair fused, as the peers may do it. */
+/** In the widest registers again, with multiplication and addition fused, as peers may do it. */
 double fusedArithmetic();
 
 } // namespace korvel::bench

@@ -16,8 +16,10 @@ namespace korvel::bench
 namespace
 {
 
-/** OpenBLAS chooses its kernels from the environment when it is loaded; a name space of its own loads it
- * again. */
+/**
+ * OpenBLAS chooses its kernels from the environment when it is loaded. A linker name space of its own loads
+ * it a second time.
+ */
 void* loadAgain()
 {
     const char* const before = std::getenv("OPENBLAS_CORETYPE");

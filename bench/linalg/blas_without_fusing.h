@@ -1,7 +1,7 @@
 /**
  * @file
- * The peer OpenBLAS a second time in the same program, held to instructions that do not fuse a multiplication
- * and an addition: the arithmetic of ours.
+ * The peer OpenBLAS a second time in the same program, restricted to instructions that do not fuse
+ * multiplication and addition: the arithmetic of this library.
  */
 #ifndef KORVEL_BENCH_BLAS_WITHOUT_FUSING_H
 #define KORVEL_BENCH_BLAS_WITHOUT_FUSING_H

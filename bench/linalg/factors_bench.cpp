@@ -1,6 +1,6 @@
 // LU and Cholesky decomposition beside LAPACK in OpenBLAS and beside Eigen, in turns in one run. The counters
-// are the best time and the share of the peer's time that ours takes; `..._apart` are peers held to separate
-// multiplication and addition, as ours are. Ours keep the order of every sum, which the peers do not.
+// are our best time and its share of each peer's time. `..._apart` are peers restricted to separate
+// multiplication and addition, like ours. Ours also keeps the order of every sum, which the peers do not.
 
 #include "linalg/blas_without_fusing.h"
 #include "linalg/cholesky.h"
@@ -54,7 +54,7 @@ std::vector<double> positiveDefinite(int n)
     return cells;
 }
 
-/** A table that is made anew before each time that is taken. */
+/** A table that is restored before each timing. */
 class fresh_table
 {
 public:
@@ -125,7 +125,7 @@ void lu(benchmark::State& state)
     state.SetLabel("goal: to_dgetrf_apart 0.75, avx2 1.4 times that");
 }
 
-/** `of_bound` is the share of ours that reading alone takes in that order of the sums. */
+/** `of_bound` is the share of our time that merely reading in the order of the sums takes. */
 void cholesky(benchmark::State& state)
 {
     const auto n = static_cast<int>(state.range(0));
@@ -154,7 +154,7 @@ void cholesky(benchmark::State& state)
     state.SetLabel("goal: to_dpotrf_apart 1.0 where of_bound allows it, avx2 1.4 times that");
 }
 
-/** The power of n with which the time grows from n = 200 to 1000. */
+/** The power of n by which the time grows from n = 200 to 1000. */
 template <class Work>
 void growth(benchmark::State& state, std::vector<double> (*makeCells)(int), Work work)
 {

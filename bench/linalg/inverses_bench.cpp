@@ -1,8 +1,7 @@
-// The sweep inverse beside the LU inverses of OpenBLAS and Eigen and beside the plain sweep, on the same
-// tables and in turns in one run: the counters are our best time and the share of the others' time that it
-// is.
-// `_apart` is a peer held to separate multiplications and additions, as ours are; the goal is beside dgetrf
-// and dgetri apart, 0.65 at most.
+// The sweep inverse beside the LU inverses of OpenBLAS and Eigen and the plain sweep, on the same tables and
+// in turns in one run. The counters are our best time and its share of the others' times. `_apart` is a peer
+// restricted to separate multiplication and addition, like ours. The goal is at most 0.65 of dgetrf and
+// dgetri so restricted.
 
 #include "linalg/blas_without_fusing.h"
 #include "linalg/eigen_inverse.h"

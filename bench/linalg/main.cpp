@@ -1,7 +1,7 @@
-// The benchmarks of linear algebra beside the best that OpenBLAS has for this processor. A packaged OpenBLAS
-// does not know processors that are newer than itself, and then runs its slowest kernels: it is told the
-// family whose instructions this one has. The program starts itself anew for that, since OpenBLAS reads its
-// environment before any of our code runs.
+// Runs the benchmarks of linear algebra beside the best kernels that OpenBLAS has for this processor. A
+// packaged OpenBLAS does not know newer processors and then runs its slowest kernels, so the environment
+// names a family with the same instructions. OpenBLAS reads the environment before any of our code runs, so
+// the program sets it and restarts itself.
 
 #include <benchmark/benchmark.h>
 #include <cblas.h>

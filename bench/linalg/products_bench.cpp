@@ -1,7 +1,7 @@
-// Products beside OpenBLAS and Eigen, on the same tables and in turns in one run: the counters are the best
-// time of each and the share of the peer's time that ours takes. The peers may fuse a multiplication and an
-// addition, which halves their work and changes their bits; ours may not. They also run held to the
-// arithmetic of ours, as `..._apart`. The head of the report names the kernels that OpenBLAS runs.
+// Products beside OpenBLAS and Eigen, on the same tables and in turns in one run. The counters are the best
+// time of each, and our share of the peer's time. Peers may fuse multiplication and addition, which halves
+// their work and changes their bits; ours may not. `..._apart` are peers restricted to our arithmetic. The
+// head of the report names the kernels that OpenBLAS runs.
 
 #include "linalg/arithmetic_peak.h"
 #include "linalg/blas_without_fusing.h"
@@ -54,7 +54,7 @@ private:
     int before_;
 };
 
-/** An instruction set that ours has a kernel for, and what a machine reaches with it in registers alone. */
+/** An instruction set with a kernel of ours, and the peak of the machine in its registers. */
 struct tested_set {
     instruction_set set;
     double (*arithmetic)();
@@ -91,7 +91,7 @@ public:
         }
     }
 
-    /** The share of the peak that so many operations reach, as a counter for each set. */
+    /** The share of the peak that `operations` reach, as a counter for each set. */
     void report(benchmark::State& state, double operations) const
     {
         for (const measured& one : all_) {
@@ -122,8 +122,8 @@ private:
 
 /**
  * A·B of order n on one thread, by the best kernel and by that of each lesser instruction set. `of_peak` is
- * the share of what multiplications and additions reach in the registers of that set alone; `fused_gain` is
- * what fusing them would gain there.
+ * our share of the peak of multiplications and additions in that set's registers. `fused_gain` is what fusing
+ * them would gain.
  */
 void productOfTwo(benchmark::State& state)
 {
@@ -182,7 +182,7 @@ void productWithItself(benchmark::State& state)
     }
     state.counters["ours_ms"] = ours.milliseconds();
     state.counters["to_dsyrk"] = ours.milliseconds() / dsyrk.milliseconds();
-    // The half with its diagonal; where it cuts through tiles more is summed.
+    // The half with its diagonal. Tiles that the diagonal cuts through are summed whole.
     shares.report(state, 1.0 * n * p * (p + 1));
 }
 
@@ -241,7 +241,9 @@ void threeTables(benchmark::State& state)
     });
 }
 
-/** What a second thread gains, for ours, for the peer, and in registers alone: what this machine has to give.
+/**
+ * What a second thread gains: for ours, for the peer, and in registers alone, which is all that this machine
+ * can give.
  */
 void twoThreads(benchmark::State& state)
 {

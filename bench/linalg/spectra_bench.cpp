@@ -1,9 +1,9 @@
 // Eigenvalues and singular values with their vectors beside OpenBLAS's LAPACK and Eigen, on one table, in
-// turns and on one thread: the counters are our best time and its share of each peer's. The peers fuse a
-// multiplication and an addition, which ours may not; `..._apart` are the same peers held to the arithmetic
-// of ours, for which the goals are meant: eigenvalues 0.35 of dsyev and 0.75 of dsyevd at n = 100, 0.30
-// and 1.2 at 500 and 1000; singular values 0.5 of dgesvd and 1.0 of dgesdd at n = 100, 0.30 and 1.25 at 500.
-// `growth` is the power of n that the time of eigenvalues follows from n = 200 to 1000, with 3.1 as its goal.
+// turns and on one thread. The counters are our best time and its share of each peer's. Peers fuse
+// multiplication and addition, which ours may not. `..._apart` are the same peers restricted to our
+// arithmetic; the goals are for these: eigenvalues 0.35 of dsyev and 0.75 of dsyevd at n = 100, 0.30 and 1.2
+// at 500 and 1000; singular values 0.5 of dgesvd and 1.0 of dgesdd at n = 100, 0.30 and 1.25 at 500. `growth`
+// is the power of n that the time of eigenvalues follows from n = 200 to 1000, with 3.1 as its goal.
 
 #include "linalg/blas_without_fusing.h"
 #include "linalg/eigen_spectrum.h"
@@ -77,7 +77,7 @@ struct lapack_room {
     int info = 0;
 };
 
-/** The same driver of both OpenBLAS, each timed on a table of its own. */
+/** The same driver in both copies of OpenBLAS, each timed on its own table. */
 template <class Driver>
 class pair_of_peers
 {

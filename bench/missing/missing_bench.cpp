@@ -24,7 +24,9 @@ constexpr int rows = 100'000;
 constexpr int cols = 100;
 constexpr int cells = rows * cols;
 
-/** A table, flags of its rows, and codes of its cells; what is found is `perMille` of each. */
+/**
+ * A table, flags of its rows, and codes of its cells. `perMille` of each are missing, set or in the group.
+ */
 struct tables {
     std::vector<double> x;
     std::vector<double> y;
@@ -95,7 +97,7 @@ void flagRows(benchmark::State& state)
         [](tables& t) { plain::flagRows(t.x.data(), rows, cols, t.flags.data()); });
 }
 
-/** What was replaced is made missing again by the next replacement. */
+/** The next replacement makes the replaced cells missing again. */
 void replace(benchmark::State& state)
 {
     compare(

@@ -1,7 +1,7 @@
 // The sort engine beside the sorts that a user would pick, on the same keys in one run. Benchmarks are named
-// KEYS/PEER, for bench/side_by_side. Ours and those of the standard library make their list of pairs and sort
-// it; those of NumPy and R (one thread) give the order of the keys, which is the same work. Of keys found in
-// order ours makes no list.
+// KEYS/PEER, for bench/side_by_side. Ours and the standard library's make a list of pairs and sort it. NumPy
+// and R (one thread) give the order of the keys, which is the same work. Ours makes no list when the keys are
+// already in order.
 #include "ordering/sorted_keys.h"
 #include "support/peer_script.h"
 
@@ -52,7 +52,7 @@ constexpr keys_case keysCases[] = {
 std::vector<double> makeKeys(const keys_case& wanted)
 {
     std::mt19937_64 random(1);
-    // Of short lists there are many, or the processor would learn the one by heart.
+    // Many short lists: with a single one the branch predictor would learn it.
     std::vector<double> keys(wanted.count * std::max<std::size_t>(1, 100'000 / wanted.count));
     for (std::size_t k = 0; k < keys.size(); ++k) {
         const double uniform = std::ldexp(static_cast<double>(random() >> 11), -53);
@@ -77,7 +77,7 @@ std::vector<double> makeKeys(const keys_case& wanted)
     return keys;
 }
 
-/** The keys of a case, one list behind the other, made when they are first asked for. */
+/** The lists of keys of a case, one after the other, made on first use. */
 key_list keysOf(const keys_case& wanted)
 {
     static std::vector<std::vector<double>> made(std::size(keysCases));

@@ -1,5 +1,5 @@
 // Uniform draws beside the same generator elsewhere. "Array" fills a column of doubles, "Single" makes one
-// call for each draw; both peers of a draw use MT19937.
+// call for each draw. Both peers use MT19937.
 #include "frames/random/random_generators.h"
 #include "frames/random/random_source.h"
 #include "frames/random/random_table.h"

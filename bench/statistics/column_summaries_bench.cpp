@@ -57,7 +57,7 @@ public:
     }
     void plainDeviations() { plain::deviations(x.data(), rows, cols, w.data(), means.data(), sds.data()); }
 
-    /** The cells with a NaN for each missing one, as the peers have it. */
+    /** The cells with a NaN for each missing one, as peers expect. */
     [[nodiscard]] std::vector<double> forPeers() const
     {
         std::vector<double> cells = x;

@@ -13,7 +13,7 @@
 namespace korvel::bench::plain
 {
 
-/** Additions each of which waits for the one before, and nothing else: the bound of every sum. */
+/** Nothing but additions, each of which waits for the one before: the lower bound of every sum. */
 double additions(double step, int n);
 
 double sum(const double* x, int n, const short int* flags, const double* w);

@@ -1,6 +1,6 @@
-// Standardising a table of 100,000 by 50 in place, beside the statistics alone, the change of the cells
-// alone, a copy of the same bytes (the table read and written once more), the plain loop and R. Benchmarks
-// are named ROUTINE/PEER, for bench/side_by_side.
+// Standardising a table of 100,000 by 50 in place, beside its two halves (the statistics alone, the change of
+// the cells alone), a copy of the same bytes (the table read and written once more), the plain loop and R.
+// Benchmarks are named ROUTINE/PEER, for bench/side_by_side.
 #include "reference/standardize.h"
 #include "statistics/centering.h"
 #include "statistics/column_deviations.h"

@@ -1,7 +1,7 @@
-// The vector summaries on ten million cells beside the plain loop at -O2, GSL and R, and the bound: one
-// addition that waits for another. Benchmarks are named ROUTINE/PEER, for bench/side_by_side. A routine that
-// leaves cells out is also timed on a vector with missing cells and set flags, one in ten of each, which GSL
-// and R do not have.
+// The vector summaries on ten million cells, beside the plain loop at -O2, GSL, R, and the lower bound: a
+// chain of dependent additions. Benchmarks are named ROUTINE/PEER, for bench/side_by_side. A routine that
+// leaves cells out is also timed on a vector in which one cell in ten is missing and one flag in ten is set,
+// which GSL and R do not support.
 #include "containers/matrix3d.h"
 #include "korvelmathtools/KORVELMathTools.h"
 #include "statistics/plain_loops.h"

@@ -33,7 +33,7 @@ double secondsOf(const std::string& command)
     double seconds = 0.0;
     const bool answered = std::fscanf(answer, "%lf", &seconds) == 1;
     while (std::fgetc(answer) != EOF) {
-        // To its end, or the script would be told that nobody listens.
+        // Read to the end: a script whose output is closed early would fail.
     }
     if (pclose(answer) != 0 || !answered) {
         throw std::runtime_error("no time from " + command);

@@ -14,7 +14,7 @@
 namespace korvel::bench
 {
 
-/** A file of numbers, as they lie in memory, that goes with this object. */
+/** A file of numbers as they lie in memory, removed with this object. */
 class cells_file
 {
 public:

@@ -1,7 +1,7 @@
 // Merging, extracting, removing and copying blocks beside a plain copy of the bytes that they move, all timed
-// in turns in one run: the counters are the best time of each in milliseconds, and the speed of the routine
-// as a share of the copy's. The flat functions are timed, frames included, and the checked loop over the same
-// cells where there is one to see what the runs of memory are worth.
+// in turns in one run. The counters are the best time of each in milliseconds, and the speed of the routine
+// as a share of the copy's. The flat functions are timed, frames included. Some are also timed beside the
+// checked loop over the same cells, which shows what runs of memory gain.
 
 #include "containers/matrix.h"
 #include "korvelmathtools/KORVELMathTools.h"

@@ -1,6 +1,6 @@
 /**
  * @file
- * What can be asked of a cell, as tests for `allOf` and `countOf`: of a number, or of lanes of doubles.
+ * Tests of a cell for `allOf` and `countOf`. Each takes a number, or lanes of doubles.
  */
 #ifndef KORVEL_CONTAINERS_CELL_TESTS_H
 #define KORVEL_CONTAINERS_CELL_TESTS_H
@@ -30,7 +30,7 @@ inline constexpr auto isMissingCell = [](const auto& x) {
 /** The test of order, which also finds the doubles below the sentinel. */
 inline constexpr auto isAtOrBelowSentinel = [](auto x) { return x <= MISSING_DBL; };
 
-/** A cell that `isGood`, or that is missing. */
+/** Passes missing cells, and those that pass `isGood`. */
 template <class Test>
 [[nodiscard]] auto orMissing(Test isGood)
 {
@@ -41,22 +41,22 @@ inline constexpr auto isZeroOrMore = [](auto x) { return x >= 0.0; };
 inline constexpr auto isAboveZero = [](auto x) { return x > 0.0; };
 inline constexpr auto isZeroOrOne = [](auto x) { return (x == 0.0) | (x == 1.0); };
 
-/** From `lo` to `hi`, both of them included. */
+/** From `lo` to `hi`, both included. */
 [[nodiscard]] inline auto isWithin(double lo, double hi)
 {
     return [lo, hi](auto x) { return (x >= lo) & (x <= hi); };
 }
 
-/** Between `lo` and `hi`, neither of them included. */
+/** Between `lo` and `hi`, neither included. */
 [[nodiscard]] inline auto isBetween(double lo, double hi)
 {
     return [lo, hi](auto x) { return (x > lo) & (x < hi); };
 }
 
-/** An integer within 1e-12. An infinity and a NaN are none. */
+/** An integer within 1e-12. An infinity or a NaN is not an integer. */
 inline constexpr auto isWhole = [](auto x) {
     constexpr double tolerance = 1e-12;
-    // From here on a double has no fraction, and below it this sum rounds to an integer.
+    // From this magnitude on a double has no fraction. Below it, this sum rounds to an integer.
     constexpr double allWhole = 0x1p52;
     const auto size = [x] {
         if constexpr (std::is_same_v<decltype(x), double>) {

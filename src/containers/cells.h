@@ -1,10 +1,10 @@
 /**
  * @file
- * One loop, two ways of reaching cells: raw memory when the whole range lies inside the block, the checked
- * access otherwise.
+ * One loop, two ways of reaching cells: raw memory when the whole range lies inside the block, checked access
+ * otherwise.
  *
  * A loop names the cells that it reads and writes as *sources*, and `withCells` hands it an accessor for
- * each. Both accessors of a run of cells are used alike: `x[i]` reads, `y.set(i, value)` stores. Those of a
+ * each. Raw and checked accessors are used alike: `x[i]` reads and `y.set(i, value)` stores; accessors of a
  * table have `get(i, j)` and `set(i, j, value)`. Sources of tables and of their columns are in `views.h`.
  */
 #ifndef KORVEL_CONTAINERS_CELLS_H
@@ -31,7 +31,7 @@ template <class T>
     return n <= 0 || static_cast<std::uint64_t>(n) <= m.nbElem;
 }
 
-/** Stores into element `k`, in linear order, when there is one, and into `oobValue` in every case. */
+/** Stores into element `k`, in linear order, if it exists, and always into `oobValue`. */
 template <class T>
 void storeChecked(matrix<T>& m, std::int64_t k, const std::type_identity_t<T>& value)
 {
@@ -62,8 +62,8 @@ private:
 };
 
 /**
- * Cells that are known to lie inside, for writing. A checked store also leaves its value in the owner's
- * `oobValue`; here `settle` makes up for that, once, after the loop.
+ * Writes cells that are known to lie inside. A checked store also leaves its value in the owner's `oobValue`;
+ * here `settle` does that once, after the loop.
  */
 template <class T>
 class raw_writer

@@ -1,6 +1,6 @@
 /**
  * @file
- * Numbers to integers as the machine does it, and conditions to flags.
+ * Converts numbers to integers as the processor does, and conditions to flags.
  */
 #ifndef KORVEL_CONTAINERS_CONVERSION_H
 #define KORVEL_CONTAINERS_CONVERSION_H
@@ -11,8 +11,8 @@ namespace korvel
 {
 
 /**
- * A number without its fraction. What no `int` can hold, infinities and NaN too, gives -2147483648, as the
- * processor's own conversion does.
+ * A number without its fraction. A number that no `int` can hold, an infinity or a NaN gives -2147483648, as
+ * the processor's own conversion does.
  */
 [[nodiscard]] constexpr int truncateToInt(double x) noexcept
 {

@@ -23,13 +23,13 @@ struct table_shape {
 };
 
 /**
- * Shape of a host array: its leftmost dimension gives the rows, the next one the columns. A dimension that is
- * not there counts as 1; further dimensions and all lower bounds are ignored.
+ * Shape of a host array: the leftmost dimension gives the rows, the next one the columns. A dimension that
+ * does not exist counts as 1. Further dimensions and all lower bounds are ignored.
  * @throws boost::numeric::positive_overflow when one of the two counts is above 0x7FFFFFFF
  */
 [[nodiscard]] table_shape hostArrayShape(const SAFEARRAY& array);
 
-/** Number of elements over all dimensions; an array of no dimensions has 1, the one that a matrix sees. */
+/** Number of elements over all dimensions. An array without dimensions has 1, as a matrix sees it. */
 [[nodiscard]] std::uint64_t hostArrayLength(const SAFEARRAY& array);
 
 /** The records that a host array holds, as many as its leftmost dimension says; none when it is null or has
@@ -44,16 +44,15 @@ template <class Record>
 }
 
 /**
- * Gives a host array a new shape in place. The old contents are not kept in order: a block that is large
- * enough stays as it is, a larger one comes fresh from the task allocator. The texts of a text array are
- * freed first.
+ * Gives a host array a new shape in place. The contents are not rearranged: a block that is large enough
+ * stays as it is, otherwise the task allocator gives a fresh one. The texts of a text array are freed first.
  *
  * @param array  the array; its lower bounds stay
  * @param counts new element counts, the leftmost dimension first; after a count of 0 all later ones are 0
  * @param clear  whether to fill the block with zero bytes
- * @return false, with the array as it was, when the array has a fixed size, when `counts` is empty, has a
- * negative entry or another length than the array has dimensions. When the larger block cannot be had, also
- * false; the texts are freed by then, and their places are null.
+ * @return false, with the array unchanged, when the array has a fixed size, or when `counts` is empty, has a
+ * negative entry, or has another length than the array has dimensions. Also false when memory is short; by
+ * then the texts are freed and their places are null.
  */
 bool resizeHostArray(SAFEARRAY& array, std::span<const int> counts, bool clear);
 

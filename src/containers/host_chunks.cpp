@@ -20,8 +20,8 @@ std::span<const Hostarray> recordsOf(Hostarray** a, int n)
 }
 
 /**
- * An array of `n` null pointers, in which each record's column, when it has a block, gets the chunk that
- * `makeChunk(block, rows)` makes of it.
+ * An array of `n` pointers. Each is the chunk that `makeChunk(block, rows)` makes of a record's column, or
+ * null when the column has no block.
  */
 template <class T, class MakeChunk>
 matrix<T>** loadColumns(Hostarray** a, int n, int rows, int cols, SAFEARRAY* Hostarray::*column,

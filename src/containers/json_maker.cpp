@@ -7,7 +7,7 @@
 #include <string_view>
 #include <type_traits>
 
-// The writer's template argument does not reach the base class that writes numbers, which takes the default.
+// The base class that writes numbers ignores the writer's template argument and takes the default flags.
 #define RAPIDJSON_WRITE_DEFAULT_FLAGS kWriteNanAndInfFlag
 #include <rapidjson/allocators.h>
 #include <rapidjson/internal/stack.h>
@@ -15,7 +15,10 @@
 namespace rapidjson::internal
 {
 
-/** Grows a block as the general form does, which however goes on with a null block when memory is short. */
+/**
+ * Grows a block like the general form, but throws when memory is short: the general form goes on with a null
+ * block.
+ */
 template <>
 void Stack<CrtAllocator>::Resize(std::size_t newCapacity)
 {
@@ -52,7 +55,7 @@ rapidjson::SizeType lengthOf(std::string_view bytes)
 
 } // namespace
 
-/** The writer, made on first use, with the key written unless that is empty. */
+/** Returns the writer, made on first use, after writing the key unless that is empty. */
 json_writer& JsonMaker::at(const std::string& key)
 {
     if (writer == nullptr) {

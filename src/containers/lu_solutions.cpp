@@ -8,7 +8,7 @@
 namespace
 {
 
-/** Right sides that are solved side by side. Each is a sum of its own, so their number changes no bit. */
+/** How many right sides are solved side by side. Each has sums of its own, so the number changes no bit. */
 constexpr std::size_t unitsAtOnce = 8;
 using lane_row = std::array<double, unitsAtOnce>;
 
@@ -46,8 +46,8 @@ void solve(matrix<double>& factors, std::size_t first, std::vector<lane_row>& b)
     for (std::size_t i = first + 1; i < n; ++i) {
         const double* const row = columnOf(factors, i);
         lane_row sum = b[i];
-        // A right side enters with its 1: the zeros before it are skipped, and must be, since a factor may be
-        // infinite.
+        // A right side starts at its 1. The zeros before it must be skipped: a factor may be infinite, and
+        // its product with 0 a NaN.
         const std::size_t allEntered = std::min(i, first + unitsAtOnce);
         for (std::size_t k = first; k < allEntered; ++k) {
             for (std::size_t lane = 0; lane <= k - first; ++lane) {
@@ -76,7 +76,7 @@ void solve(matrix<double>& factors, std::size_t first, std::vector<lane_row>& b)
 matrix<double> korvel::solveForUnits(matrix<double>& factors, const std::vector<std::size_t>& pivots)
 {
     const std::size_t n = pivots.size();
-    // Where each row of the right sides comes from, once all swaps are made.
+    // The row that ends in each place after all swaps.
     std::vector<std::size_t> origin(n);
     std::iota(origin.begin(), origin.end(), std::size_t{0});
     for (std::size_t i = 0; i < n; ++i) {

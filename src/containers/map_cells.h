@@ -14,7 +14,8 @@ namespace korvel
 /**
  * `to(i, j) = map(j)(from(i, j)...)` for the first `rows` rows and `cols` columns, column after column.
  *
- * @param map  `map(j)` is what happens to the cells of column j; so a column's own factor is read once
+ * @param map  `map(j)` gives the expression for the cells of column j, so a factor of that column is read
+ *             only once
  * @param to   view of the result, which may be one of the tables that are read
  * @param from views of the tables that are read
  */

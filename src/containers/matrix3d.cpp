@@ -39,7 +39,7 @@ M& at(std::vector<M>& chunks, int k)
     return chunks[static_cast<std::size_t>(k)];
 }
 
-/** The numeric columns behind a block of records or of plain pointers, found out by the guess. */
+/** The numeric columns behind a block of records or of plain pointers. Which of the two it is, is guessed. */
 std::vector<SAFEARRAY*> numericColumns(const void* block, std::size_t n)
 {
     const std::span words(static_cast<SAFEARRAY* const*>(block), n);
@@ -136,8 +136,8 @@ void matrix3DVect<M>::vbset(int a, int b, double v)
     setElement(a - 1, b - 1, v);
 }
 
-// Member by member: of a class that is instantiated whole, Clang 14 also makes the members whose constraint
-// does not hold.
+// Instantiated member by member: when a whole class is instantiated, Clang 14 also makes the members whose
+// constraint does not hold.
 template matrix3D<matrix<double>>::matrix3D(int, Hostarray**);
 template matrix3D<matrix<double>>::matrix3D(int, int, int, double);
 template matrix3D<statistics_matrix<double>>::matrix3D(int, int, int, double);

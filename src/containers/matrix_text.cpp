@@ -1,6 +1,6 @@
-// The members that only tables of texts have. They stand apart from the explicit instantiations of the whole
-// class, because Clang 14 makes a constrained member for every element type when it sees its definition
-// there.
+// The members that only tables of texts have. They have a source of their own, apart from the explicit
+// instantiations of the whole class: where Clang 14 sees both, it makes a constrained member for every
+// element type.
 #include "containers/matrix.h"
 
 #include "containers/bstr.h"
@@ -41,7 +41,7 @@ matrix<T>::matrix(int rows, int cols, OLECHAR** bstrs, int srcRows, int srcCols)
 template <class T>
 void matrix<T>::writeBackToHostArray() noexcept requires korvel::is_text<T>
 {
-    // There is no block when memory ran out on the way to a new shape.
+    // There is no block if memory ran out while the shape was changed.
     if (safeArray == nullptr || safeArray->pvData == nullptr || data == nullptr) {
         return;
     }
@@ -57,7 +57,7 @@ void matrix<T>::writeBackToHostArray() noexcept requires korvel::is_text<T>
             }
         }
     } catch (...) {
-        // A destructor has no one to tell; the texts that were not reached keep their old value.
+        // A destructor must not throw; the texts not reached keep their old value.
     }
 }
 

@@ -35,7 +35,7 @@ constexpr int digitValue(char16_t unit)
     return unit - u'0';
 }
 
-/** Splits a number into its parts; nothing when a character has no place in it. */
+/** Splits a number into its parts; nothing when a character does not belong there. */
 std::optional<number_parts> split(std::u16string_view number, std::u16string_view decimalSeparator)
 {
     constexpr std::size_t none = std::u16string_view::npos;
@@ -70,7 +70,7 @@ std::optional<number_parts> split(std::u16string_view number, std::u16string_vie
     return parts;
 }
 
-/** Takes a sign off the front; whether it was a minus. */
+/** Removes a leading sign and tells whether it was a minus. */
 bool takeMinus(std::u16string_view& number)
 {
     const bool negative = number.starts_with(u'-');

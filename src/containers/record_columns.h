@@ -1,6 +1,6 @@
 /**
  * @file
- * Reaching the columns of a labelled table without trusting the column number.
+ * Access to the columns of a labelled table by a column number that may be wrong.
  */
 #ifndef KORVEL_CONTAINERS_RECORD_COLUMNS_H
 #define KORVEL_CONTAINERS_RECORD_COLUMNS_H
@@ -15,8 +15,8 @@ namespace korvel
 {
 
 /**
- * The elements of column `j`, 0-based. A column that the table does not have is as good as an empty one:
- * `nowhere`, an empty matrix of the caller's, stands in for it, and what is stored there is lost.
+ * The elements of column `j`, 0-based. A column that the table does not have counts as empty: `nowhere`, an
+ * empty matrix of the caller's, stands in for it, and what is stored there is lost.
  */
 template <class T>
 [[nodiscard]] matrix<T>& columnAt(cST_MVect<T>& table, std::int64_t j, matrix<T>& nowhere)
@@ -25,7 +25,9 @@ template <class T>
     return index < table.Vectors.size() ? table.Vectors[index].Vect : nowhere;
 }
 
-/** The first columns of a labelled table as chunks, an empty one for each that it does not have. */
+/**
+ * The first columns of a labelled table as chunks, with an empty chunk for each column that does not exist.
+ */
 class column_list
 {
 public:

@@ -9,7 +9,9 @@
 namespace
 {
 
-/** Where a block is read and where it is written; rows and columns from 1, the last ones included. */
+/**
+ * Where a block is read and where it is written. Rows and columns count from 1; the last ones are included.
+ */
 struct block_move {
     int rowFrom;
     int rowTo;
@@ -21,7 +23,7 @@ struct block_move {
     int colOffset;
 };
 
-/** Copies the whole of `block` into `table` at a row and a column from 1. */
+/** Copies the whole of `block` into `table`. Its first cell goes to a row and a column counted from 1. */
 template <class T>
 void copyBlock(cST_MVect<T>& block, cST_MVect<T>& table, std::int64_t row, std::int64_t col)
 {
@@ -36,7 +38,7 @@ void copyBlock(cST_MVect<T>& block, cST_MVect<T>& table, std::int64_t row, std::
 }
 
 /**
- * Converts cell by cell into a block of its own, and copies that and the labels when every cell could be
+ * Converts the cells into a separate block, and copies that block and the labels if every cell could be
  * converted. `convert` takes a cell and returns the converted one, or nothing.
  */
 template <class From, class To, class Convert>

@@ -71,8 +71,8 @@ void cST_MVect<T>::writeJson(JsonMaker& writer, const std::string& key)
     writer.endObject();
 }
 
-// Member by member: of a class that is instantiated whole, Clang 14 also makes the members whose constraint
-// does not hold.
+// Instantiated member by member: when a whole class is instantiated, Clang 14 also makes the members whose
+// constraint does not hold.
 template cST_MVect<double>::cST_MVect(ST_MVect*);
 template cST_MVect<text>::cST_MVect(ST_MVect*);
 

@@ -21,8 +21,8 @@ cST_QualiInfo::cST_QualiInfo(ST_QualiInfo* record) : cST_QualiInfo()
     withLongLabels = record->withLongLabels;
     CheckType = record->CheckType;
 
-    // The object counts as built from here on, so that a failure below runs the destructor, which releases
-    // the parts.
+    // The object counts as constructed from here on: a failure below runs the destructor, which releases the
+    // parts.
     NbCat = new matrix<int>(record->NbCat);
     VarLabels = new matrix<text>(record->VarLabels);
     CatNames = new cST_MVect<text>(&record->CatNames);
@@ -51,8 +51,8 @@ cST_QualiInfo::~cST_QualiInfo()
         source->withLongLabels = withLongLabels;
         source->CheckType = CheckType;
         if (VarLabels != nullptr) {
-            // A table of texts returns them to its array when it dies; a routine may have put another table
-            // here.
+            // The destructor of a table of texts writes them back to its array. A routine may have put
+            // another table here.
             VarLabels->safeArray = source->VarLabels;
         }
     }

@@ -27,8 +27,8 @@ void cST_Vect<T>::writeJson(JsonMaker& writer, const std::string& key)
     writer.endObject();
 }
 
-// Member by member: of a class that is instantiated whole, Clang 14 also makes the members whose constraint
-// does not hold.
+// Instantiated member by member: when a whole class is instantiated, Clang 14 also makes the members whose
+// constraint does not hold.
 template cST_Vect<double>::cST_Vect(ST_Vect*);
 template cST_Vect<short int>::cST_Vect(ST_Vect*);
 template cST_Vect<text>::cST_Vect(ST_Vect*);

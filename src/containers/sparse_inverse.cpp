@@ -33,7 +33,7 @@ bool scaleRows(matrix<double>& a, std::vector<double>& scale)
     return true;
 }
 
-/** The row from `j` on whose scaled element in this column is the largest, the last of equal ones. */
+/** The row from `j` on with the largest scaled element in this column; the last one of equals. */
 std::size_t choosePivot(const double* column, const std::vector<double>& scale, std::size_t j)
 {
     std::size_t pivot = j;
@@ -49,8 +49,8 @@ std::size_t choosePivot(const double* column, const std::vector<double>& scale, 
 }
 
 /**
- * Replaces `a` by its factors, the unit diagonal of the lower one left out, and tells in `pivots` the row
- * that was swapped with each. False when a pivot is not above the threshold.
+ * Replaces `a` by its LU factors, without the unit diagonal of L. `pivots` receives the row that was swapped
+ * with each row. Returns false when a pivot is not above the threshold.
  */
 bool factorise(matrix<double>& a, std::vector<double>& scale, std::vector<std::size_t>& pivots,
                double threshold)
@@ -58,8 +58,8 @@ bool factorise(matrix<double>& a, std::vector<double>& scale, std::vector<std::s
     const std::size_t n = scale.size();
     for (std::size_t j = 0; j < n; ++j) {
         double* const target = columnOf(a, j);
-        // Column after column is taken off all elements below: each element has them taken off in ascending
-        // order, and element k is complete when it becomes a factor.
+        // Each earlier column is subtracted from all elements below its diagonal. So every element has its
+        // terms subtracted in ascending order, and element k is complete before it serves as a factor.
         for (std::size_t k = 0; k < j; ++k) {
             const double* const column = columnOf(a, k);
             const double factor = target[k];
@@ -91,10 +91,10 @@ bool isZero(double v)
 }
 
 /**
- * Makes of `row` of `dst` what `dst.setElement(i, c, cells[c])` for every column c in ascending order would
- * make of it, and appends it to `colIndex` and `values`. Each element is set once, so a column is looked for
- * only among the entries that were there before; the new ones come in front of them, the last first. `found`
- * is scratch, one place a column.
+ * Appends to `colIndex` and `values` what `row` of `dst` would be after `dst.setElement(i, c, cells[c])` for
+ * every column c in ascending order. Each element is set once, so a column is searched only among the old
+ * entries; new entries go in front of them, the last one first. `found` is scratch, one place for each
+ * column.
  */
 void mergeRow(const matrixSparse& dst, korvel::entry_range row, const double* cells,
               std::vector<std::size_t>& found, std::vector<int>& colIndex, std::vector<double>& values)
@@ -128,8 +128,8 @@ void mergeRow(const matrixSparse& dst, korvel::entry_range row, const double* ce
 }
 
 /**
- * Sets every element of `dst` from the square table whose row i is column i of `source`, column after column.
- * The same as one `setElement` after the other, but without moving all later rows at each of them.
+ * Sets every element of `dst`, column after column, from the square table whose row i is column i of
+ * `source`. The result is that of single `setElement` calls, but later rows are not moved at each of them.
  */
 void store(matrixSparse& dst, matrix<double>& source)
 {
@@ -165,7 +165,7 @@ int matrixSparse::inverse1(matrixSparse* dst, short int& singular, double tol)
     }
     const auto n = static_cast<std::size_t>(nbrows);
     if (n * n != korvel::elementCount(nbrows, nbrows)) {
-        throw std::bad_alloc(); // no dense table has that many elements
+        throw std::bad_alloc(); // more elements than a dense table can have
     }
     matrix<double> a = to_matrix(nbrows, nbrows);
     std::vector<double> scale(n);

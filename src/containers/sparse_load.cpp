@@ -30,10 +30,10 @@ void accumulate(std::vector<int>& starts)
 }
 
 /**
- * Fills `target` from a table of any form, of which columns from `storedCols` on have only zeros.
+ * Fills `target` from a table of any form, whose columns from `storedCols` on have only zeros.
  *
- * The cells are counted first, so that each array is allocated once. Both walks go down the columns, as the
- * source lies in memory; each row has its own place to append to, and so gets its entries in column order.
+ * Cells are counted first, so that each array is allocated once. Both passes go down the columns, in the
+ * memory order of the source. Each row has its own place to append to, so its entries are in column order.
  */
 template <class View>
 void load(matrixSparse& target, int rows, int cols, int storedCols, const View& source)
@@ -64,13 +64,13 @@ void load(matrixSparse& target, int rows, int cols, int storedCols, const View& 
         };
         korvel::withCells(appendColumn, source.column(j, rows));
     }
-    // The start of each row has moved on to the start of the next.
+    // Appending has moved the start of each row to that of the next.
     if (rows > 0) {
         std::shift_right(starts.begin(), starts.end(), 1);
         starts[0] = 0;
     }
-    // Only an entry of row 1 or of a later row sets the start of row 1: callers rely on the tables as they
-    // came out of this from the beginning.
+    // Only an entry of row 1 or of a later row sets the start of row 1. This is wrong for a table with
+    // entries in row 0 alone, but callers rely on it.
     if (rows > 1 && starts[1] == stored) {
         starts[1] = 0;
     }

@@ -7,7 +7,7 @@
 namespace
 {
 
-/** Makes room for one more element in the steps in which a vector grows by itself. */
+/** Makes room for one more element, growing in the same steps as a vector does by itself. */
 template <class T>
 void makeRoomForOne(std::vector<T>& v)
 {
@@ -22,7 +22,7 @@ void append(std::vector<T>& target, const std::vector<T>& source)
     target.insert(target.end(), source.begin(), source.end());
 }
 
-/** Makes `m` the filled table that the constructor tells, or leaves it alone when that cannot be had. */
+/** Fills `m` as the constructor describes, or leaves it unchanged when memory is short. */
 void fill(matrixSparse& m, int rows, int cols, double value, bool reserve)
 {
     const std::uint64_t all = korvel::elementCount(rows, cols);
@@ -82,7 +82,7 @@ double matrixSparse::vbget(int i, int j)
 
 void matrixSparse::setElement(int i, int j, double v)
 {
-    // The row past the end passes the test of the accessors, but it has no place to keep an entry.
+    // The row past the end passes the accessors' test, but has no place to store an entry.
     if (!korvel::hasRow(*this, i) || nbcols < j) {
         return;
     }
@@ -177,7 +177,8 @@ matrix<double> matrixSparse::to_matrix(int rows, int cols)
     for (std::int64_t i = 0; i < rows; ++i) {
         const korvel::entry_range row = korvel::entriesOfRow(*this, i);
         for (std::size_t k = row.first; k < row.last; ++k) {
-            // A column outside the table leads past the block, or before it, which is far past it unsigned.
+            // A column outside leads past the block. A negative one leads before it, which as an unsigned
+            // number is far past it.
             const auto position = static_cast<std::uint64_t>(std::int64_t{colIndex[k]} * rows + i);
             if (position < dense.nbElem) {
                 dense.data[position] = values[k];

@@ -3,7 +3,7 @@
 namespace
 {
 
-/** Describes the `rows` rows from `rowOffset` on. The flags are anything that can be written by index. */
+/** Describes `rows` rows from `rowOffset` on. The flags may be any type that is written by index. */
 template <class Flags>
 void describeRows(const matrixSparse& m, int rows, int cols, int rowOffset, Flags& rowEmpty,
                   Flags& rowDiagOnly)

@@ -20,7 +20,7 @@ void makeSlices(matrix<T>** m, int n, int rows, int cols)
     }
 }
 
-/** Calls `visit(slice, i, j, cell)` for every cell of the flat block, in the order in which they stand. */
+/** Calls `visit(slice, i, j, cell)` for every cell of the flat block, in memory order. */
 template <class T, class Flat, class Visit>
 void walkSlices(matrix<T>** m, Flat* flat, int n, int rows, int cols, Visit visit)
 {

@@ -1,9 +1,9 @@
 /**
  * @file
- * Testing the cells of vectors. A loop that may stop at any cell looks at one cell at a time; here it stops
- * between stretches of cells, and looks at several cells at once within a stretch.
+ * Tests the cells of vectors. A loop that may stop at any cell can only test one cell at a time. These loops
+ * stop only between stretches of cells, and so test several cells of a stretch at once.
  *
- * A test is a generic lambda. It takes numbers, or lanes of doubles, and joins conditions by `|` and `&`:
+ * A test is a generic lambda that takes numbers or lanes of doubles, and joins conditions by `|` and `&`:
  *
  *     allOf(n, [](auto x) { return (x == MISSING_DBL) | (x >= 0.0); }, cells)
  */
@@ -24,7 +24,7 @@ namespace korvel
 /**
  * Calls `look(from, to)` for stretches of the positions `first` to `last - 1`, in ascending order, until it
  * returns false.
- * @return whether it never did
+ * @return whether it never returned false
  */
 template <class Look>
 bool whileStretches(std::int64_t first, std::int64_t last, Look look)
@@ -41,7 +41,7 @@ bool whileStretches(std::int64_t first, std::int64_t last, Look look)
 namespace detail
 {
 
-/** How many doubles of a stretch pass, two at a time. */
+/** Counts the doubles of a stretch that pass, two at a time. */
 template <class Test, class... Cells>
 [[nodiscard]] std::int64_t countInLanes(std::int64_t first, std::int64_t last, Test isGood, Cells... x)
 {
@@ -120,7 +120,7 @@ template <class Test, class... Cells>
 
 /**
  * Calls `visit(i)` for each of the positions 0 to `n - 1` at which `isFound(x[i])` holds, in ascending order.
- * Numbers are tested 64 at a time, without a branch: which cells are found is seldom foreseen.
+ * Numbers are tested 64 at a time without a branch, because the processor could rarely predict it.
  */
 template <class Test, class Cells, class Visit>
 void forEachFound(int n, Test isFound, const Cells& x, Visit visit)

@@ -12,7 +12,7 @@
 namespace korvel
 {
 
-/** A dense table to be read with rows and columns exchanged: element (i, j) is its element (j, i). */
+/** Reads a dense table with rows and columns exchanged: element (i, j) is the table's element (j, i). */
 class transposed_view
 {
 public:

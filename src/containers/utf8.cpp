@@ -21,7 +21,7 @@ constexpr bool isLowSurrogate(char16_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-/** Takes one character off the front of `units`, which is not empty. */
+/** Removes the first character of `units`, which is not empty. */
 char32_t takeCharacter(std::u16string_view& units)
 {
     const char16_t first = units.front();

@@ -12,8 +12,8 @@ namespace korvel
 {
 
 /**
- * The text in well-formed UTF-8, whatever the units are: a surrogate pair becomes one character, a surrogate
- * without its partner U+FFFD, and the unit after a lone high surrogate is read again on its own.
+ * The text in UTF-8, always well-formed. A surrogate pair becomes one character, a lone surrogate becomes
+ * U+FFFD, and the unit after a lone high surrogate is read on its own.
  */
 [[nodiscard]] std::string toUtf8(std::u16string_view units);
 

@@ -61,7 +61,7 @@ bool consume(std::string_view& rest, std::string_view token)
     return true;
 }
 
-/** The characters up to the closing quote; a backslash takes the next one as it is. */
+/** The characters up to the closing quote. The character after a backslash is taken literally. */
 std::string unquoted(std::string_view rest)
 {
     std::string value;
@@ -74,7 +74,7 @@ std::string unquoted(std::string_view rest)
     return value;
 }
 
-/** The path that a line `XDG_DESKTOP_DIR="..."` names: absolute, or below `$HOME/`. Other lines name none. */
+/** The path in a line `XDG_DESKTOP_DIR="..."`: absolute, or below `$HOME/`. Other lines have none. */
 std::optional<path> desktopFromLine(std::string_view line, const std::optional<path>& home)
 {
     std::string_view rest = withoutLeadingBlanks(line);

@@ -14,8 +14,8 @@ namespace korvel::platform
 /**
  * The folder that holds the files on the user's desktop; empty when the system cannot tell.
  *
- * On Windows the shell names it. Elsewhere it is the `XDG_DESKTOP_DIR` of the user's `user-dirs.dirs`, and
- * `Desktop` in the home folder when there is none. Whether the folder exists is not looked at there.
+ * On Windows the shell names it. Elsewhere it is the `XDG_DESKTOP_DIR` of the user's `user-dirs.dirs`, or
+ * else `Desktop` in the home folder; there the folder need not exist.
  */
 [[nodiscard]] std::optional<std::filesystem::path> desktopFolder();
 

@@ -2,9 +2,9 @@
  * @file
  * Lanes: several doubles computed side by side in one register, from one source for every processor.
  *
- * Each lane has the bits that a double by itself would have, so lanes serve results that do not depend on
- * each other. The usual operators work lane by lane, also with a plain double on one side. A comparison gives
- * a mask, `&` and `|` combine masks, and `v[k]` is lane k.
+ * Each lane gets the same bits as a single double would, so lanes serve results that do not depend on each
+ * other. The usual operators work lane by lane, also with a plain double on one side. A comparison gives a
+ * mask, `&` and `|` combine masks, and `v[k]` is lane k.
  *
  * @code
  * constexpr int width = korvel::lanes::registerWidth;
@@ -15,13 +15,13 @@
  * }
  * @endcode
  *
- * The width is a template argument: 2, 4 or 8 doubles, at most `registerWidth`, for a loop that wants more at
- * once holds several registers in an array. On a 64-bit Arm processor a register has two doubles, as it has
- * on x86 without AVX.
+ * The width is a template argument: 2, 4 or 8 doubles, at most `registerWidth`. A loop that needs more at
+ * once holds several registers in an array. On a 64-bit Arm processor, as on x86 without AVX, a register has
+ * two doubles.
  *
- * All functions are inlined always, also without optimisation, and leave no copy that the linker could share.
- * So a source that is compiled for one instruction set, as those in `kernels/` are, may use them: there
- * `registerWidth` is that set's, and the width must not come from another source.
+ * All functions are always inlined, even without optimisation, and leave no copy that the linker could share.
+ * So the sources in `kernels/`, each compiled for one instruction set, may use them. `registerWidth` there is
+ * that set's width; it must not be passed in from another source.
  */
 #ifndef KORVEL_PLATFORM_LANES_H
 #define KORVEL_PLATFORM_LANES_H
@@ -163,7 +163,7 @@ template <class Mask, class Doubles>
 KORVEL_IN_LANES Doubles only(Mask kept, Doubles x)
 {
 #if defined(__SSE2__)
-    // Written as integers the compiler takes an instruction for integers, which costs a cycle more.
+    // With integer operands the compiler would choose an integer instruction, which costs a cycle more.
     if constexpr (detail::widthOf<Doubles> == 2) {
         return _mm_and_pd(reinterpret_cast<__m128d>(kept), x);
     } else
@@ -187,7 +187,7 @@ KORVEL_IN_LANES Mask either(Mask a, Mask b)
     }
 }
 
-/** `x` in the lanes that are kept, a NaN in the others: it loses every comparison. */
+/** `x` in the lanes that are kept, and in the others a NaN, which fails every comparison. */
 template <class Mask, class Doubles>
 KORVEL_IN_LANES Doubles onlyOrNaN(Mask kept, Doubles x)
 {
@@ -222,7 +222,7 @@ KORVEL_IN_LANES unsigned chosenBits(mask<2> chosen)
 #endif
 }
 
-/** `a < b ? a : b`: where one of the two is a NaN, and for two zeros, that is `b`. */
+/** `a < b ? a : b`. So the result is `b` where one of the two is a NaN, and for two zeros. */
 template <class Doubles>
 KORVEL_IN_LANES Doubles smaller(Doubles a, Doubles b)
 {
@@ -236,7 +236,7 @@ KORVEL_IN_LANES Doubles larger(Doubles a, Doubles b)
     return a > b ? a : b;
 }
 
-/** The absolute values: the sign is cleared, of a NaN too. */
+/** The absolute values. The sign of a NaN is cleared too. */
 template <class Doubles>
 KORVEL_IN_LANES Doubles absolute(Doubles x)
 {
@@ -316,7 +316,7 @@ KORVEL_IN_LANES void transpose(doubles<registerWidth>* square)
 #endif
 }
 
-/** Asks for the line of the cache that holds an address, which may lie anywhere. */
+/** Prefetches the cache line of an address, which may be any address. */
 KORVEL_IN_LANES void prefetch(const void* address)
 {
     __builtin_prefetch(address);
@@ -326,8 +326,8 @@ KORVEL_IN_LANES void prefetch(const void* address)
 using integers4 = detail::register_of<int, 4>::type;
 
 /**
- * Stores past the caches where the processor can do so, for what is not read again soon. `to` is a multiple
- * of 16; `finishStreaming` follows the last of such stores.
+ * Stores past the caches where the processor can do so, for data that is not read again soon. `to` is a
+ * multiple of 16. `finishStreaming` must follow the last such store.
  */
 KORVEL_IN_LANES void stream(double* to, doubles<2> values)
 {

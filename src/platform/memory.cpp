@@ -46,7 +46,7 @@ std::uint64_t availableAddressSpace()
     const bool limited = getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
     const std::uint64_t whole = limited ? std::min<std::uint64_t>(limit.rlim_cur, userHalf) : userHalf;
 
-    // The first figure of this file is the size of everything that is mapped, in pages.
+    // The first number in this file is the size of all mappings, in pages.
     std::uint64_t pages = 0;
     std::ifstream("/proc/self/statm") >> pages;
     return whole - std::min(whole, pages * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE)));

@@ -1,6 +1,6 @@
 /**
  * @file
- * What the system says of this process's memory, and blocks that are taken to see whether they can be had.
+ * The system's figures on this process's memory, and blocks that are allocated to probe what is available.
  */
 #ifndef KORVEL_PLATFORM_MEMORY_H
 #define KORVEL_PLATFORM_MEMORY_H
@@ -15,7 +15,7 @@ namespace korvel::platform
 [[nodiscard]] std::uint64_t availableAddressSpace();
 
 /**
- * Takes fresh pages straight from the system, with the memory behind them promised but not yet touched.
+ * Takes fresh pages straight from the system. Their memory is committed but not touched.
  * @return the zeroed block, or null when `bytes` is 0 or the system refuses
  */
 [[nodiscard]] void* commitPages(std::size_t bytes) noexcept;

@@ -17,7 +17,10 @@ struct stretch {
     std::ptrdiff_t count = 0;
 };
 
-/** A thread's part of `total`: all parts are in order and as even as can be, the first ones longer by one. */
+/**
+ * A thread's part of `total`. The parts are in order and as even as possible; the first ones may be longer by
+ * one.
+ */
 [[nodiscard]] constexpr stretch shareOf(std::ptrdiff_t total, int thread, int threads)
 {
     const std::ptrdiff_t even = total / threads;

@@ -23,7 +23,7 @@ bool sameSecond(const SYSTEMTIME& a, const SYSTEMTIME& b) noexcept
            a.wMinute == b.wMinute && a.wSecond == b.wSecond;
 }
 
-/** The automation date of a calendar time; none when it does not convert back to the same second. */
+/** The automation date of a calendar time, or nothing when it does not convert back to the same second. */
 std::optional<double> automationDate(SYSTEMTIME time)
 {
     double date = 0.0;
@@ -36,8 +36,8 @@ std::optional<double> automationDate(SYSTEMTIME time)
 }
 
 /**
- * Days since 30 December 1899. The fraction of an automation date counts forward from midnight also before
- * day 0, where -1.25 is a quarter of a day after -1: such a date is folded to -0.75.
+ * Days since 30 December 1899 as a plain number. The fraction of an automation date counts forward from
+ * midnight even before day 0: -1.25 is a quarter of a day after -1, and becomes -0.75 here.
  */
 double continuousDays(double date)
 {
@@ -48,7 +48,9 @@ double continuousDays(double date)
     return midnight - (date - midnight);
 }
 
-/** Whole days from one date to the other, rounded at the half second. */
+/**
+ * Whole days from one date to the other. A difference within half a second of a whole day counts as whole.
+ */
 int wholeDays(double from, double to)
 {
     const double span = continuousDays(to) - continuousDays(from);

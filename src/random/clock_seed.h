@@ -1,6 +1,6 @@
 /**
  * @file
- * A seed made of the local time, for callers that give none.
+ * A seed made from the local time, for callers that give none.
  */
 #ifndef KORVEL_RANDOM_CLOCK_SEED_H
 #define KORVEL_RANDOM_CLOCK_SEED_H
@@ -14,17 +14,16 @@ namespace korvel
 using local_clock = bool (*)(SYSTEMTIME& now);
 
 /**
- * Puts another clock in the place of the system's, so that a test can choose the time.
+ * Replaces the system's clock, so that a test can choose the time.
  * @return the clock used so far
  */
 local_clock exchangeLocalClock(local_clock clock) noexcept;
 
 /**
  * The seed of the present second: second + 100 * (100 * hour + days + minute), where `days` counts from 30
- * December 1899. It is no positional number, and two seeds taken in the same second are equal.
+ * December 1899. Different times can have the same seed, and two seeds taken in the same second are equal.
  *
- * A time that has no automation date, or none that stands for it exactly, counts as day 0 with -1 for the
- * hour, the minute and the second.
+ * A time without an exact automation date counts as day 0, with -1 for the hour, the minute and the second.
  */
 int clockSeed();
 

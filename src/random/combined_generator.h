@@ -19,12 +19,12 @@ struct congruential_step {
     static constexpr std::int64_t modulus = (std::int64_t{1} << 31) - Gap;
 
     /**
-     * The state after `s`, from 0 to `modulus` - 1. Any `s` will do, also one that a caller gave as a seed
-     * and that lies below 0 or above the modulus.
+     * The state after `s`, from 0 to `modulus` - 1. `s` may be any number: a caller's seed may lie below 0 or
+     * above the modulus.
      *
-     * 2^31 is `Gap` modulo the modulus, so the bits of the product above the lowest 31 count `Gap` times; the
-     * sum of the two parts is below twice the modulus. This equals Schrage's method with 32-bit products, and
-     * has no division.
+     * 2^31 equals `Gap` modulo the modulus, so the bits of the product above the lowest 31 are multiplied by
+     * `Gap` and added to these. That sum is below twice the modulus. The result is that of Schrage's method,
+     * without a division.
      */
     static constexpr std::int32_t next(std::int32_t s) noexcept
     {

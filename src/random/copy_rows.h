@@ -11,8 +11,8 @@ namespace korvel
 {
 
 /**
- * Row `chosen[t]` of one view goes to row t of the other, by the checked access of both. A row before the
- * first, which a dense table does not check, reads as empty texts.
+ * Copies row `chosen[t]` of one view to row t of the other, by the checked access of both. A dense table does
+ * not check for rows before the first; such a row is read as empty texts.
  */
 template <class From, class To>
 void copyRows(const chosen_rows& chosen, int cols, const From& from, const To& to)

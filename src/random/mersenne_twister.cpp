@@ -18,9 +18,9 @@ constexpr std::uint32_t twist(std::uint32_t word, std::uint32_t following) noexc
 }
 
 /**
- * Words `from` to `to` - 1 of a new half. `old` is the half before, and `middle` stands `shift` words after
- * it, in whichever half that is. A word depends on the one computed 227 places before, so a run of up to 227
- * words has no dependence inside it.
+ * Computes words `from` to `to` - 1 of a new half. `old` is the half before it; `middle` points `shift` words
+ * further on, in either half. A word depends on the one 227 places before it, so up to 227 words in a row are
+ * independent.
  */
 void twistRun(const std::uint32_t* __restrict old, const std::uint32_t* __restrict middle,
               std::uint32_t* __restrict fresh, std::size_t count) noexcept

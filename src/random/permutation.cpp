@@ -14,7 +14,7 @@ namespace korvel
 namespace
 {
 
-/** Turns a raw number into a place, times the number of places. Not quite 1 / (2^31 - 1). */
+/** Scales a raw number, times the number of places, to a place. The value is not exactly 1 / (2^31 - 1). */
 constexpr double placeScale = 4.656613057e-10;
 
 /** 32-bit arithmetic that wraps. */
@@ -28,7 +28,7 @@ std::uint32_t bits(int value) noexcept
     return static_cast<std::uint32_t>(value);
 }
 
-/** Starts the source from the seed; without one, from the seed that it has. */
+/** Starts the source from the given seed, or else from the seed that it has. */
 void restart(int* seed, short int* flag)
 {
     if (*flag == 0) {

@@ -13,7 +13,7 @@ std::uint32_t bits(int value) noexcept
     return static_cast<std::uint32_t>(value);
 }
 
-/** A raw number is positive, so only a divisor of -2^31 or above it in size needs the wider type. */
+/** A raw number is positive, so only a divisor of magnitude 2^31 or more needs the wider type. */
 std::uint32_t drawBelow(std::uint32_t wrappedCount)
 {
     const std::int64_t count = static_cast<std::int32_t>(wrappedCount);
@@ -29,7 +29,10 @@ std::uint32_t combinedUniform(std::uint32_t a, std::uint32_t b)
     return difference == 0 ? a : a - drawBelow(a - b + 1);
 }
 
-/** Each remainder stands for the same number of raw values, but for those of the last, cut-off run. */
+/**
+ * Every remainder has the same number of raw values, except in the last, incomplete run, which is drawn
+ * again.
+ */
 bool favoursNone(std::uint32_t raw, std::uint32_t count) noexcept
 {
     constexpr std::uint32_t highest = 0xFFFFFFFFU;

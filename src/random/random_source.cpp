@@ -12,8 +12,8 @@ namespace
 {
 
 /**
- * `laneBlock` numbers of the combined generator. Each step waits for the one before, so the block is cut into
- * lanes that start where the lane before will end, and are walked side by side.
+ * `laneBlock` numbers of the combined generator. Each step waits for the one before, so the block is divided
+ * into lanes that are walked side by side; each lane starts where the one before it will end.
  */
 void combinedLanes(CRand& source, std::int32_t* out) noexcept
 {
@@ -68,7 +68,9 @@ CRand processSource;
 namespace
 {
 
-/** Runs when the library is loaded; the source above is part of the same file, so it is there by then. */
+/**
+ * Runs when the library is loaded. The source above is in the same file and is therefore initialised first.
+ */
 [[maybe_unused]] const bool started = (startSource(processSource), true);
 
 } // namespace

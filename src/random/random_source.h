@@ -1,7 +1,7 @@
 /**
  * @file
- * Inside of the random source: the operations on a given state, and draws by the block. A block holds the
- * numbers that single draws would have given, and leaves the state where they would have left it.
+ * The internals of the random source: operations on a given state, and draws by the block. A block holds the
+ * same numbers as single draws, and leaves the same state.
  */
 #ifndef KORVEL_RANDOM_RANDOM_SOURCE_H
 #define KORVEL_RANDOM_RANDOM_SOURCE_H

@@ -13,9 +13,9 @@ using korvel::panelCells;
 using korvel::processSource;
 
 /**
- * The draws run along rows and the table lies in columns, so a panel of some rows is drawn first and then
- * dealt out column by column, whole cache lines at once. The panel holds raw numbers, half the size of what
- * they become, and stays in the cache.
+ * Draws run along rows, but the table is stored by columns. So a panel of rows is drawn first and then copied
+ * out column by column, in whole cache lines. The panel holds raw numbers, half the size of doubles, and fits
+ * in the cache.
  */
 template <class T>
 void fillCells(matrix<T>& out, int rows, int cols)

@@ -15,7 +15,7 @@ namespace korvel
 namespace
 {
 
-/** Whether the row at this distance from the start is on the grid. A step of 0 leads to no other row. */
+/** Whether the row at this distance from the start is taken. A step of 0 reaches no other row. */
 bool onGrid(std::int64_t distance, std::int64_t step)
 {
     return step == 0 ? distance == 0 : distance % step == 0;

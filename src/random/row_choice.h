@@ -1,7 +1,7 @@
 /**
  * @file
- * The rows that a sampling scheme chooses. Row numbers count from 1; one that is not in the table is possible
- * where a scheme's arithmetic leads there.
+ * The rows that a sampling scheme chooses. Row numbers count from 1. A scheme's arithmetic may lead to a row
+ * outside the table.
  */
 #ifndef KORVEL_RANDOM_ROW_CHOICE_H
 #define KORVEL_RANDOM_ROW_CHOICE_H

@@ -17,7 +17,7 @@ using korvel::writing;
 namespace
 {
 
-/** In the place of a draw: the middle of what can be drawn. */
+/** Used instead of a draw: the middle of the range of draws. */
 constexpr double centre = 0.5;
 
 template <class From, class To>

@@ -22,8 +22,8 @@ namespace korvel
  * @param flag     0 when no seed is given
  * @param nextSeed receives what `GetSeedUpdate` gives
  *
- * Under MT19937 one place of the permutation may hold a number that is no row: that row of the result has the
- * value of an element outside a fresh matrix, -1 or the empty text.
+ * Under MT19937 one element of the permutation may not be a row number. That row of the result has the value
+ * of an element outside a fresh matrix: -1 or the empty text.
  */
 template <class T>
 void shuffleRows(const matrix<T>& x, int rows, int cols, matrix<T>& out, int* seed, short int flag,

@@ -1,5 +1,5 @@
-// Flat functions that borrow the caller's arrays take no memory at all, however long the arrays are.
-// A library on Windows has an operator new of its own, which a program cannot count.
+// Flat functions that borrow the caller's arrays take no memory at all, however long the arrays are. On
+// Windows the library has its own operator new, which a program cannot count.
 #if !defined(_WIN32)
 
 #include "containers/missing.h"

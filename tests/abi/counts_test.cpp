@@ -1,5 +1,5 @@
-// What counts below 1 do at the boundary: one below 0 is refused by every frame that works on copies, before
-// anything is written, and one of 0 leaves the caller's memory alone.
+// Counts below 1 at the boundary. Every frame that works on copies refuses a count below 0 before anything is
+// written. A count of 0 leaves the caller's memory alone.
 
 #include "korvelmathtools/KORVELMathTools.h"
 #include "support/caller_cells.h"

@@ -250,7 +250,9 @@ std::size_t addressSpaceInUse()
     return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
 }
 
-/** Writes until 64 MB are used up; leaves the process with 0 when that is told as it should be. */
+/**
+ * Writes until 64 MB are used up. The process ends with 0 if that raised std::bad_alloc and kept the buffer.
+ */
 [[noreturn]] void writeUntilMemoryIsShort()
 {
     rlimit limit{};

@@ -81,7 +81,7 @@ TYPED_TEST(MatrixAccess, ANegativeRowOrColumnPassesTheTest)
     EXPECT_EQ(&m.getElement(-1, 1), &m.data[1]);
     EXPECT_EQ(&m.vbget(0, 2), &m.data[1]);
 
-    // The block seen from its second column on: the first one is in reach with column -1.
+    // The block seen from its second column on: column -1 reaches the first one.
     auto* middle = m.data + 2;
     const auto view = viewOf(2, 2, middle);
     EXPECT_EQ(&view.getElement(0, -1), m.data);

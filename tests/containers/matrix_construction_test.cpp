@@ -23,7 +23,7 @@ class NumericMatrixConstruction : public ::testing::Test
 };
 TYPED_TEST_SUITE(NumericMatrixConstruction, numeric_elements);
 
-/** The fields that no constructor sets to anything else. */
+/** The fields that every constructor sets alike. */
 template <class T>
 void expectFreshSlots(const matrix<T>& m)
 {

@@ -38,9 +38,9 @@ TEST(TextMatrix, SourceCountsSayHowManyTextsAreRead)
     EXPECT_EQ(read(3, 2, 2, 1), (std::vector<text>{u"a", u"b", u"", u"", u"", u""}));
     EXPECT_EQ(read(3, 2, 0, 1), (std::vector<text>{u"a", u"b", u"c", u"", u"", u""}));
     EXPECT_EQ(read(3, 2, 2, 0), (std::vector<text>{u"a", u"b", u"c", u"d", u"", u""}));
-    // More texts than elements: the table takes what it can hold.
+    // More texts than elements: the table takes as many as it can hold.
     EXPECT_EQ(read(2, 1, 3, 2), (std::vector<text>{u"a", u"b"}));
-    // A product below 0 is no text at all.
+    // A product below 0 means no texts.
     EXPECT_EQ(read(2, 1, -1, 1), std::vector<text>(2));
     EXPECT_EQ(read(2, 1, 0, -2), std::vector<text>(2));
     EXPECT_EQ(read(2, 1, -1, -1), (std::vector<text>{u"a", u""}));
@@ -79,7 +79,7 @@ TEST(TextMatrix, AttachesACopyOfAHostArraysTexts)
             EXPECT_EQ(linear(m), (std::vector<text>{u"a", u"", u"", u"b"}));
             EXPECT_TRUE(watch.texts(3, 0));
         }
-        // Only the null place was filled; what reads the same keeps its pointer and its bytes.
+        // Only the null place was filled. A text that reads the same keeps its pointer and its bytes.
         EXPECT_TRUE(watch.texts(4, 0));
         EXPECT_EQ(array.elements<BSTR>()[0], first);
         EXPECT_EQ(array.elements<BSTR>()[3], last);

@@ -142,7 +142,7 @@ TEST(RecordColumn, EachRecordHasOneWriterAfterAVectorHasGrown)
         std::vector<cST_Vect<double>> held;
         for (ST_Vect& record : records) {
             held.emplace_back(&record);
-            // A write-back from an object that growth left behind would bring the old count back.
+            // A write-back by an object that was moved from when the vector grew would restore the old count.
             record.Count = -1;
             for (cST_Vect<double>& column : held) {
                 EXPECT_EQ(column.source->Count, -1);

@@ -224,8 +224,8 @@ TEST(SparseInverse, LeavesASmallResidual)
 
 TEST(SparseInverse, TakesTheLastOfEqualPivots)
 {
-    // Both rows are candidates of the same scaled size. With the last one on top the second pivot is
-    // 1 - 0.3 * 3 and not -(0.3 * 3 - 1) by way of 1/3, which differ in the last bits.
+    // Both rows are pivot candidates of the same scaled size. If the last one is taken, the second pivot is 1
+    // - 0.3 * 3 and not -(0.3 * 3 - 1) by way of 1/3, which differ in the last bits.
     const matrix<double> dense = tableOf({{1.0, 0.1}, {3.0, 3.0}});
     inversion outcome = invert(dense);
     ASSERT_EQ(outcome.status, 0);

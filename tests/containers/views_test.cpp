@@ -15,7 +15,7 @@ using korvel::writing;
 namespace
 {
 
-/** Stand-ins for the other forms: what a view needs of them is the shape alone. */
+/** Stand-ins for the other forms. A view needs only their shape. */
 struct chunk_table {
     std::vector<matrix<double>> chunks;
 };
@@ -105,7 +105,7 @@ protected:
     double spareOf(int form, int j) { return form == 0 ? dense.oobValue : chunk(form, j).oobValue; }
 };
 
-/** Adds up a column and tells which way it was reached. */
+/** Adds up a column and tells whether raw memory was used. */
 template <class Column>
 std::pair<double, bool> sumOf(const Column& column, int rows)
 {
@@ -271,7 +271,7 @@ TEST_F(Forms, TablesAreReachedInAnyOrder)
         EXPECT_SAME_BITS(view.get(2, 0), 4.0);
         EXPECT_SAME_BITS(spareOf(form, 1), 5.0);
         EXPECT_SAME_BITS(spareOf(form, 0), form == 0 ? 5.0 : 4.0);
-        // A row more than the table has goes to the spare slot alone.
+        // A row past the end goes only to the spare slot.
         transpose(storedCols, storedRows + 1, reading(in), view);
         EXPECT_SAME_BITS(view.get(0, 1), 1.0);
         EXPECT_SAME_BITS(view.get(2, 1), 5.0);

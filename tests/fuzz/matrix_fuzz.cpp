@@ -66,13 +66,13 @@ private:
     std::mt19937_64 engine_;
 };
 
-/** What a text looks like to one who stops at the first NUL. */
+/** A text up to its first NUL. */
 text cut(const text& value)
 {
     return value.substr(0, value.find(u'\0'));
 }
 
-/** What is known of an element; nothing after a block came fresh from the allocator. */
+/** What is known of an element: nothing when its block is fresh from the allocator. */
 template <class T>
 using known = std::optional<T>;
 
@@ -115,7 +115,7 @@ struct array_model {
         }
     }
 
-    /** What the death of a table of texts leaves in the array. */
+    /** What the destructor of a table of texts leaves in the array. */
     void writeBack(const std::vector<known<T>>& elements, std::size_t count)
     {
         for (std::size_t k = 0; k < std::min(count, length()); ++k) {
@@ -425,7 +425,7 @@ private:
         settle();
     }
 
-    /** Gives every element that the allocator left open a value, so that the next comparison can see it. */
+    /** Sets every element that the allocator left undefined, so that the next comparison includes it. */
     void settle()
     {
         for (std::size_t k = 0; k < model_.count(); ++k) {

@@ -48,7 +48,7 @@ matrix<double> transposed(const matrix<double>& x)
     return squareOf(x.nbrows, [&](int i, int j) { return x.getElement(j, i); });
 }
 
-/** Symmetric tables for the twins: positive definite, not quite so, and with odd cells. */
+/** Symmetric tables for the twins: positive definite, nearly so, and with odd cells. */
 matrix<double> symmetric(random_cells& cells, int n, odd_cells odd)
 {
     matrix<double> made = gramian(randomTable(cells, n, n + 2), 0.5);

@@ -191,7 +191,7 @@ TEST(CleanedCholesky, HasTheBitsOfThePlainLoopOnTheFreePart)
 namespace
 {
 
-/** The inverse in all four forms, which must agree, over a table of sevens. */
+/** The inverse in all four forms, which must agree. The result holds sevens before. */
 matrix<double> expectInverse(constraints fixed, const matrix<double>& H, int status)
 {
     const int n = H.nbrows;

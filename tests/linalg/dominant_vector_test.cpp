@@ -13,7 +13,7 @@ using namespace korvel::test;
 namespace
 {
 
-/** The plain steps; returns how many there were. */
+/** The plain steps. Returns how many it took. */
 int plainVonMises(const matrix<double>& A, std::vector<double>& x)
 {
     const std::size_t n = x.size();

@@ -238,7 +238,7 @@ TEST(G2Sweep, InvertsAsWellAsLapackAsks)
     for (const table_kind kind : tableKinds) {
         for (const int n : tableOrders) {
             if ((kind == table_kind::hilbert && n > 10) || kind == table_kind::random) {
-                continue; // cross products below stand for random tables
+                continue; // the cross products below replace random tables
             }
             matrix<double> A = madeTable(kind, n, generator);
             if (kind == table_kind::tiny || kind == table_kind::huge) {

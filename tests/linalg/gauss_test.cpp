@@ -74,7 +74,7 @@ TEST(Gauss, WithoutSwappingTakesTheDiagonalOfTheColumnThatItFinds)
     matrix<double> B(2, 1, 1.0);
     EXPECT_EQ(M_Gauss(&A, 2, 1, &B, true, false), -2)
         << "4 is found in the first column, whose diagonal is 0";
-    // 8 is the largest, but the diagonal of its column is 5: the same as the diagonal in order.
+    // 8 is the largest element, but the pivot is the diagonal of its column, 5, as without pivoting.
     A = tableOf({{5, 2}, {8, 4}});
     matrix<double> inOrder(A);
     matrix<double> C(2, 1, 1.0);
@@ -123,7 +123,7 @@ TEST(Gauss, KeepsTheFirstOfNearlyEqualElements)
 
 TEST(Gauss, TakesTheDiagonalInOrderWhereNoElementStandsOut)
 {
-    // All below 1e-12: 4e-13 would be the larger pivot, but it is not looked for.
+    // All are below 1e-12: 4e-13 would be the larger pivot, but no pivot is searched for.
     matrix<double> A = tableOf({{1e-13, 4e-13}, {3e-13, 1e-13}});
     matrix<double> twin(A);
     matrix<double> B(2, 1, 1.0);

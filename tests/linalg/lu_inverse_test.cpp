@@ -10,7 +10,7 @@ using namespace korvel::test;
 namespace
 {
 
-/** The status of a table, with a check that the error flag and the result go with it. */
+/** The status of a table, with a check that error flag and result agree with it. */
 int statusOf(matrix<double> A, double tolerance)
 {
     matrix<double> inverse(A.nbrows, A.nbrows, 9.0);
@@ -25,7 +25,7 @@ int statusOf(matrix<double> A, double tolerance)
     return status;
 }
 
-/** The table with numbers that do not compare in some cells. */
+/** Puts an infinity or a NaN into some cells of the table. */
 void spoil(random_cells& cells, matrix<double>& table)
 {
     for (int repeat = cells.integer(0, 3); repeat > 0 && table.nbElem != 0; --repeat) {

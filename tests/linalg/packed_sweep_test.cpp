@@ -21,7 +21,7 @@ matrix<double> packedOf(const matrix<double>& table)
     return packed;
 }
 
-/** Sweeps all pivots, and takes what comes out for the negative inverse. */
+/** Sweeps all pivots and expects the negative inverse. */
 double residualOfAllSweeps(const matrix<double>& table)
 {
     const int n = table.nbrows;

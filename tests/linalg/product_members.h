@@ -1,7 +1,7 @@
 /**
  * @file
- * Members of the product family beside their plain twins. Each test of a topic lists its own and calls for
- * the tests that every member passes: the same sizes, threads and instruction sets.
+ * Members of the product family beside their plain twins. The test of a topic lists its members and runs the
+ * tests that all share: sizes, threads and instruction sets.
  */
 #ifndef KORVEL_TESTS_LINALG_PRODUCT_MEMBERS_H
 #define KORVEL_TESTS_LINALG_PRODUCT_MEMBERS_H
@@ -163,8 +163,10 @@ private:
 
 constexpr std::array productSizes{0, 1, 2, 3, 5, 8, 9, 17, 64, 129};
 
-/** Calls `compare` for each combination of sizes that the member tells apart; of the largest ones, for those
- * with at most two of them. */
+/**
+ * Calls `compare` for each combination of sizes that matters to the member, but with at most two of the
+ * largest sizes at once.
+ */
 template <class Compare>
 void forProductSizes(const product_member& member, Compare compare)
 {
@@ -195,8 +197,10 @@ class ProductMember : public ::testing::TestWithParam<product_member>
 {
 };
 
-/** Further ones for those that take neither a list of columns, which must be there, nor a record, whose
- * columns have their own lengths. */
+/**
+ * Further tests, not for members that take a list of columns, which must exist, or a record, whose columns
+ * have their own lengths.
+ */
 class DenseProductMember : public ::testing::TestWithParam<product_member>
 {
 };

@@ -21,7 +21,7 @@ matrix<double> plainInverseOrZeros(const matrix<double>& B, int order)
     return inverse;
 }
 
-/** Whether all cells have the same bits. The spare slot has no meaning after a team's work. */
+/** Whether all cells have the same bits. The spare slot is not compared: several threads write to it. */
 bool sameCells(const matrix<double>& actual, const matrix<double>& expected)
 {
     return std::equal(actual.data, actual.data + actual.nbElem, expected.data,

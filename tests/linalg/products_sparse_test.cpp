@@ -46,7 +46,7 @@ matrixSparse tableOfRows(int cols, const entry_rows& rows)
     return m;
 }
 
-/** Row by row: terms are added to the column's sum, and the columns come out last touched first. */
+/** Row by row. Terms are added to the sum of their column, and the columns appear last touched first. */
 matrixSparse plainProduct(const matrixSparse& A, const matrixSparse& B, int cols)
 {
     const entry_rows right = rowsOf(B);
@@ -405,7 +405,7 @@ TEST(SparseProducts, OfNothingHaveNoEntries)
     for (const sparse_member& member : sparseMembers) {
         for (const counts sizes : {counts{0, 2, 2, 2}, counts{2, 0, 2, 2}, counts{2, 2, 0, 2},
                                    counts{2, 2, 2, 0}, counts{0, 0, 0, 0}}) {
-            // Tables that were never filled: there is nothing behind their arrays.
+            // Tables that were never filled, whose arrays are empty.
             matrixSparse tables[3];
             matrixSparse result = tableOfRows(3, {{{2, 4.0}}, {{0, 5.0}}});
             member.form(sizes, tables[0], tables[1], tables[2], result);

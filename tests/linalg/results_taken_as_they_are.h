@@ -1,6 +1,6 @@
 /**
  * @file
- * A check of members that do not clear their result.
+ * A check of members that neither resize nor clear their result.
  */
 #ifndef KORVEL_TESTS_LINALG_RESULTS_TAKEN_AS_THEY_ARE_H
 #define KORVEL_TESTS_LINALG_RESULTS_TAKEN_AS_THEY_ARE_H

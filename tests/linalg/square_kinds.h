@@ -1,8 +1,8 @@
 /**
  * @file
- * Square tables of the kinds that decompositions are tried on, and the size of what is left when the factors
- * are multiplied again: the largest column sum of it, in units of what rounding explains. LAPACK's own tests
- * (xCHKGE, xCHKPO) make such tables and let pass what is below 30.
+ * Kinds of square tables for testing decompositions, and the residual of the product of the factors: its
+ * largest column sum in units of rounding error. LAPACK's own tests (xCHKGE, xCHKPO) use such tables and
+ * accept residuals below 30.
  */
 #ifndef KORVEL_TESTS_LINALG_SQUARE_KINDS_H
 #define KORVEL_TESTS_LINALG_SQUARE_KINDS_H

@@ -401,8 +401,8 @@ TEST(SymmetricEigen, ATinyTableIsItsOwnTridiagonalForm)
 
 TEST(SymmetricEigen, ScaledResidualsAreThoseOfASoundMethod)
 {
-    // The thresholds are LAPACK's own: 30 for both. Only tables of tiny cells are out of reach of the bound
-    // for off-diagonal elements.
+    // The thresholds are LAPACK's own: 30 for both. Only tables of tiny cells cannot keep to them, because of
+    // the absolute bound for off-diagonal elements.
     for (const matrix_kind kind : allMatrixKinds) {
         for (const int n : matrixOrders) {
             SCOPED_TRACE(::testing::Message() << kind << " of order " << n);

@@ -13,7 +13,7 @@ using namespace korvel::test;
 namespace
 {
 
-/** A table of 5 by 2 in three forms; what is done to one is done to all. */
+/** A table of 5 by 2 in three forms, all changed alike. */
 struct in_three_forms {
     matrix<double> dense = columnTable(5, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
     matrix3D<matrix<double>> chunks = chunksOf<matrix<double>>(dense);

@@ -49,7 +49,7 @@ std::vector<T> spread(Insert insert, std::vector<T> cells, int n, flags flagged)
     return result;
 }
 
-/** Flags of which about `share` in ten are set, one behind the other more often than not. */
+/** Flags of which about `share` in ten are set, mostly in runs. */
 flags flagsOf(random_cells& cells, int n, int share)
 {
     flags made;

@@ -58,7 +58,8 @@ TEST(SortedInsertion, SortsFirstWhenAskedTo)
 
 TEST(SortedInsertion, WalksThroughAVectorThatIsNotSorted)
 {
-    // Each element below the value takes the one behind it, or the value where that one is not below.
+    // Each element below the value is replaced by the next one, or by the value when the next one is not
+    // below it.
     EXPECT_EQ(after(V_InsertValueLow, {1, 6, 2, 7}, 4, 0), (numbers{4, 6, 4, 7}));
     EXPECT_EQ(after(V_InsertValueUp, {1, 6, 2, 7}, 4, 0), (numbers{1, 4, 2, 4}));
     EXPECT_EQ(after(V_InsertValueLow, {3, 1, 2}, 2.5, 1), (numbers{3, 1, 2})) << "only -1 sorts";

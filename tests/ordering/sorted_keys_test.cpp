@@ -181,7 +181,7 @@ INSTANTIATE_TEST_SUITE_P(Threads, SortedKeys, ::testing::Values(1, 2, 3, 7));
 
 TEST(SortedKeysWithNaN, StayWhereNoComparisonMovesThem)
 {
-    // By insertion: no key is below the NaN, and the NaN is below none.
+    // Sorted by insertion: no key is below the NaN, and the NaN is below no key.
     const double keys[] = {3.0, std::numeric_limits<double>::quiet_NaN(), 1.0, 2.0};
     for (const bool descending : {false, true}) {
         const korvel::sorted_keys<double> sorted(4, descending, [&](std::int32_t k) { return keys[k]; });

@@ -1,6 +1,6 @@
-# Every header compiles alone: as C++, and those of the flat functions as strict C99 too. A header with a source of its
-# own is shown to by that source, which includes it first (tools/check_includes sees to that); each other one gets a
-# source here. They are built by a test, and again only where something has changed.
+# Every header compiles alone: as C++, and those of the flat functions as strict C99 too. The source of a header
+# includes it first (tools/check_includes holds that), which shows that the header compiles. Every other header gets a
+# source here. A test builds them, and again only what has changed.
 set(header_root ${KORVEL_PUBLIC_HEADERS}/korvelmathtools)
 set(source_root ${PROJECT_SOURCE_DIR}/src)
 
@@ -24,7 +24,7 @@ endfunction()
 
 set(umbrella KORVELMathTools.h)
 set(c_headers ${umbrella})
-# For Windows the system's own header takes seconds to read each time, and the one source that has them all will do.
+# For Windows one source includes them all, because the system's own header takes seconds to read.
 if(NOT WIN32)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${header_root}/${umbrella})
     file(STRINGS ${header_root}/${umbrella} flat_headers REGEX "^#include \"frames/")

@@ -1,6 +1,6 @@
-// A host that loads the library named on its command line, calls what forks a team, unloads it, and does all
-// that again: the waiting threads must find the code that they wait in. Exit code 0 when every result is
-// right.
+// A host that, three times over, loads the library named on its command line, calls a routine that starts
+// threads, and unloads the library. The waiting threads must still find their code. Exit code 0 if every
+// result is right.
 
 #include <chrono>
 #include <cstdio>

@@ -1,5 +1,5 @@
-// What the processor has, as the system tells it: kernel tests run for the sets that are found, so that one
-// that is overlooked would go untested.
+// Compares the instruction sets found with those that the system reports. Kernel tests run only for sets that
+// are found, so an overlooked one would go untested.
 
 #include "platform/cpu.h"
 
@@ -25,7 +25,7 @@ struct told_sets {
 
 #ifdef _WIN32
 
-/** From the processor itself, and from the register in which the system tells what it keeps. */
+/** From the processor itself, and from the register that tells which registers the system saves. */
 told_sets toldSets()
 {
     constexpr unsigned keepsRegisters = 1U << 27;

@@ -44,7 +44,7 @@ TEST(Memory, ThereIsAddressSpaceLeft)
     EXPECT_GT(availableAddressSpace(), megabyte);
 }
 
-// Wine answers with one figure for all time, so what the figure follows is tested off Windows.
+// Wine always answers with the same number, so changes of the number are tested off Windows only.
 #if !defined(_WIN32)
 
 TEST(Memory, ATakenBlockLeavesTheFreeAddressSpaceAndComesBack)
@@ -56,7 +56,7 @@ TEST(Memory, ATakenBlockLeavesTheFreeAddressSpaceAndComesBack)
     releasePages(block, 256 * megabyte);
     const std::uint64_t after = availableAddressSpace();
 
-    // Other threads and the C library take and give back a little meanwhile.
+    // Meanwhile other threads and the C library allocate and free a little.
     EXPECT_GE(before - during, 256 * megabyte - 16 * megabyte);
     EXPECT_LE(before - during, 256 * megabyte + 16 * megabyte);
     EXPECT_GE(after - during, 256 * megabyte - 16 * megabyte);
@@ -65,7 +65,7 @@ TEST(Memory, ATakenBlockLeavesTheFreeAddressSpaceAndComesBack)
 namespace
 {
 
-/** Sets how much address space the process may have, within what it may at most. */
+/** Limits the address space of the process, at most to its hard limit. */
 void limitAddressSpace(std::uint64_t bytes)
 {
     rlimit limit{};
@@ -84,7 +84,7 @@ std::uint64_t addressSpaceInUse()
     return std::min<std::uint64_t>(limit.rlim_cur, std::uint64_t{1} << 47) - availableAddressSpace();
 }
 
-/** Ends the process with 0 when a limit of the address space is what is told. */
+/** Ends the process with 0 if the answer is what the limit of the address space leaves. */
 [[noreturn]] void lookUnderALimit()
 {
     limitAddressSpace(addressSpaceInUse() + 128 * megabyte);
@@ -103,7 +103,7 @@ std::uint64_t addressSpaceInUse()
 
 } // namespace
 
-// Each look has a process of its own, whatever limit this one stands under.
+// Each case runs in a process of its own, so that its limit holds for nothing else.
 
 TEST(MemoryDeathTest, ALimitOfTheProcessCounts)
 {

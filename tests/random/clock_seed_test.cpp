@@ -24,7 +24,7 @@ SYSTEMTIME at(int year, int month, int day, int hour = 0, int minute = 0, int se
     return time;
 }
 
-/** What a time without an exact automation date gives: day 0 and -1 for each field. */
+/** The seed of a time without an exact automation date: day 0 and -1 for each field. */
 constexpr int unreadable = -1 + 100 * (100 * -1 + 0 - 1);
 
 class ClockSeed : public RandomState

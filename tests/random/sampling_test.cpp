@@ -41,7 +41,10 @@ matrix<text> numbered(int rows, int cols)
 
 constexpr int columns = 2;
 
-/** The table, the sample and the vector of row numbers of one call, filled with values that must not stay. */
+/**
+ * The table, the sample and the vector of row numbers of one call. The results are filled with values that
+ * must be overwritten.
+ */
 struct sampling_call {
     matrix<text> table;
     matrix<text> sample;
@@ -77,7 +80,7 @@ doubles asNumbers(const std::vector<int>& rows)
     return doubles(rows.begin(), rows.end());
 }
 
-/** `rows + 1` for the rows that are not taken, and what was there for the others. */
+/** `rows + 1` for the rows that are not taken, and the old values for the others. */
 doubles marks(int rows, const std::vector<int>& taken)
 {
     doubles expected(static_cast<std::size_t>(rows), rows + 1.0);
@@ -376,7 +379,7 @@ TEST_F(Sampling, StratifiedMayHaveAStratumMoreThatReachesBeyondTheTable)
         EXPECT_EQ(call.numbers(), asNumbers(rows));
         if (rows.back() > 14) {
             ++beyond;
-            // What the table reads there is the last text that was stored in it.
+            // A read there gives the last text stored into the table.
             EXPECT_EQ(call.sample.getElement(6, 0), call.table.oobValue);
         }
         EXPECT_EQ(call.next, source.nextSeed());

@@ -1,8 +1,8 @@
 /**
  * @file
- * Plain loops over the checked access, row after row: what merging, removing and the other ways of moving
- * blocks of cells do, with nothing done for speed. Rows and columns are counted from 1. A table is a dense
- * matrix, or an array of chunks; an index outside, a negative one too, reaches the spare slot.
+ * Plain twins of merging, removing and other ways of moving blocks of cells: loops over the checked access,
+ * row after row, with nothing done for speed. Rows and columns are counted from 1. A table is a dense matrix,
+ * or an array of chunks; an index outside, a negative one too, reaches the spare slot.
  */
 #ifndef KORVEL_TESTS_REFERENCE_BLOCK_MOVES_H
 #define KORVEL_TESTS_REFERENCE_BLOCK_MOVES_H
@@ -50,8 +50,8 @@ void store(matrix<T>** y, std::int64_t i, std::int64_t j, const T& value)
 }
 
 /**
- * The symmetric table that chunks hold from the diagonal down: chunk c its column c. What goes above the
- * diagonal is not stored.
+ * A symmetric table whose chunks hold it from the diagonal down: chunk c holds column c. Stores above the
+ * diagonal are dropped.
  */
 struct triangle {
     matrix<double>** chunks;
@@ -95,7 +95,7 @@ void vMerge(const A& a, int rowsA, int colsA, const B& b, int rowsB, int colsB, 
     copy(b, 1, 1, out, std::int64_t{rowsA} + 1, 1, rowsB, colsB);
 }
 
-/** Of `removed`, entry k says whether row k + 1 is left out. */
+/** `removed[k]` says whether row k + 1 is left out. */
 template <class T>
 void removeRows(const matrix<T>& x, int rows, int cols, const std::vector<bool>& removed, matrix<T>& out)
 {

@@ -1,7 +1,7 @@
 /**
  * @file
- * Plain loops over the checked access: products and sums of tables cell by cell, and what is summed over
- * them, with nothing done for speed.
+ * Plain twins of products and sums of tables cell by cell, and of sums over their cells: loops over the
+ * checked access, with nothing done for speed.
  */
 #ifndef KORVEL_TESTS_REFERENCE_CELL_PRODUCTS_H
 #define KORVEL_TESTS_REFERENCE_CELL_PRODUCTS_H

@@ -1,7 +1,7 @@
 /**
  * @file
- * Plain loops: the means and variances of columns, with nothing done for speed. Null flags and weights stand
- * for none.
+ * Plain twins of the means and variances of columns, with nothing done for speed. Null flags and weights mean
+ * none.
  */
 #ifndef KORVEL_TESTS_REFERENCE_COLUMN_MOMENTS_H
 #define KORVEL_TESTS_REFERENCE_COLUMN_MOMENTS_H
@@ -11,7 +11,7 @@
 namespace korvel::reference
 {
 
-/** What a column, or several taken as one sample, comes to. */
+/** The moments of a column, or of several columns taken as one sample. */
 class moments_of_column
 {
 public:

@@ -1,7 +1,7 @@
 /**
  * @file
- * Plain loops: covariance and correlation tables, with nothing done for speed. Null flags and weights stand
- * for none.
+ * Plain twins of covariance and correlation tables, with nothing done for speed. Null flags and weights mean
+ * none.
  */
 #ifndef KORVEL_TESTS_REFERENCE_COVARIANCE_H
 #define KORVEL_TESTS_REFERENCE_COVARIANCE_H
@@ -14,7 +14,7 @@
 namespace korvel::reference
 {
 
-/** What a pair of columns comes to over its common rows, as sums that are not divided yet. */
+/** The sums of a pair of columns over their common rows, not divided yet. */
 struct pair_sums {
     double s = 0.0;
     int c = 0;
@@ -89,7 +89,7 @@ struct covariance_table {
 
 /**
  * The table of a table of which cell (r, i) is `x(r, i)`.
- * @param isDefined when the product of two variances makes a correlation
+ * @param isDefined whether a product of two variances allows a correlation
  * @param afterColumn called after the pairs of each column
  */
 template <class X, class IsDefined, class AfterColumn>

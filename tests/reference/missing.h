@@ -24,7 +24,7 @@ inline bool isMissing(const text& cell)
     return cell.empty();
 }
 
-/** The test for flags: of numbers by order, so that it also finds those below the sentinel. */
+/** The test for flags. It compares numbers by order, so it also finds those below the sentinel. */
 inline bool isFlagged(double cell)
 {
     return cell <= MISSING_DBL;

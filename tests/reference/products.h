@@ -1,7 +1,7 @@
 /**
  * @file
- * Plain products: each formula as the loops that it names, one accumulator for each element, through the
- * checked access.
+ * Plain products: the loops of each formula, with one accumulator for each element, through the checked
+ * access.
  */
 #ifndef KORVEL_TESTS_REFERENCE_PRODUCTS_H
 #define KORVEL_TESTS_REFERENCE_PRODUCTS_H
@@ -178,7 +178,10 @@ inline void plainADiagVTrB(const matrix<double>& A, int n, int p, const matrix<d
               [&](int i, int j, int k) { return A.getElement(i, k) * d[k] * B.getElement(j, k); });
 }
 
-/** For each row i a row w of `middle` sums, and then a row of the result, or half of it and its mirror. */
+/**
+ * For each row i, forms a row w of sums of `middle`, and then a row of the result, or half a row and its
+ * mirror image.
+ */
 template <class First, class Second>
 void plainRows(int rows, int middle, int depth, int cols, bool symmetric, matrix<double>& C, First first,
                Second second)

@@ -1,7 +1,7 @@
 /**
  * @file
- * Plain loops: tables and vectors standardised, centred and brought to a range, with nothing done for speed.
- * Null flags, weights and results stand for none.
+ * Plain twins of standardising, centring and rescaling tables and vectors, with nothing done for speed. Null
+ * flags, weights and results mean none.
  */
 #ifndef KORVEL_TESTS_REFERENCE_STANDARDIZE_H
 #define KORVEL_TESTS_REFERENCE_STANDARDIZE_H
@@ -93,7 +93,7 @@ inline void standardize(matrix<double>& x, int rows, int cols, matrix<double>* o
     }
 }
 
-/** What becomes of a cell, given the mean and the deviation of its column. */
+/** The new value of a cell, given the mean and the deviation of its column. */
 using change = std::function<double(double x, double mean, double sd)>;
 
 inline double centred(double x, double mean, double)

@@ -1,7 +1,7 @@
 /**
  * @file
  * The plain symmetric eigen decomposition: the loops of the method on one table, counted from 1, element by
- * element. `put` says what becomes of a number that is stored in the table.
+ * element. `put` gives the number that is actually stored.
  */
 #ifndef KORVEL_TESTS_REFERENCE_SYMMETRIC_EIGEN_H
 #define KORVEL_TESTS_REFERENCE_SYMMETRIC_EIGEN_H

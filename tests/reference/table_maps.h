@@ -1,7 +1,7 @@
 /**
  * @file
- * Plain loops over the checked access: what is moved between tables and vectors, and the maps of cells and
- * rows, with nothing done for speed. `chunks` are reached by linear index, as column chunks are.
+ * Plain twins of moves between tables and vectors, and of the maps of cells and rows: loops over the checked
+ * access, with nothing done for speed. `chunks` are reached by linear index, as column chunks are.
  */
 #ifndef KORVEL_TESTS_REFERENCE_TABLE_MAPS_H
 #define KORVEL_TESTS_REFERENCE_TABLE_MAPS_H

@@ -1,6 +1,6 @@
 /**
  * @file
- * Plain loops: what the transposed tables hold, cell after cell in the order of the target's columns.
+ * Plain twins of transposing, cell after cell in the order of the target's columns.
  */
 #ifndef KORVEL_TESTS_REFERENCE_TRANSPOSE_H
 #define KORVEL_TESTS_REFERENCE_TRANSPOSE_H

@@ -1,7 +1,6 @@
 /**
  * @file
- * Plain loops: what the extremes compute, with nothing done for speed. Null flags
- * stand for none.
+ * Plain twins of the extremes, with nothing done for speed. Null flags mean none.
  */
 #ifndef KORVEL_TESTS_REFERENCE_VECTOR_EXTREMES_H
 #define KORVEL_TESTS_REFERENCE_VECTOR_EXTREMES_H
@@ -62,7 +61,7 @@ extremes allExtremes(const Cells& x, int n, bool passOverLeadingMissing)
     return extremesOf(x, first, n, [](int) { return true; });
 }
 
-/** The smallest element kept of `chunks[j][i]`, with which the first of all is compared whatever it is. */
+/** The smallest kept element of `chunks[j][i]`. The very first element always takes part. */
 template <class Chunks>
 double smallestOfChunks(const Chunks& chunks, int nChunks, int nPerChunk, const short int* flags)
 {
@@ -91,7 +90,7 @@ struct extreme_position {
     int pos;
 };
 
-/** The element that `replaces` those before it, starting from the first, with its position from 1. */
+/** The element that `replaces` all before it, starting with the first, and its position from 1. */
 template <class Cells, class Replaces>
 extreme_position withPosition(const Cells& x, int n, Replaces replaces)
 {

@@ -1,7 +1,7 @@
 /**
  * @file
- * Plain loops: what the sums and means compute, with nothing done for speed. Cells are whatever has `x[i]`: a
- * table with its checked access, or a pointer. Null flags and weights stand for none.
+ * Plain twins of the sums and means, with nothing done for speed. Cells are anything with `x[i]`: a table
+ * with its checked access, or a pointer. Null flags and weights mean none.
  */
 #ifndef KORVEL_TESTS_REFERENCE_VECTOR_SUMS_H
 #define KORVEL_TESTS_REFERENCE_VECTOR_SUMS_H
@@ -131,7 +131,7 @@ double frequency(const Cells& x, int n, const Weights& w, double value, double t
     return total;
 }
 
-/** How a mean ends when nothing can be divided by. */
+/** The result of a mean whose divisor is 0. */
 enum class no_mean_when { weight_is_zero, weight_is_not_positive };
 
 template <class Cells, class Term>

@@ -1,7 +1,6 @@
 /**
  * @file
- * Plain loops: what the variances and moments compute, with nothing done for speed.
- * Null flags and weights stand for none.
+ * Plain twins of the variances and moments, with nothing done for speed. Null flags and weights mean none.
  */
 #ifndef KORVEL_TESTS_REFERENCE_VECTOR_VARIANCE_H
 #define KORVEL_TESTS_REFERENCE_VECTOR_VARIANCE_H

@@ -151,7 +151,7 @@ TEST(Centering, WithoutTheSecondFlagItIsTrue)
                 << m.name << ": no difference for unit weights";
         }
     }
-    // What tells S - 1 from S - S/m for unit weights: nothing kept.
+    // With unit weights S - 1 and S - S/m differ only if no row is kept.
     for (const member& m : members) {
         if (!m.weighted && m.returnsStatistics) {
             EXPECT_TRUE(std::isnan(resultOf(m, columnTable(1, {none}), {1}, {-1, 0}).sds[0]));

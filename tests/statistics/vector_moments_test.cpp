@@ -111,7 +111,7 @@ TEST(VectorMoments, NothingKept)
     expectSameBits(unitMomentsOf(missing, {-1, 0}), {0.0, none, none, none, none, none, 0.0, 0.0});
     // 0 over -1: a variance of 0.
     expectSameBits(unitMomentsOf(missing, {-1, -1}), {0.0, -0.0, none, none, none, none, 0.0, 0.0});
-    // A flag that is neither -1 nor 0 lets 0 over 0 through.
+    // With a flag that is neither -1 nor 0, nothing prevents 0 over 0.
     expectSameBits(unitMomentsOf(missing, {1, 0}),
                    {0.0, notANumber, notANumber, notANumber, none, none, none, none});
 }

@@ -26,7 +26,7 @@ inline matrix<double> airQuality()
     return matrix<double>(airQualityRows, 4, cells.data(), false);
 }
 
-/** Each figure to 14 digits of the largest one that it could be mixed up with. */
+/** Compares each figure within 1e-14 of `scale`, the size of the largest figure that it is computed from. */
 inline void expectNear(const matrix<double>& found, const std::vector<double>& expected, double scale)
 {
     ASSERT_EQ(found.nbElem, expected.size());

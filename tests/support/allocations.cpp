@@ -46,7 +46,7 @@ allocation_limit::~allocation_limit()
 
 } // namespace korvel::test
 
-// All forms are replaced, since a sanitizer has its own of each one that is not.
+// All forms are replaced: a sanitizer would replace any form left out.
 void* operator new(std::size_t size)
 {
     if (made >= madeAtMost) {

@@ -9,7 +9,7 @@ namespace korvel::test
 /** How many blocks this thread has had from `operator new` since it started. */
 [[nodiscard]] std::int64_t allocationCount();
 
-/** How many bytes it has asked for in these blocks: no less than it ever had at once. */
+/** How many bytes it has asked for in all these blocks, an upper bound of what it had at once. */
 [[nodiscard]] std::int64_t bytesAllocated();
 
 /** How many of these blocks it has not given back. */

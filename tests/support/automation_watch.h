@@ -1,7 +1,7 @@
 /**
  * @file
- * What the automation library made and freed during a test. On Windows nobody counts, and every expectation
- * here holds.
+ * What the automation library made and freed during a test. On Windows nothing is counted, and every
+ * expectation here holds.
  */
 #ifndef KORVEL_TESTS_SUPPORT_AUTOMATION_WATCH_H
 #define KORVEL_TESTS_SUPPORT_AUTOMATION_WATCH_H

@@ -1,8 +1,8 @@
 /**
  * @file
  * Arrays of any element type as a caller has them, between guards, filled from and read as small whole
- * numbers: a number stands for itself, and for a text of its digits (0 for the empty text). So one table of
- * cases serves all forms of a function.
+ * numbers: a number means itself, or a text of its digits (0 the empty text). So one table of cases serves
+ * all forms of a function.
  */
 #ifndef KORVEL_TESTS_SUPPORT_CALLER_CELLS_H
 #define KORVEL_TESTS_SUPPORT_CALLER_CELLS_H
@@ -33,7 +33,7 @@ inline int codeOf(const std::u16string& value)
     return value.empty() ? 0 : std::stoi(std::string(value.begin(), value.end()));
 }
 
-/** What stands in the caller's block of a form: a number, or a BSTR. */
+/** The element of a caller's block: a number, or a BSTR. */
 using text_cell = OLECHAR*;
 
 /** What a cell outside of a table reads as. */

@@ -41,7 +41,7 @@ void fillRandomly(random_cells& cells, matrix<T>& table)
     table.oobValue = randomCell<T>(cells);
 }
 
-/** A table that is somewhat smaller or larger than `rows` by `cols`, or exactly as large. */
+/** A table of `rows` by `cols`, or somewhat smaller or larger. */
 template <class T>
 matrix<T> nearTable(random_cells& cells, int rows, int cols)
 {

@@ -31,7 +31,10 @@ inline double correctDigits(double value, double certified)
                : std::min(15.0, -std::log10(std::abs(value - certified) / std::abs(certified)));
 }
 
-/** A set, and how many digits of its certified mean and deviation are found: as measured, cut to a tenth. */
+/**
+ * A set, and how many digits of its certified mean and deviation the library reaches: as measured, cut to a
+ * tenth.
+ */
 struct measured_digits {
     const char* set;
     double meanByUpdates;

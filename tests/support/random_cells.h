@@ -1,7 +1,7 @@
 /**
  * @file
- * Vectors of random cells for comparing a routine with its plain twin: ordinary numbers, and among them
- * whatever could go a way of its own.
+ * Vectors of random cells for comparing a routine with its plain twin: ordinary numbers, and among them odd
+ * ones that a routine may treat specially.
  */
 #ifndef KORVEL_TESTS_SUPPORT_RANDOM_CELLS_H
 #define KORVEL_TESTS_SUPPORT_RANDOM_CELLS_H
@@ -19,7 +19,7 @@
 namespace korvel::test
 {
 
-/** What stands among the ordinary numbers. */
+/** The odd cells among the ordinary numbers. */
 enum class odd_cells { none, missing, missing_and_zeros, all };
 
 /** The same cells on every system for the same seed. */

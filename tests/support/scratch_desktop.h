@@ -1,7 +1,7 @@
 /**
  * @file
- * A desktop with the folder that dump files go to. Off Windows it is a scratch folder; on Windows it is the
- * user's own, where nothing is touched but files of the test.
+ * A desktop with the folder that dump files go to. Off Windows it is a scratch folder. On Windows it is the
+ * user's own, and only files of the test are touched.
  */
 #ifndef KORVEL_TESTS_SUPPORT_SCRATCH_DESKTOP_H
 #define KORVEL_TESTS_SUPPORT_SCRATCH_DESKTOP_H

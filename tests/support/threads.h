@@ -15,7 +15,7 @@
 namespace korvel::test
 {
 
-/** More threads than any other test asks for, so that a runtime keeps no idle ones that would do. */
+/** More threads than any other test asks for, so that a runtime cannot have enough idle ones. */
 inline constexpr int threadsToOffer = 24;
 
 /** How many threads `call` starts when OpenMP may use `threadsToOffer`. */
@@ -26,7 +26,7 @@ std::ptrdiff_t threadsStartedBy(Call call)
         return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
     };
     std::ptrdiff_t started = 0;
-    // The team of a thread that is new has no members yet, and those that it gets stay as long as it runs.
+    // A new thread has no team yet, and the members that it gets stay as long as it runs.
     std::thread caller([&] {
         omp_set_num_threads(threadsToOffer);
         const auto before = count();

@@ -21,8 +21,10 @@ std::vector<bool> listed(int n, const List& list)
     return removed;
 }
 
-/** Columns below `k` stay where they are, and those above it move left by one: out of the table for one that
- * has no place there. */
+/**
+ * Columns below `k` stay, and those above it move left by one. A column that has no place there moves out of
+ * the table.
+ */
 void plainRemoveCol(const matrix<double>& x, int rows, int cols, int k, matrix<double>& out)
 {
     for (int i = 1; i <= rows; ++i) {
@@ -50,7 +52,7 @@ int countOf(const std::vector<bool>& flags)
     return static_cast<int>(std::count(flags.begin(), flags.end(), true));
 }
 
-/** The rows below the run move up one place at a time; x is read and written through its own spare slot. */
+/** The rows below the run move up one place at a time. Reads and writes outside reach the spare slot of x. */
 template <class T>
 void plainRemoveRows2(matrix<T>& x, int rows, int cols, int first, int last)
 {
@@ -121,7 +123,7 @@ TEST(TableRemove, TheLastStoreIsThatOfTheLastRow)
     matrix<double> single(1, 3, 0.0);
     M_RemoveRow(&x, 2, 3, 2, &single);
     EXPECT_EQ(single.oobValue, 5.0);
-    // Column 4 is none of the table's: the last column finds no place but the spare slot.
+    // The table has no column 4: the last column can only go to the spare slot.
     M_RemoveCol(&x, 2, 3, 4, &out);
     EXPECT_EQ(out.oobValue, 6.0);
     EXPECT_EQ(std::vector<double>(out.data, out.data + 4), (std::vector<double>{1, 2, 3, 4}));

@@ -1,4 +1,5 @@
-// Routines whose tables may be one table, or share its block: the cells read are those that it held before.
+// Routines whose tables may be the same table, or share its block: cells are read as they were before the
+// call.
 
 #include "containers/element_types.h"
 #include "support/bits.h"

@@ -89,7 +89,7 @@ void expectTwin()
     random_cells cells(1, odd_cells::all);
     for (const auto& [rows, cols] : shapes<To>()) {
         const auto x = randomCells<From>(cells, rows, cols);
-        // From a table that is larger already, smaller, and another shape of the same size.
+        // Into a table that is larger, smaller, or of another shape with the same size.
         for (const int extra : {-1, 0, 3}) {
             matrix<To> y(std::max(cols + extra, 0), std::max(rows, 1), korvel::test::element<To>(7));
             matrix<To> expected(y);

@@ -19,8 +19,8 @@
  * @param a    reference to the host array of records, which may be null or have no block
  * @param n    number of records; below 0 as 0
  * @param rows rows of each chunk
- * @param cols columns of each chunk. 0 stands for one column in a triangular table: every chunk made has one
- * row less than the one made before it
+ * @param cols columns of each chunk; 0 for a triangular table, in which each chunk made has one column, and
+ *             one row less than the chunk made before it
  * @return a new array of `n` pointers to chunks that borrow the columns' blocks. A record without a numeric
  * column, or whose column has no block, leaves a null pointer, and does not lower the number of rows
  * @throws std::bad_alloc when memory is short; the array and the chunks made until then are not released
@@ -34,8 +34,8 @@ KORVEL_API matrix<double>** LoadHostarray(Hostarray** a, int n, int rows, int co
 KORVEL_API matrix<text>** LoadHostarrayStr(Hostarray** a, int n, int rows, int cols);
 
 /**
- * Puts the texts of chunks back into the columns that they were loaded from. A BSTR that reads the same stays
- * as it is.
+ * Writes the texts of chunks back to the columns that they were loaded from. A BSTR that reads the same is
+ * not replaced.
  *
  * @param chunks  `n` chunks; not null for a record that has a text column with a block
  * @param n       number of records

@@ -1,7 +1,7 @@
 /**
  * @file
- * Tables whose columns are separate chunks, held by value behind virtual accessors: a routine that goes
- * through the accessors serves any layout of chunks. Routines on hot paths take a view of the chunks instead.
+ * Tables whose columns are separate chunks, held by value behind virtual accessors. A routine that uses the
+ * accessors serves any layout of chunks. Routines on hot paths take a view of the chunks instead.
  *
  * The number of a chunk is not checked. The number of an element is checked, unsigned and from 0, against the
  * count of its own chunk, as `matrix` does it: a read outside gives that chunk's `oobValue`, and a store
@@ -17,7 +17,7 @@
 #include <concepts>
 #include <vector>
 
-/** What both layouts have in common. Which index is the chunk's is the layout's choice. */
+/** The common base of both layouts. The layout decides which index is the chunk's. */
 template <class M>
 class matrix3DBase
 {

@@ -14,8 +14,8 @@
  *
  * @param rowFrom,rowTo       first and last row of the source, from 1
  * @param colFrom,colTo       first and last column of the source, from 1
- * @param outRows,outCols     size of the block that is written; a cell of it that the source does not fill is
- * 0.0, and a source cell that lies outside it is read but not kept
+ * @param outRows,outCols     size of the block that is written. Its cells that the source does not fill are
+ *                            0.0; source cells outside it are read but not kept
  * @param rowOffset,colOffset row and column of the target at which the block begins, from 1
  * @param src                 the texts; a cell outside the table counts as empty
  * @param decimalSep          its first character is the decimal separator
@@ -29,13 +29,13 @@ KORVEL_API int Convert_MVectStrToMVectDbl_ST(int rowFrom, int rowTo, int colFrom
                                              std::basic_string<char16_t> decimalSep, cST_MVect<double>& dst);
 
 /**
- * Turns a block of numbers into texts without decimals, rounded half to even. A missing number, which is not
- * treated apart, becomes "-2e+308".
+ * Turns a block of numbers into texts without decimals, rounded half to even. A missing number gets no
+ * special treatment and becomes "-2e+308".
  *
  * @param rowFrom,rowTo       first and last row of the source, from 1
  * @param colFrom,colTo       first and last column of the source, from 1
- * @param outRows,outCols     size of the block that is written; a cell of it that the source does not fill is
- * empty, and a source cell that lies outside it is not kept
+ * @param outRows,outCols     size of the block that is written. Its cells that the source does not fill are
+ *                            empty; source cells outside it are not kept
  * @param rowOffset,colOffset row and column of the target at which the block begins, from 1
  * @param src                 the numbers; a cell outside the table reads as -1 (or the column's `oobValue`)
  * @param dst                 receives the block, and in `CLabels` the label of each source column at its

@@ -10,7 +10,7 @@
 #include "platform/export.h"
 
 /**
- * Copies a table, block by block and without any check.
+ * Copies a table, column by column and without any check.
  *
  * @param src the first `src.nbrowsmax` elements of each of its `src.nbcols` columns are read
  * @param dst receives them; it must have as many columns with room for as many elements
@@ -27,7 +27,7 @@ KORVEL_API void MV_DuplicateMVect(cST_MVect<double>& src, cST_MVect<double>& dst
  * @param src the table read; an element that a column does not have reads as its `oobValue`
  * @param dst receives the elements; one for which there is no room goes to the column's `oobValue`
  *
- * A column that a table does not have, though its `nbcols` says so, counts as a column without elements.
+ * A column that `nbcols` counts but the table does not have is a column without elements.
  */
 KORVEL_API void M_DuplicateMVDblTriang_ST(cST_MVect<double>& src, cST_MVect<double>& dst);
 

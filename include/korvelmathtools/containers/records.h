@@ -32,7 +32,7 @@ inline constexpr short int recordKind = std::same_as<T, double> ? 1
 
 } // namespace korvel
 
-/** What can write itself as JSON. */
+/** The base of all classes that write themselves as JSON. */
 class JsonMakerBase
 {
 public:
@@ -130,7 +130,8 @@ public:
 
     /**
      * An object with "CLabels", "Vectors" (an array of the columns), "nbcols", "nbrowsmax", "samenbrows" (a
-     * number), "nbrows" and "bTriangular". What is empty of "CLabels", "Vectors" and "nbrows" is left out.
+     * number), "nbrows" and "bTriangular". "CLabels", "Vectors" and "nbrows" are left out when they are
+     * empty.
      */
     KORVEL_API void writeJson(JsonMaker& writer, const std::string& key) override;
 };

@@ -14,9 +14,9 @@
 #include <vector>
 
 /**
- * The magnitude at which a value becomes a zero. Three tests use it, and they part at the number itself:
- * `setElement` and `vbset` drop `|v| < SPARSE_ZERO`; a load keeps `|x| > SPARSE_ZERO`; a filled table counts
- * `|value| <= SPARSE_ZERO` as empty. So a NaN is stored by the first and the last and dropped by a load.
+ * The magnitude below which a value counts as zero. Three tests use it, and they differ at the number itself
+ * and at a NaN. `setElement` and `vbset` drop `|v| < SPARSE_ZERO`. A load keeps `|x| > SPARSE_ZERO`. A filled
+ * table has no entries when `|value| <= SPARSE_ZERO`. So a load drops a NaN, and the others store it.
  */
 inline constexpr double SPARSE_ZERO = 1e-18;
 
@@ -146,10 +146,10 @@ public:
      *
      * @param rows        number of rows of the block; rows that the table does not have are empty
      * @param cols        number of columns of the block
-     * @param colEmpty    receives `cols` flags, true but for the columns of the block's entries. With c an
-     *                    entry's column less `colOffset`, the flag of c is cleared when c is below `cols` and
-     *                    not below `colOffset`: the shifted column is held against the unshifted offset, so
-     *                    the first `colOffset` columns of a shifted block always look empty
+     * @param colEmpty    receives `cols` flags, all true except those that an entry clears. An entry in
+     *                    column j clears flag c = j - `colOffset` when `colOffset` <= c < `cols`. The shifted
+     *                    column is compared with the unshifted offset, so the first `colOffset` columns of a
+     *                    shifted block always count as empty
      * @param rowEmpty    receives `rows` flags: true when the row has no entries in any column of the table
      * @param rowDiagOnly receives, when `rows` equals `cols`, `rows` flags: true when the row has exactly one
      *                    entry and its column is the row's own number in the table. When they differ it

@@ -51,8 +51,8 @@ KORVEL_API void unloadSuperMat(matrix<double>** m, double* flat, int n, int rows
 KORVEL_API void unloadSuperMat(matrix<text>** m, OLECHAR** flat, int n, int rows, int cols);
 
 /**
- * `unloadSuperMat` to integers, without the fraction. A missing number becomes 0, not the missing integer;
- * any other number that no `int` holds, and a NaN, becomes -2147483648.
+ * `unloadSuperMat` to integers, without the fraction. A missing number becomes 0, not the missing integer; a
+ * NaN and any other number that no `int` holds become -2147483648.
  */
 KORVEL_API void unloadSuperMatLng(matrix<double>** m, int* flat, int n, int rows, int cols);
 

@@ -11,8 +11,8 @@
 /**
  * Marks a range of elements.
  *
- * @param out   receives 0 in its first `n` elements, and then 1 at positions `first..last`, as far as it has
- *              them; what it does not have goes to its `oobValue`
+ * @param out   receives 0 in its first `n` elements, and then 1 at positions `first..last`. Elements that it
+ *              does not have go to its `oobValue`
  * @param n     number of elements
  * @param first first position to mark, from 1
  * @param last  last position to mark, included; below `first` none is marked

@@ -2,9 +2,9 @@
  * @file
  * Random permutations.
  *
- * From the last place down, each element changes places with one that is drawn. The draw runs over all places
- * at every step and not over those that are left, so this is not the unbiased scheme of Fisher and Yates:
- * some permutations come more often than others.
+ * From the last place down, each element is exchanged with a drawn one. Every draw is over all places, not
+ * only over those that are left. So this is not the unbiased scheme of Fisher and Yates: some permutations
+ * occur more often than others.
  */
 #ifndef KORVEL_RANDOM_PERMUTATION_H
 #define KORVEL_RANDOM_PERMUTATION_H
@@ -27,8 +27,8 @@ namespace korvel
  * @param nextSeed receives what `GetSeedUpdate` gives
  *
  * The source is started from the seed in every case, so that the seed handed back repeats the permutation.
- * Under MT19937 about half the draws are negative: such a place is outside the vector, and the exchange is
- * with its `oobValue`.
+ * Under MT19937 about half the draws are negative. Such a place is outside the vector, and the element is
+ * exchanged with `oobValue`.
  */
 template <class T>
 void random1toN(matrix<T>& out, int n, short int bReset, int* seed, short int* flag, int* nextSeed);

@@ -39,8 +39,8 @@ struct CRand {
 /**
  * The next raw number of the selected generator.
  *
- * @return combined generator (L'Ecuyer 1988): 1 to 2147483562; with both states 0 it is seeded from the clock
- * first. MT19937: the 32-bit output read as a signed number
+ * @return combined generator (L'Ecuyer 1988): 1 to 2147483562; if both states are 0, it is seeded from the
+ * clock first. MT19937: the 32-bit output read as a signed number
  */
 KORVEL_API int RandomInt();
 
@@ -78,8 +78,8 @@ KORVEL_API int RandomIntUniform(int a, int b);
 KORVEL_API void GetSeed(int* seed, short int* flag);
 
 /**
- * As `GetSeed`, but without a seed given it takes the clock in every case, and MT19937, when selected, is
- * seeded from s1 in every case.
+ * Like `GetSeed`, but if no seed is given it always takes the clock, and it always seeds MT19937 from s1 when
+ * that is selected.
  *
  * @param seed in: the seed, when `*flag` is not 0. Out: the seed taken from the clock, when `*flag` was 0
  * @param flag in: 0 when no seed is given. Out: -1 in that case, otherwise unchanged

@@ -25,8 +25,8 @@ KORVEL_API void M_GenerateRandom01(matrix<double>& out, int rows, int cols, int*
                                    int* nextSeed);
 
 /**
- * The same with each draw truncated toward zero: every cell is 0, but for the ends -1 and 1 of MT19937's
- * range.
+ * The same with each draw truncated toward zero. Every cell is 0, except where MT19937 draws -1 or 1, the
+ * ends of its range.
  *
  * @param out      the table, `rows` by `cols`, already sized
  * @param rows     number of rows; below 1 nothing is drawn

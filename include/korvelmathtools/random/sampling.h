@@ -3,8 +3,8 @@
  * Samples of the rows of a table of texts.
  *
  * A table is a `matrix`, or an array of one-column chunks in the routines named SPV. `sample` receives the
- * sampled rows, one below the other; the caller has sized it. A row or an element that a table does not have
- * is written to its `oobValue`, and reads as that or, before the first row, as the empty text.
+ * sampled rows, one below the other; the caller has sized it. Writes outside a table go to its `oobValue`,
+ * and reads outside give `oobValue`, or the empty text before the first row.
  */
 #ifndef KORVEL_RANDOM_SAMPLING_H
 #define KORVEL_RANDOM_SAMPLING_H
@@ -94,14 +94,14 @@ KORVEL_API void M_SamplingSystematicCenteredSPV(matrix<text>** table, int rows, 
 
 /**
  * One random row from each stratum of consecutive rows. With step s and span m as for the systematic sample,
- * the strata are centred at rows c = floor((m + 1) / 2), c + s, ... up to `rows`. Each is `m` rows long, so
- * strata overlap where m is above s, and the last may reach beyond the table.
+ * the strata are centred at rows c = floor((m + 1) / 2), c + s, ... up to `rows`. Each has `m` rows, so
+ * strata overlap if m is above s, and the last one may reach beyond the table.
  *
  * @param table    `rows` by `cols`
  * @param rows     its rows
  * @param cols     its columns
- * @param k        number of strata that step and span are made for; there may be more. A step below 1, as
- *                 from a `k` of 1 or one above the number of rows, makes one stratum
+ * @param k        number of strata from which step and span are computed; there may be more. A step below 1,
+ *                 from a `k` of 1 or above the number of rows, makes one stratum
  * @param sample   receives the row of each stratum
  * @param selected receives the row number, from 1, of each row of the sample
  * @param seed     in: the seed, when `flag` is not 0. Out: the seed in use, when `flag` is 0
@@ -123,7 +123,7 @@ KORVEL_API void M_SamplingRandomStratifiedSPV(matrix<text>** table, int rows, in
  * @param table    `rows` by `cols`
  * @param rows     its rows; below 1 nothing is done
  * @param cols     its columns
- * @param k        size of the whole sample: what the strata have beyond it is drawn but not stored
+ * @param k        size of the whole sample; rows beyond it are drawn but not stored
  * @param sample   receives the rows, stratum after stratum in ascending order of the labels, in each in row
  *                 order
  * @param strata   `rows` labels, in any order

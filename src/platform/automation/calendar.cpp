@@ -18,7 +18,7 @@ constexpr double dayNumber(sys_days day)
     return static_cast<double>((day - dayZero).count());
 }
 
-/** The year that a year of one or two digits stands for. */
+/** The full year meant by a year of one or two digits. */
 int fullYear(int written)
 {
     if (written < 50) {
@@ -50,7 +50,7 @@ extern "C" int SystemTimeToVariantTime(SYSTEMTIME* moment, double* date)
 
 extern "C" int VariantTimeToSystemTime(double date, SYSTEMTIME* moment)
 {
-    // Compared as doubles, so that neither a NaN nor a huge date reaches the conversion to a day.
+    // The bounds are compared as doubles: a NaN or a huge date must not be converted to an integer.
     const double day = std::trunc(date);
     if (!(day >= dayNumber(firstDay) && day <= dayNumber(lastDay))) {
         return 0;

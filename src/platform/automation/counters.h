@@ -1,7 +1,7 @@
 /**
  * @file
- * What the automation library of systems other than Windows lets a test see: how many texts, blocks and
- * arrays are alive, and a way to make the next allocations fail.
+ * What tests may ask of the automation library on systems other than Windows: how many texts, blocks and
+ * arrays are alive, and to make later allocations fail.
  */
 #ifndef KORVEL_PLATFORM_AUTOMATION_COUNTERS_H
 #define KORVEL_PLATFORM_AUTOMATION_COUNTERS_H
@@ -26,8 +26,10 @@ typedef struct KorvelAutomationCounters {
 /** Reads the totals. */
 KORVEL_AUTOMATION_API void KorvelReadAutomationCounters(KorvelAutomationCounters* counters);
 
-/** Lets `allowed` further texts, blocks and arrays be made, then refuses every one; a negative number lifts
- * that. */
+/**
+ * Allows `allowed` further texts, blocks and arrays, and refuses all later ones. A negative number removes
+ * the limit.
+ */
 KORVEL_AUTOMATION_API void KorvelLimitAutomationAllocations(int64_t allowed);
 
 /** Copies the last debugger line into `line`, cut to `size` bytes with its NUL; empty when there was none. */

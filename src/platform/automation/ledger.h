@@ -13,7 +13,7 @@ struct tally {
     std::atomic<std::int64_t> freed{0};
 };
 
-/** The running account behind the counters. */
+/** The totals behind the counters. */
 struct ledger {
     tally texts;
     tally blocks;

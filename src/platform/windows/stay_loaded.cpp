@@ -1,6 +1,6 @@
-// The threads of a team wait in the library's own code for the next call, long after a call has returned. A
-// host that unloads the library would take that code from under them, so the library stays until the process
-// ends. Elsewhere the linker marks it so.
+// After a call has returned, the threads of its team wait for the next call in the library's own code. They
+// would crash if a host unloaded the library, so it stays loaded until the process ends. On other systems a
+// linker flag does the same.
 
 #include <windows.h>
 

@@ -21,7 +21,7 @@ TEST(FlatDeterminants, OfATable)
 
 TEST(FlatDeterminants, TellOverflow)
 {
-    // The logarithm is never asked for by this way.
+    // This way never computes the logarithm.
     guarded<double> a{-1e300, 0, 0, 1e300};
     guarded<short int> error{9};
     EXPECT_SAME_BITS(VB_M_Determinant(a.data(), 2, error.data()), 1.79769313486231e308);

@@ -106,7 +106,7 @@ inputs placesOf(std::vector<guarded<double>>& tables)
     return places;
 }
 
-/** The array after the result went over it: a vector leaves what stood beyond it. */
+/** The array after the result was written over it. A vector leaves the cells beyond it unchanged. */
 std::vector<double> overwritten(std::vector<double> array, const std::vector<double>& result)
 {
     for (std::size_t c = 0; c < array.size(); ++c) {
@@ -117,7 +117,7 @@ std::vector<double> overwritten(std::vector<double> array, const std::vector<dou
     return array;
 }
 
-/** Far more cells than are laid out anew at once, and a few. */
+/** Far more cells than are packed at once, and a few. */
 constexpr std::array sizes{3, 270};
 
 } // namespace

@@ -86,7 +86,7 @@ TEST(FlatDeviations, WinsorizingPullsInTheTails)
     EXPECT_EQ(Cpp_V_Winsorize2(x.data(), 6, 0.4, 0.8), 0);
     EXPECT_EQ(valuesOf(x), (doubles{2, 2, 3, 4, MISSING_DBL, 4}));
 
-    // Both bounds come from the data as it was, and what was raised is not lowered again.
+    // Both bounds come from the original data, and a raised element is not lowered again.
     guarded<double> crossed{1, 2, 3, 4, 5};
     EXPECT_EQ(Cpp_V_Winsorize2(crossed.data(), 5, 1.0, 0.0), 0);
     EXPECT_EQ(valuesOf(crossed), (doubles{5, 5, 5, 5, 1}));

@@ -126,19 +126,20 @@ TEST(FlatQuantiles, WeightedComparesItsShareExactly)
 
 TEST(FlatQuantiles, WeightedWithOddWeights)
 {
-    // A missing weight is left out of the total of 4, and takes the sum below the target of 2 to the end.
+    // A missing weight is left out of the total of 4. But it is added to the running sum, which therefore
+    // never reaches the target of 2.
     guarded<double> x{1, 2, 3, 4};
     guarded<double> w{1, MISSING_DBL, 1, 2};
     EXPECT_SAME_BITS(VB_V_QuantileW(x.data(), 4, w.data(), 0.5), 4.0);
 
-    // A target of -1 is passed, and one of 0 hit, before the first element: there a read gives -1.
+    // A target of -1 is passed, and a target of 0 met, before the first element. A read there gives -1.
     guarded<double> two{1, 2};
     guarded<double> negative{1, -3};
     EXPECT_SAME_BITS(VB_V_QuantileW(two.data(), 2, negative.data(), 0.5), -1.0);
     guarded<double> none{1, -1};
     EXPECT_SAME_BITS(VB_V_QuantileW(two.data(), 2, none.data(), 0.5), 0.0);
 
-    // Weight on a missing element alone is none.
+    // If only a missing element has weight, there is none.
     guarded<double> missing{MISSING_DBL, 5, 7};
     guarded<double> onlyThere{1, 0, 0};
     EXPECT_SAME_BITS(VB_V_QuantileW(missing.data(), 3, onlyThere.data(), 1.0), MISSING_DBL);

@@ -91,7 +91,8 @@ TEST(FlatRanks, HeavyElementsCountAsGroupsUnlessTied)
 
 TEST(FlatRanks, TheFirstGroupLooksAtTheFirstTwoElementsWhateverIsMissing)
 {
-    // Sorted: missing, missing, 4 (weight 3), 6. The first two are equal, so the heavy 4 opens no group.
+    // Sorted: missing, missing, 4 (weight 3), 6. The first two are equal, so the 4 with its weight of 3
+    // starts no group.
     guarded<double> x{MISSING_DBL, MISSING_DBL, 4, 6};
     guarded<double> w{1, 1, 3, 1};
     guarded<double> ranks{0, 0, 0, 0};

@@ -31,7 +31,7 @@ int clockSeedOf(std::time_t moment)
     return local.tm_sec + 100 * (100 * local.tm_hour + days + local.tm_min);
 }
 
-/** In a process where nothing has been drawn yet: 0 when the source is as loading leaves it. */
+/** For a process that has drawn nothing yet. Returns 0 if the source is as loading leaves it. */
 int checkFreshLibrary()
 {
     int seed = 0;
@@ -62,7 +62,7 @@ int checkFreshAlgorithm()
 
 } // namespace
 
-// A death test of this style starts the program anew, so that the library is loaded anew too.
+// A death test of this style restarts the program and so loads the library again.
 TEST(FreshRandomSourceDeathTest, HasAClockSeedAndTheDefaultTwister)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");

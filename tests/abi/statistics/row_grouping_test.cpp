@@ -53,7 +53,7 @@ TEST(FlatGroupBy, EveryMethodAggregatesTheRunsOfTheKey)
         EXPECT_EQ(result.cells[10], 5.0);
         EXPECT_EQ(result.cells[11], 7.0);
     }
-    // The median of 4 and a missing value, which takes part as the smallest number.
+    // The median of 4 and a missing value, which counts as the smallest number.
     EXPECT_EQ(groupBy(2).cells[5], 0.5 * MISSING_DBL + 0.5 * 4.0);
 }
 

@@ -1,4 +1,4 @@
-// A caller's arrays may share memory: what a function reads is read as it was before the call.
+// A caller's arrays may share memory: a function reads them as they were before the call.
 #include "containers/missing.h"
 #include "korvelmathtools/KORVELMathTools.h"
 #include "support/caller_memory.h"

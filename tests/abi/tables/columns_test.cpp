@@ -60,7 +60,7 @@ struct part_case {
     codes expected; // of a table of 2 by 2 of 70
 };
 
-/** What is read outside stands as 99 here. */
+/** A read outside gives 99 here. */
 const std::vector<part_case> partCases{
     {"two rows", 2, 2, 3, 1, 2, {70, 70, 22, 23}},
     {"one row", 1, 3, 3, 2, 1, {70, 13, 70, 70}},

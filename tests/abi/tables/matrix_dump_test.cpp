@@ -95,7 +95,7 @@ void writesNothingWithoutTheFolder(scratch_desktop& desktop)
 
 } // namespace
 
-// One test, since all of it goes to one folder.
+// A single test, because all dumps go to one folder.
 TEST(FlatMatrixDump, WritesFilesOnTheDesktop)
 {
     scratch_desktop desktop;

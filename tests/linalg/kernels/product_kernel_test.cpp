@@ -1,6 +1,6 @@
-// The product kernel by itself, of each instruction set, beside one plain loop: random counts around each
-// tile, panel and threshold, both ways to sum each operand, columns in one block and in a list, factors,
-// halves, sums that start from the result, products that are subtracted.
+// The product kernel of each instruction set beside a plain loop. Random counts around each tile, panel and
+// threshold; operands summed along rows and along columns; columns in one block and in a list; factors;
+// halves; sums that start from the result; products that are subtracted.
 
 #include "linalg/kernels/product.h"
 
@@ -85,7 +85,7 @@ std::vector<index> edgesOf(const kernels::product_kernel& kernel)
             edges.tileRows / 2};
 }
 
-/** A count just below, at or just above an edge, or of the next multiple of it. */
+/** A count just below, at or just above an edge or a multiple of it. */
 index countAtEdge(std::mt19937_64& random, const kernels::product_kernel& kernel)
 {
     const std::vector<index> edges = edgesOf(kernel);
@@ -165,7 +165,7 @@ protected:
             }
         }
         const std::size_t size = kernel_.scratchSize(form);
-        // One double past an even place, so that no alignment is taken for granted.
+        // Offset by one double, so that no kernel may rely on alignment.
         std::vector<double> scratch(size + 2, 1234.5);
         kernel_.multiply(form, scratch.data() + 1);
         EXPECT_EQ(scratch.front(), 1234.5);
@@ -177,7 +177,7 @@ protected:
     }
 };
 
-/** What of a product is kept, where it starts and how its terms are made: by chance. */
+/** A random choice of the part that is kept, of the start of the sums and of the terms. */
 void chooseOptions(kernels::product& form, std::mt19937_64& random)
 {
     form.kept = static_cast<part>(random() % 3);
@@ -302,7 +302,7 @@ std::string nameOfSet(const ::testing::TestParamInfo<instruction_set>& tested)
     return names[static_cast<int>(tested.param)];
 }
 
-// Only the sets of this processor, and tests/platform/cpu_test.cpp holds that none of them is overlooked.
+// Only the sets of this processor. tests/platform/cpu_test.cpp checks that none of them is overlooked.
 const auto sets = ::testing::ValuesIn(setsOfThisProcessor());
 INSTANTIATE_TEST_SUITE_P(Sets, ProductKernel, sets, nameOfSet);
 INSTANTIATE_TEST_SUITE_P(Sets, ProductKernelOfTwo, sets, nameOfSet);

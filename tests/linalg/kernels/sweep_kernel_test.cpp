@@ -37,7 +37,7 @@ std::vector<int> orders()
             3 * block + strip + 5};
 }
 
-/** A table that the sweep makes something of: few odd cells, and pivots of very different sizes. */
+/** A table that the sweep does not reduce to NaN: few odd cells, and pivots of very different sizes. */
 matrix<double> sweepable(random_cells& cells, int n)
 {
     matrix<double> table(n, n, 0.0);

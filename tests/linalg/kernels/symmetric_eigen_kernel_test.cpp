@@ -15,7 +15,7 @@ using namespace korvel::test;
 namespace
 {
 
-/** Holds a decomposition by every instruction set against the plain loops. */
+/** Compares the decomposition of every instruction set with the plain loops. */
 void expectPlain(const matrix<double>& A, short int sortFlag)
 {
     const int n = A.nbrows;

@@ -1,6 +1,5 @@
-// The side by side sums of columns and of pairs of columns, for each instruction set, beside plain loops:
-// counts round each block of rows, group, strip and register, missing cells nowhere, at the end or
-// everywhere.
+// The sums of columns and of pairs of columns, for each instruction set, beside plain loops: counts around
+// each block of rows, group, strip and register; missing cells nowhere, at the end or everywhere.
 
 #include "linalg/kernels/product.h"
 #include "reference/column_moments.h"
