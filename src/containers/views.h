@@ -1,7 +1,7 @@
 /**
  * @file
- * Tables in all their forms, reached alike. A routine is written once over a view and serves the dense
- * `matrix`, the array of column chunks, `matrix3D`, the record of labelled columns and the sparse table.
+ * Uniform access to all forms of tables. A routine is written once over a view and serves the dense `matrix`,
+ * arrays of column chunks, `matrix3D`, records of labelled columns and the sparse table.
  *
  *     const auto from = reading(x);
  *     const auto to = writing(y);
@@ -11,29 +11,27 @@
  *     }
  *
  * A view is a small value and owns nothing. `get(i, j)` and `set(i, j, value)`, 0-based, are the checked
- * access of its form. What loops run on are the sources that it hands out, for `withCells`:
- * `column(j, rows)`, the first rows of a column; `table(rows, cols)`, the top left block, in any order; and,
- * of a table of chunks, `triangle(n)`, a symmetric table of which chunk j holds column j from the diagonal
- * down, or the top left block of one, `triangle(rows, cols)`.
+ * access of its form. Loops run on sources that it hands out for `withCells`: `column(j, rows)` is the first
+ * rows of a column, `table(rows, cols)` the top left block. A table of chunks also has `triangle(n)`, a
+ * symmetric table in which chunk j holds column j from the diagonal down, and `triangle(rows, cols)`, the top
+ * left block of one.
  *
- * What moves whole blocks asks for memory instead: `run(i, j, rows, cols)` points at the block from (i, j) on
- * when it lies inside and its cells stand one behind the other, and is null otherwise. Whoever writes there
- * says by `leave(j, value)` what the last store into column j was.
+ * Routines that move whole blocks ask for memory instead: `run(i, j, rows, cols)` points at the block from
+ * (i, j) on if it lies inside and its cells are adjacent, and is null otherwise. After writing there,
+ * `leave(j, value)` tells the last value stored into column j.
  */
 #ifndef KORVEL_CONTAINERS_VIEWS_H
 #define KORVEL_CONTAINERS_VIEWS_H
 
 #include "containers/cells.h"
+#include "containers/chunk_views.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
 
 namespace korvel
 {
-
-// ----------------------------------------------------------------------------------------------- dense table
 
 /** Checked access to one column of a dense table. */
 template <class T>
@@ -88,7 +86,7 @@ private:
     const T* last_ = nullptr;
 };
 
-/** A `matrix` as a table: row and column are checked against its counts, from above only. */
+/** A `matrix` as a table. Row and column are checked against the upper bounds only. */
 template <class T>
 class dense_view
 {
@@ -135,153 +133,7 @@ private:
     matrix_of<T>* owner_;
 };
 
-// ------------------------------------------------------------------------------------------- table of chunks
-
-/** Where chunks are: `at(j)` is the matrix that holds column j. The column number is not checked. */
-template <class T>
-struct chunk_pointers {
-    matrix<T>* const* first;
-
-    [[nodiscard]] matrix<T>& at(int j) const { return *first[j]; }
-};
-
-/** Chunks that stand one behind the other. */
-template <class Chunk>
-struct chunk_objects {
-    Chunk* first;
-
-    [[nodiscard]] Chunk& at(int j) const { return first[j]; }
-};
-
-/** Chunks that are the columns of a record. */
-template <class Column>
-struct record_columns {
-    Column* first;
-
-    [[nodiscard]] auto& at(int j) const { return first[j].Vect; }
-};
-
-/** Access to element i of chunk j, the element number checked, unsigned, or known to be inside. */
-template <class T, class Chunks, bool checked>
-class chunk_access
-{
-public:
-    using value_type = std::remove_const_t<T>;
-
-    explicit chunk_access(Chunks chunks) : chunks_(chunks) {}
-
-    const value_type& get(int i, int j) const
-    {
-        const matrix<value_type>& chunk = chunks_.at(j);
-        return checked ? chunk[i] : chunk.data[i];
-    }
-
-    void set(int i, int j, const value_type& value) const requires(!std::is_const_v<T>)
-    {
-        matrix<T>& chunk = chunks_.at(j);
-        if constexpr (checked) {
-            storeChecked(chunk, i, value);
-        } else {
-            chunk.data[i] = value;
-            chunk.oobValue = value;
-        }
-    }
-
-protected:
-    Chunks chunks_;
-};
-
-/** Access to a symmetric table of which chunk j holds column j from the diagonal down. */
-template <class Access>
-class symmetric_access
-{
-public:
-    using value_type = typename Access::value_type;
-
-    explicit symmetric_access(Access stored) : stored_(stored) {}
-
-    const value_type& get(int i, int j) const
-    {
-        return i >= j ? stored_.get(i - j, j) : stored_.get(j - i, i);
-    }
-
-    void set(int i, int j, const value_type& value) const requires requires(Access a) { a.set(i, j, value); }
-    {
-        i >= j ? stored_.set(i - j, j, value) : stored_.set(j - i, i, value);
-    }
-
-    /** Only what is stored can be had as memory: cells from the diagonal down. */
-    [[nodiscard]] auto run(std::int64_t i, std::int64_t j, std::int64_t rows, std::int64_t cols) const
-    {
-        return i >= j ? stored_.run(i - j, j, rows, cols) : nullptr;
-    }
-
-private:
-    Access stored_;
-};
-
-/** A table of which chunk j holds column j: an element number is checked against that chunk's own count. */
-template <class T, class Chunks>
-class chunk_view : public chunk_access<T, Chunks, true>
-{
-public:
-    using chunk_access<T, Chunks, true>::chunk_access;
-
-    [[nodiscard]] auto column(int j, std::int64_t rows) const
-    {
-        return linearRange<T>(this->chunks_.at(j), rows);
-    }
-
-    [[nodiscard]] auto table(int rows, int cols) const
-    {
-        return source(*this, allHold(cols, [rows](int) { return rows; }),
-                      [chunks = this->chunks_] { return raw_access(chunks); });
-    }
-
-    [[nodiscard]] auto triangle(int n) const { return triangle(n, n); }
-
-    /** The top left block of the symmetric table: of the longer side only the stored half is there. */
-    [[nodiscard]] auto triangle(int rows, int cols) const
-    {
-        const int longer = std::max(rows, cols);
-        return source(symmetric_access(*this),
-                      allHold(std::min(rows, cols), [longer](int j) { return longer - j; }),
-                      [chunks = this->chunks_] { return symmetric_access(raw_access(chunks)); });
-    }
-
-    [[nodiscard]] T* run(std::int64_t i, std::int64_t j, std::int64_t rows, std::int64_t cols) const
-    {
-        if (cols != 1 || i < 0) {
-            return nullptr;
-        }
-        auto& chunk = this->chunks_.at(static_cast<int>(j));
-        return static_cast<std::uint64_t>(i + rows) <= chunk.nbElem ? chunk.data + i : nullptr;
-    }
-
-    void leave(std::int64_t j, const std::remove_const_t<T>& value) const requires(!std::is_const_v<T>)
-    {
-        this->chunks_.at(static_cast<int>(j)).oobValue = value;
-    }
-
-private:
-    using raw_access = chunk_access<T, Chunks, false>;
-
-    template <class Length>
-    [[nodiscard]] bool allHold(int cols, Length length) const
-    {
-        for (int j = 0; j < cols; ++j) {
-            const matrix<std::remove_const_t<T>>& chunk = this->chunks_.at(j);
-            if (!holds(chunk, length(j))) {
-                return false;
-            }
-        }
-        return true;
-    }
-};
-
-// ---------------------------------------------------------------------------------------------- sparse table
-
-/** A table that has no cells to point at: all access is by its own `getElement` and `setElement`. */
+/** A table without cells to point at: all access goes through its `getElement` and `setElement`. */
 template <class Table>
 class element_view
 {
@@ -319,8 +171,6 @@ private:
 
     Table* owner_;
 };
-
-// ------------------------------------------------------------------------------------------- views of tables
 
 /** `matrix3D` and its kin: chunks by value. */
 template <class Table>
