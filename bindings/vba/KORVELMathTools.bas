@@ -64,6 +64,97 @@ Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
     ByVal src As LongPtr, ByVal dst As LongPtr) As Long
 
+' ---- fitting/biplot.h
+
+' Rescales the coordinates of a biplot by powers of the singular values: those of rows by s^(alpha/2
+' - 1/2), those of columns by s^(-alpha/2). extraRowCoordinates (Double) may be null.
+Public Declare PtrSafe Function VB_BiplotTransData Lib "KORVELMathTools.dll" ( _
+    ByRef rowCoordinates As Double, ByRef extraRowCoordinates As Any, _
+    ByRef columnCoordinates As Double, ByVal rows As Long, ByVal extraRows As Long, _
+    ByVal columns As Long, ByVal axes As Long, ByRef singularValues As Double, _
+    ByVal scaleValue As Double, ByVal alpha As Double, ByRef rowResult As Double, _
+    ByRef columnResult As Double) As Long
+
+' The same with coordinates in chunks. extraRowCoordinates (Double) may be null.
+Public Declare PtrSafe Function VB_BiplotTransDataSPV Lib "KORVELMathTools.dll" ( _
+    ByVal rowCoordinates As LongPtr, ByRef extraRowCoordinates As Any, _
+    ByVal columnCoordinates As LongPtr, ByVal rows As Long, ByVal extraRows As Long, _
+    ByVal columns As Long, ByVal axes As Long, ByRef singularValues As Double, _
+    ByVal scaleValue As Double, ByVal alpha As Double, ByRef rowResult As Double, _
+    ByRef columnResult As Double) As Long
+
+' Squared cosines of the rows of a table: each cell squared, over the sum of squares of its row.
+Public Declare PtrSafe Function ComputeCosines Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef result As Double) As Long
+
+' Marks one cell in each row of a table with -1.
+Public Declare PtrSafe Function Cpp_M_BoldCosines Lib "KORVELMathTools.dll" ( _
+    ByRef positions As Long, ByVal n As Long, ByRef table As Long) As Long
+
+' ---- fitting/least_squares.h
+
+' Regression: coefficients and fitted values.
+Public Declare PtrSafe Function RunOLSBasic Lib "KORVELMathTools.dll" ( _
+    ByVal n As Long, ByVal p As Long, ByRef x As Double, ByRef y As Double, ByRef weights As Double, _
+    ByVal degree As Long, ByVal interactions As Integer, ByVal noConstant As Integer, _
+    ByVal tolerance As Double, ByRef coefficients As Double, ByRef fitted As Double) As Long
+
+' Regression: coefficients, their standard errors and fitted values.
+Public Declare PtrSafe Function RunOLSBasic2 Lib "KORVELMathTools.dll" ( _
+    ByVal n As Long, ByVal p As Long, ByRef x As Double, ByRef y As Double, ByRef weights As Double, _
+    ByVal degree As Long, ByVal interactions As Integer, ByVal noConstant As Integer, _
+    ByVal tolerance As Double, ByRef coefficients As Double, ByRef standardErrors As Double, _
+    ByRef fitted As Double) As Long
+
+' Regression: the same with the swept table and the statistics of the columns.
+Public Declare PtrSafe Function RunOLSBasic3 Lib "KORVELMathTools.dll" ( _
+    ByVal n As Long, ByVal p As Long, ByRef x As Double, ByRef y As Double, ByRef weights As Double, _
+    ByVal degree As Long, ByVal interactions As Integer, ByVal noConstant As Integer, _
+    ByVal tolerance As Double, ByRef coefficients As Double, ByRef standardErrors As Double, _
+    ByRef fitted As Double, ByRef sweptMatrix As Double, ByRef means As Double, _
+    ByRef standardDeviations As Double) As Long
+
+' ---- fitting/least_squares_blocks.h
+
+' Regression as by RunOLSBasic2 on the columns of five tables, one behind the other, without powers
+' or interactions. x1 (Double) may be null. x2 (Double) may be null. x3 (Double) may be null. x4
+' (Double) may be null. x5 (Double) may be null.
+Public Declare PtrSafe Function RunOLSBasic2Lg Lib "KORVELMathTools.dll" ( _
+    ByVal n As Long, ByVal p1 As Long, ByRef x1 As Any, ByVal p2 As Long, ByRef x2 As Any, _
+    ByVal p3 As Long, ByRef x3 As Any, ByVal p4 As Long, ByRef x4 As Any, ByVal p5 As Long, _
+    ByRef x5 As Any, ByRef y As Double, ByRef weights As Double, ByVal degree As Long, _
+    ByVal interactions As Integer, ByVal noConstant As Integer, ByVal tolerance As Double, _
+    ByRef coefficients As Double, ByRef standardErrors As Double, ByRef fitted As Double) As Long
+
+' ---- fitting/newton_raphson.h
+
+' One damped step of the Newton-Raphson method: the inverse of the Hessian over the free parameters
+' times the gradient is subtracted from the parameters.
+Public Declare PtrSafe Function NewtonRaphson Lib "KORVELMathTools.dll" ( _
+    ByRef parameters As Double, ByVal n As Long, ByRef constraints As Long, _
+    ByRef gradient As Double, ByRef hessian As Double, ByVal tolerance As Double, _
+    ByRef standardErrors As Double, ByRef inverse As Double, ByVal limitStep As Integer, _
+    ByVal stepLimit As Double) As Long
+
+' ---- fitting/nipals.h
+
+' Fills the missing cells of a table from its principal components, found by the NIPALS iteration
+' over the cells that are there.
+Public Declare PtrSafe Function Cpp_NIPALS Lib "KORVELMathTools.dll" ( _
+    ByVal n As Long, ByVal p As Long, ByRef x As Double, ByRef weights As Double, _
+    ByVal tolerance As Double, ByVal components As Long, ByVal columnShare As Double, _
+    ByVal tableShare As Double) As Long
+
+' ---- fitting/tolerance_screening.h
+
+' The tolerance of each variable of the selected groups, the share of its variation that the others
+' leave unexplained, and its variance inflation factor.
+Public Declare PtrSafe Function VB_CheckTolerance Lib "KORVELMathTools.dll" ( _
+    ByRef r As Double, ByVal p As Long, ByVal groupCount As Long, ByRef groupSelection As Double, _
+    ByRef groupNumbers As Double, ByVal tolerance As Double, ByVal duplicates As Integer, _
+    ByVal entered As Integer, ByVal reverse As Integer, ByVal skipGroup As Integer, _
+    ByRef status As Double, ByRef tolerances As Double, ByRef inflationFactors As Double) As Long
+
 ' ---- linalg/cholesky.h
 
 ' Cholesky decomposition.

@@ -2,6 +2,7 @@
 
 #include "containers/record_columns.h"
 #include "containers/views.h"
+#include "statistics/chunk_correlations.h"
 #include "statistics/pair_walk.h"
 
 #include <cmath>
@@ -94,6 +95,15 @@ int covCorr(const In& x, int rows, int cols, const Out& out, const table_flags& 
                      [](int, const column_moments&) {});
 }
 
+/** The statistics of column `i`: only a variance greater than 0 is rooted. */
+void storeMoments(int i, const column_moments& found, matrix<double>& means, matrix<double>& sds,
+                  matrix<double>& vars)
+{
+    storeChecked(means, i, found.mean);
+    storeChecked(vars, i, found.variance);
+    storeChecked(sds, i, found.variance > 0.0 ? std::sqrt(found.variance) : found.variance);
+}
+
 /** Centres and reduces the kept cells of a column. */
 template <class Column>
 void standardizeCells(const Column& column, const weighted_rows& rows, const column_moments& found,
@@ -180,13 +190,22 @@ int M_CovCorrAndMeanStDevVar(matrix<double>* x, int rows, int cols, matrix<doubl
     const auto table = writing(*x);
     const weighted_rows kept{rows, iMissing, w};
     const auto afterward = [&](int i, const column_moments& found) {
-        storeChecked(*means, i, found.mean);
-        storeChecked(*vars, i, found.variance);
-        storeChecked(*sds, i, found.variance > 0.0 ? std::sqrt(found.variance) : found.variance);
+        storeMoments(i, found, *means, *sds, *vars);
         standardizeCells(table.column(i, rows), kept, found, bCenter == -1, bReduce == -1);
     };
     return fillTable(reading(*x), kept, cols, {bUnbiased, bFreq}, writing(*out).table(cols, cols),
                      {bCorr == -1, bUndefinedIsZero != 0}, isPositive, afterward);
+}
+
+void korvel::correlationsOfChunks(matrix<double>* const* x, int rows, int cols, matrix<double>& out,
+                                  matrix<double>& means, matrix<double>& sds, matrix<double>& vars,
+                                  const matrix<double>& w)
+{
+    const auto afterward = [&](int i, const column_moments& found) {
+        storeMoments(i, found, means, sds, vars);
+    };
+    fillTable(reading(x), {rows, nullptr, &w}, cols, {-1, -1}, writing(out).table(cols, cols), {true, true},
+              isPositive, afterward);
 }
 
 int M_CovCorrVAndMeanStDevVar(matrix<double>*& x, int rows, int cols, matrix<double>*& out,

@@ -69,7 +69,7 @@ class Call:
         """What an expression of a room is worth; a count of columns of 0 stands for 1 where the function says so."""
         names = {name: value or self.least(name) for name, value in self.values.items()}
         names |= {p.name: self.filled[p.name][0] for p in self.changed_counts() if p.name in self.filled}
-        return int(eval(expression, {"__builtins__": {}, "max": max, "sum": self.positive_sum},
+        return int(eval(expression, {"__builtins__": {}, "max": self.largest, "sum": self.positive_sum},
                         {**self.filled, **names}))
 
     def changed_counts(self):
@@ -82,6 +82,11 @@ class Call:
     @staticmethod
     def positive_sum(cells):
         return sum(int(value) for value in cells if value >= 1)
+
+    @staticmethod
+    def largest(*values):
+        """Of two counts, or of the cells of one array."""
+        return max(values) if len(values) > 1 else max(values[0], default=0)
 
     def cells_of(self, parameter):
         rooms = parameter.rooms
@@ -112,8 +117,8 @@ class Call:
         return ctypes.c_void_p(place)
 
     def run(self, called):
-        # A room that is a sum of cells, or made of a count that is changed, needs these before.
-        needed = "|".join(["sum", *(p.name for p in self.changed_counts())])
+        # A room that is a sum of cells, or the largest of them, or made of a count that is changed, needs these before.
+        needed = "|".join(["sum", "max", *(p.name for p in self.changed_counts())])
         late = [p for p in self.function.parameters
                 if p.plain_type in CELLS | {"OLECHAR**": None} and re.search(rf"\b({needed})\b", str(p.rooms))]
         made = {}

@@ -469,7 +469,8 @@ class BrokenHeaders(Tree):
             self.broken("[in] n numbers", f"[in] {text}", 4, f"VB_Sum: @param x {self.ROOM}")
 
     def test_array_with_its_room(self):
-        for text in ("n numbers", "n by 2 numbers", "n + 1 by n numbers", "n * (n + 1) / 2 numbers", "max(n, n) numbers, or more",
+        for text in ("n numbers", "n by 2 numbers", "n + 1 by n numbers", "n * (n + 1) / 2 numbers", "(n + n - 1) * n numbers",
+                     "max(n, n) numbers, or more",
                      "one number: the first"):
             self.functions(SUM.replace("[in] n numbers", f"[in] {text}"))
             self.assertEqual(self.run_tool("generate"), (0, []))

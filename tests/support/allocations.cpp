@@ -1,8 +1,10 @@
 #include "support/allocations.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <new>
+#include <utility>
 
 namespace
 {
@@ -12,6 +14,7 @@ constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
 thread_local std::int64_t made = 0;
 thread_local std::int64_t freed = 0;
 thread_local std::int64_t bytes = 0;
+thread_local std::int64_t largest = 0;
 thread_local std::int64_t madeAtMost = unlimited;
 
 } // namespace
@@ -27,6 +30,11 @@ std::int64_t allocationCount()
 std::int64_t bytesAllocated()
 {
     return bytes;
+}
+
+std::int64_t takeLargestAllocation()
+{
+    return std::exchange(largest, 0);
 }
 
 std::int64_t allocationsAlive()
@@ -58,6 +66,7 @@ void* operator new(std::size_t size)
     }
     ++made;
     bytes += static_cast<std::int64_t>(size);
+    largest = std::max(largest, static_cast<std::int64_t>(size));
     return block;
 }
 

@@ -12,6 +12,9 @@ namespace korvel::test
 /** How many bytes it has asked for in all these blocks, an upper bound of what it had at once. */
 [[nodiscard]] std::int64_t bytesAllocated();
 
+/** The bytes of the largest of these blocks since the last call. */
+[[nodiscard]] std::int64_t takeLargestAllocation();
+
 /** How many of these blocks it has not given back. */
 [[nodiscard]] std::int64_t allocationsAlive();
 

@@ -1,6 +1,6 @@
 /**
  * @file
- * Certified univariate data sets of NIST's Statistical Reference Datasets
+ * Certified univariate and regression data sets of NIST's Statistical Reference Datasets
  * (https://www.itl.nist.gov/div898/strd/), kept in tests/data/nist as published.
  */
 #ifndef KORVEL_TESTS_SUPPORT_NIST_H
@@ -14,6 +14,9 @@
 namespace korvel::test
 {
 
+/** The folder that the sets stand in. */
+std::string testDataFolder();
+
 struct univariate_set {
     std::vector<double> cells;
     double mean = 0.0;
@@ -22,6 +25,17 @@ struct univariate_set {
 
 /** Reads the file of a univariate set; the number that a certified line ends with follows its last colon. */
 univariate_set readUnivariateSet(const std::string& name);
+
+struct regression_set {
+    int rows = 0;
+    std::vector<double> response;
+    std::vector<double> predictors; ///< Column after column.
+    std::vector<double> estimates;  ///< From the intercept on, when there is one.
+    std::vector<double> errors;     ///< Their standard errors.
+};
+
+/** Reads the file of a regression set. */
+regression_set readRegressionSet(const std::string& name);
 
 /** How many decimal digits of `value` are right, at most the 15 that are certified. */
 inline double correctDigits(double value, double certified)

@@ -30,9 +30,10 @@ DIRECTION = re.compile(r"\[(in|out|inout)\](\s+|$)")
 TRUTH = re.compile(r"(-1|not 0): |.*\btrue (only when -1|unless 0)\b|.*\b[Aa]ny other value\b")
 
 # The room of an array: one cell, a count of cells, or rows by columns; and another room for one value of an argument. A
-# count is made of the function's own counts, of the larger of two, or of the sum of an array's numbers that are positive,
-# truncated.
-COUNT = r"(?:(?:max|sum)\([\w, ]+\)|\w+)(?: [-+*/] (?:\w+|\(\w+ \+ 1\)))*"
+# count is made of the function's own counts and sums of them, of the larger of two, of the largest of an array's numbers,
+# or of the sum of those that are positive, truncated.
+FACTOR = r"(?:\w+|\(\w+(?: [-+] \w+)+\))"
+COUNT = rf"(?:(?:max|sum)\([\w, ]+\)|{FACTOR})(?: [-+*/] {FACTOR})*"
 CELLS = r"(?:[a-z]+ )?(?!(?:row|column)s\b)[a-z]+s\b"
 ROOM = re.compile(rf"one [a-z]+\b|({COUNT})(?: by ({COUNT}))? {CELLS}"
                   rf"(?:, or ({COUNT})(?: by ({COUNT}))? {CELLS} when (\w+) is (-?\d+)\b)?")
@@ -269,10 +270,10 @@ def take_over(function, earlier, problem):
 def has_room(parameter, by_name):
     """Whether the text says how many cells the array has, in counts that the caller passes."""
     counts = " ".join(f"{room.rows} {room.columns}" for room in parameter.rooms.values())
-    summed = re.findall(r"sum\((\w+)\)", counts)
+    summed = re.findall(r"(?:max|sum)\((\w+)\)", counts)
     names = set(re.findall(r"[A-Za-z_]\w*", re.sub(r"\b(sum|max)\(", "(", counts))) - set(summed)
     passed = {name for name, p in by_name.items() if p.type == "int" or p.is_changed_count}
-    arrays = {name for name, p in by_name.items() if p.plain_type == "double*"}
+    arrays = {name for name, p in by_name.items() if p.plain_type in ("double*", "int*")}
     choosers = {key[0] for key in parameter.rooms if key}
     return bool(counts) and names <= passed and set(summed) <= arrays and choosers <= set(by_name)
 

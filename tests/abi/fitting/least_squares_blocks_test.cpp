@@ -1,0 +1,79 @@
+#include "korvelmathtools/KORVELMathTools.h"
+#include "support/guarded.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+using namespace korvel::test;
+
+namespace
+{
+
+const std::vector<double> x1{1, 2, 3, 4, 6};
+const std::vector<double> x2{2, 1, 5, 3, 4};
+const std::vector<double> response{1, 4, 2, 6, 9};
+const std::vector<double> ones(5, 1.0);
+
+struct results {
+    explicit results(std::size_t order)
+        : coefficients(std::vector<double>(order, 7.0)), errors(std::vector<double>(order, 7.0)),
+          fitted(std::vector<double>(5, 7.0))
+    {
+    }
+
+    guarded<double> coefficients;
+    guarded<double> errors;
+    guarded<double> fitted;
+};
+
+} // namespace
+
+TEST(FlatLeastSquaresBlocks, FitsColumnsOfTwoTables)
+{
+    results out(2);
+    EXPECT_EQ(RunOLSBasic2Lg(5, 0, nullptr, 1, x1.data(), 0, nullptr, 0, nullptr, 0, nullptr, response.data(),
+                             ones.data(), 1, 0, 0, 1e-12, out.coefficients.data(), out.errors.data(),
+                             out.fitted.data()),
+              0);
+    // R 4.2.2: lm(c(1, 4, 2, 6, 9) ~ c(1, 2, 3, 4, 6))
+    EXPECT_NEAR(valuesOf(out.coefficients)[0], 1.527027027027027, 1e-12);
+    EXPECT_NEAR(valuesOf(out.errors)[1], 1.41020490250752, 1e-12);
+}
+
+TEST(FlatLeastSquaresBlocks, LeavesTheTailForInteractionsZero)
+{
+    const std::vector<double> other{2, 1, 4, 3, 4};
+    results out(4);
+    EXPECT_EQ(RunOLSBasic2Lg(5, 1, x1.data(), 1, other.data(), 0, nullptr, 0, nullptr, 0, nullptr,
+                             response.data(), ones.data(), 1, -1, 0, 1e-12, out.coefficients.data(),
+                             out.errors.data(), out.fitted.data()),
+              0);
+    EXPECT_NE(valuesOf(out.coefficients)[2], 0.0) << "the intercept comes after the two columns";
+    EXPECT_SAME_BITS(valuesOf(out.coefficients)[3], 0.0);
+    EXPECT_SAME_BITS(valuesOf(out.errors)[3], 0.0);
+}
+
+TEST(FlatLeastSquaresBlocks, ClearsItsResultsForAnotherDegree)
+{
+    const std::vector<double> other{2, 1, 4, 3, 4};
+    results out(5);
+    EXPECT_EQ(RunOLSBasic2Lg(5, 1, x1.data(), 1, other.data(), 0, nullptr, 0, nullptr, 0, nullptr,
+                             response.data(), ones.data(), 2, 0, 0, 1e-12, out.coefficients.data(),
+                             out.errors.data(), out.fitted.data()),
+              0);
+    expectCells(out.coefficients, {0, 0, 0, 0, 0});
+    expectCells(out.errors, {0, 0, 0, 0, 0});
+    expectCells(out.fitted, {0, 0, 0, 0, 0});
+}
+
+TEST(FlatLeastSquaresBlocks, PassesTablesWithoutColumnsOver)
+{
+    results out(3);
+    EXPECT_EQ(RunOLSBasic2Lg(5, 0, nullptr, 1, x1.data(), 0, nullptr, 1, x2.data(), 0, nullptr,
+                             response.data(), ones.data(), 1, 0, -1, 1e-12, out.coefficients.data(),
+                             out.errors.data(), out.fitted.data()),
+              0);
+    EXPECT_NE(valuesOf(out.coefficients)[1], 0.0);
+    EXPECT_SAME_BITS(valuesOf(out.coefficients)[2], 0.0);
+    EXPECT_SAME_BITS(valuesOf(out.errors)[2], 0.0);
+}

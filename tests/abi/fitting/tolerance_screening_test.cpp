@@ -1,0 +1,58 @@
+#include "korvelmathtools/KORVELMathTools.h"
+#include "support/guarded.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+using namespace korvel::test;
+
+namespace
+{
+
+constexpr double gone = KORVEL_MISSING_DBL;
+
+} // namespace
+
+TEST(FlatToleranceScreening, ScreensTheSelectedGroups)
+{
+    // The second variable repeats the first; the third is constant; the fourth is of a group that is not
+    // selected.
+    guarded<double> r{1, 1, 0, 0.5, 1, 1, 0, 0.5, 0, 0, 0, 0, 0.5, 0.5, 0, 1};
+    guarded<double> selection{1, 0};
+    guarded<double> groups{1, 1, 1, 2};
+    guarded<double> status{7, 7, 7, 7};
+    guarded<double> tolerances{7, 7, 7, 7};
+    guarded<double> factors{7, 7, 7, 7};
+    EXPECT_EQ(VB_CheckTolerance(r.data(), 4, 2, selection.data(), groups.data(), 1e-4, 1, 0, 0, 0,
+                                status.data(), tolerances.data(), factors.data()),
+              0);
+    expectCells(status, {-1, 60000, 50000, -1});
+    expectCells(tolerances, {0.75, 0, 0, 7});
+    expectCells(factors, {1 / 0.75, gone, gone, 7});
+}
+
+TEST(FlatToleranceScreening, PassesEachFlagInItsPlace)
+{
+    guarded<double> r{1, 1, 0.5, 1, 1, 0.5, 0.5, 0.5, 1};
+    guarded<double> selection{1, 1};
+    guarded<double> groups{1, 1, 2};
+    guarded<double> status{7, 7, 7};
+    guarded<double> tolerances{7, 7, 7};
+    guarded<double> factors{7, 7, 7};
+    const auto run = [&](short int duplicates, short int entered, short int reverse, short int skipGroup) {
+        VB_CheckTolerance(r.data(), 3, 2, selection.data(), groups.data(), 1e-4, duplicates, entered, reverse,
+                          skipGroup, status.data(), tolerances.data(), factors.data());
+    };
+    run(0, 0, 0, 0);
+    expectCells(status, {-1, -1, -1});
+    expectCells(tolerances, {0, 0, 0.75});
+    run(0, 0, 0, -1);
+    expectCells(tolerances, {0.75, 0.75, 0.75});
+    run(-1, 0, 0, 0);
+    expectCells(status, {-1, 60000, -1});
+    expectCells(tolerances, {0.75, 0, 0.75});
+    run(1, -1, 0, 0);
+    expectCells(tolerances, {0, 0, 0.75});
+    run(0, 0, -1, 0);
+    expectCells(tolerances, {0, 0, 0.75});
+}
