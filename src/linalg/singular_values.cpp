@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <memory>
+#include <vector>
 
 namespace
 {
@@ -133,6 +135,33 @@ matrix<double>& firstColumn(cST_MVect<double>& record)
     return record.Vectors.front().Vect;
 }
 
+std::size_t at(int k)
+{
+    return static_cast<std::size_t>(k);
+}
+
+/** The roots of the first `count` weights. */
+std::vector<double> rootsOf(const matrix<double>& weights, int count)
+{
+    std::vector<double> roots(at(std::max(count, 0)));
+    for (int k = 0; k < count; ++k) {
+        roots[at(k)] = std::sqrt(weights[k]);
+    }
+    return roots;
+}
+
+/** Multiplies each row of some columns by the inverse of its root. */
+template <class From, class To>
+void divideRows(const From& from, const std::vector<double>& roots, int columns, const To& to)
+{
+    for (int j = 0; j < columns; ++j) {
+        for (std::size_t i = 0; i < roots.size(); ++i) {
+            const int row = static_cast<int>(i);
+            to.set(row, j, 1.0 / roots[i] * from.get(row, j));
+        }
+    }
+}
+
 } // namespace
 
 void M_SVDecomp(matrix<double>* A, int n, int p, matrix<double>* s, matrix<double>* U, matrix<double>* V,
@@ -159,28 +188,19 @@ void M_GeneralizedSVDecomp_Fast_ST(cST_MVect<double>& A, int n, int p, cST_MVect
                                    cST_MVect<double>& V, int, int* info)
 {
     constexpr int thinUAndV = 21;
-    const auto from = reading(A);
-    const auto left = writing(U);
-    const auto right = writing(V);
-    const matrix<double>& rowWeight = firstColumn(rowWeights);
-    const matrix<double>& colWeight = firstColumn(colWeights);
+    const std::vector<double> rowRoot = rootsOf(firstColumn(rowWeights), n);
+    const std::vector<double> colRoot = rootsOf(firstColumn(colWeights), p);
     cST_MVect<double> scaled(n, p);
     cST_MVect<double> scaledLeft(n, std::min(n + 1, p));
     cST_MVect<double> scaledRight(p, p);
+    const auto from = reading(A);
+    const auto to = writing(scaled);
     for (int j = 0; j < p; ++j) {
         for (int i = 0; i < n; ++i) {
-            writing(scaled).set(i, j, std::sqrt(rowWeight[i]) * from.get(i, j) * std::sqrt(colWeight[j]));
+            to.set(i, j, rowRoot[at(i)] * from.get(i, j) * colRoot[at(j)]);
         }
     }
     M_SVDecomp_Fast_ST(scaled, n, p, s, scaledLeft, scaledRight, thinUAndV, info);
-    for (int j = 0; j < std::min(p, n - 1); ++j) {
-        for (int i = 0; i < n; ++i) {
-            left.set(i, j, 1.0 / std::sqrt(rowWeight[i]) * reading(scaledLeft).get(i, j));
-        }
-    }
-    for (int j = 0; j < p; ++j) {
-        for (int i = 0; i < p; ++i) {
-            right.set(i, j, 1.0 / std::sqrt(colWeight[i]) * reading(scaledRight).get(i, j));
-        }
-    }
+    divideRows(reading(scaledLeft), rowRoot, std::min(p, n - 1), writing(U));
+    divideRows(reading(scaledRight), colRoot, p, writing(V));
 }
