@@ -1677,6 +1677,27 @@ Public Declare PtrSafe Function Cpp_M_CorrMatFromCovMatSPV2_T Lib "KORVELMathToo
 Public Declare PtrSafe Function Cpp_M_CovMatFromCorrMat Lib "KORVELMathTools.dll" ( _
     ByRef corr As Double, ByVal n As Long, ByRef vars As Double, ByRef out As Double) As Long
 
+' ---- statistics/correlation_repair.h
+
+' Replaces a symmetric table by the nearest correlation matrix, by alternating projections (Higham,
+' IMA Journal of Numerical Analysis 22, 2002): cells are right to about 1e-6.
+Public Declare PtrSafe Function Cpp_M_CorrMatFromSymMat Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' The same for a table of separate columns.
+Public Declare PtrSafe Function Cpp_M_CorrMatFromSymMatSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long) As Long
+
+' The same for a table of which each separate column starts at the diagonal.
+Public Declare PtrSafe Function Cpp_M_CorrMatFromSymMatSPV_T Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long) As Long
+
+' Replaces a symmetric table by a covariance table with the same variances: its correlations, those
+' of a variance that is not above 0 being 0.0, become the nearest correlation matrix, and are
+' multiplied with the roots of the variances again.
+Public Declare PtrSafe Function Cpp_M_CovMatFromSymMat Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
 ' ---- statistics/covariance.h
 
 ' Covariances, or correlations, of all pairs of columns. iMissing (Integer) may be null.

@@ -82,6 +82,7 @@
 #include "frames/statistics/conditional_summaries.h"
 #include "frames/statistics/constant_tests.h"
 #include "frames/statistics/correlation_conversion.h"
+#include "frames/statistics/correlation_repair.h"
 #include "frames/statistics/covariance.h"
 #include "frames/statistics/cross_covariance.h"
 #include "frames/statistics/distances.h"
