@@ -122,6 +122,12 @@ TEST(Cholesky, RefusesAPivotBelowItsThreshold)
     EXPECT_EQ(decomposition(tableOf({{0}})).status, -1);
     EXPECT_EQ(decomposition(tableOf({{-4}})).status, -1);
     EXPECT_EQ(decomposition(tableOf({{1, 1}, {1, 1}})).status, -1) << "semidefinite";
+    matrix<double> outside;
+    matrix<double> L;
+    outside.oobValue = 1e-12;
+    EXPECT_EQ(M_CholDecomp(&outside, 1, &L), 0) << "where cells are read outside the table too";
+    outside.oobValue = 0.999e-12;
+    EXPECT_EQ(M_CholDecomp(&outside, 1, &L), -1);
 }
 
 TEST(Cholesky, LeavesTheColumnsThatWereFinished)

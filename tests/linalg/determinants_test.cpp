@@ -125,6 +125,23 @@ TEST(Determinant, KeepsToTheRangeOfTheLogarithm)
     EXPECT_NEAR(determinantOf(diagonal({e}), -1).value, e, 1e-15) << "in range it is no logarithm";
 }
 
+TEST(Determinant, IncludesBothEndsOfThatRange)
+{
+    const auto withLogarithm = [](double logarithm) {
+        double x = std::exp(logarithm) * (1.0 - 1e-14);
+        while (std::log(x) < logarithm) {
+            x = std::nextafter(x, infinite);
+        }
+        EXPECT_EQ(std::log(x), logarithm);
+        return x;
+    };
+    const std::vector<double> least(59, withLogarithm(-12.0));
+    expectDeterminant(determinantOf(diagonal(least)), std::exp(-708.0));
+    std::vector<double> most(59, withLogarithm(12.0));
+    most.push_back(withLogarithm(1.0));
+    expectDeterminant(determinantOf(diagonal(most)), std::exp(709.0));
+}
+
 TEST(Determinant, OfANaNIsANaN)
 {
     EXPECT_TRUE(std::isnan(determinantOf(tableOf({{1, notANumber}, {0.5, notANumber}})).value));

@@ -105,6 +105,8 @@ TEST(HermiteForm, LeavesWhatIsNegligibleAboveAPivot)
 {
     matrix<double> H = reduced(M_HermiteCanonical, tableOf({{1, 0.5e-12, 3}, {0, 1, 2}, {0, 0, 20}}));
     EXPECT_SAME_BITS(H.getElement(0, 1), 0.5e-12);
+    H = reduced(M_HermiteCanonical, tableOf({{1, 1e-12}, {0, 1}}));
+    EXPECT_SAME_BITS(H.getElement(0, 1), 1e-12);
     H = reduced(M_HermiteCanonical, tableOf({{1, 2e-12, 3}, {0, 1, 2}, {0, 0, 20}}));
     EXPECT_SAME_BITS(H.getElement(0, 1), 0.0);
 }
