@@ -1,7 +1,8 @@
 #include "linalg/inverse1.h"
 
-#include "containers/lu_solutions.h"
 #include "linalg/lu_factors.h"
+#include "linalg/lu_solutions.h"
+#include "linalg/transposed_cells.h"
 #include "tables/block_copy.h"
 
 #include <algorithm>
@@ -119,14 +120,7 @@ int Inverse1(matrix<double>* A, matrix<double>* inverse, short int* error, doubl
     }
     const matrix<double> turned =
         goBack(rows) ? solveForUnitsWithSwaps(factors, rows) : korvel::solveForUnits(factors, rows);
-    korvel::withCells(
-        [&](auto& to) {
-            for (int c = 0; c < n; ++c) {
-                for (int i = 0; i < n; ++i) {
-                    to.set(i, c, turned.data[c + std::ptrdiff_t{n} * i]);
-                }
-            }
-        },
-        korvel::writing(*inverse).table(n, n));
+    const auto asItIs = [](int) { return [](double x) { return x; }; };
+    korvel::mapTransposed(n, n, asItIs, turned, *inverse);
     return 0;
 }

@@ -1,8 +1,9 @@
 /**
  * @file
- * The inner loops of LU and Cholesky decomposition, compiled for each instruction set. Every element is one
- * accumulator from which products are taken, a multiplication and then a subtraction, in the order of its
- * rule; what runs side by side are elements that do not depend on each other.
+ * The inner loops of LU and Cholesky decomposition and of the inverse from LU factors, compiled for each
+ * instruction set. Every element is one accumulator from which products are taken, a multiplication and then
+ * a subtraction, in the order of its rule; what runs side by side are elements that do not depend on each
+ * other.
  *
  * Tables are column after column, `stride` elements from one column to the next.
  */
@@ -53,6 +54,15 @@ struct cholesky_rows {
     double* scratch;        ///< `choleskyRows` times the order
 };
 
+/** Unit vectors for which the LU factors of a table are solved, each with its 1 a row below the one before.
+ */
+struct unit_sides {
+    const double* factors; ///< row after row: L without its diagonal of ones, and U
+    std::ptrdiff_t order;
+    std::ptrdiff_t first; ///< row of the first 1
+    double* solutions; ///< receives for each row the elements of all sides; those past the order are scratch
+};
+
 /** What is compiled once for each instruction set. */
 struct factor_kernel {
     /** Copies a square table and finds the largest magnitude of each row, NaN passed over. */
@@ -76,6 +86,13 @@ struct factor_kernel {
 
     /** Rows of a Cholesky factor that are formed side by side. */
     std::ptrdiff_t choleskyRows;
+
+    /** Forward substitution for each side from its 1 on, then back substitution, each sum in ascending order.
+     */
+    void (*solveForUnits)(const unit_sides& sides);
+
+    /** Sides that are solved side by side. */
+    std::ptrdiff_t unitSides;
 };
 
 /** The kernel of the instruction set in use; see `product.h`. */

@@ -2,8 +2,8 @@
  * @file
  * The inverse of a table from its LU factors.
  */
-#ifndef KORVEL_CONTAINERS_LU_SOLUTIONS_H
-#define KORVEL_CONTAINERS_LU_SOLUTIONS_H
+#ifndef KORVEL_LINALG_LU_SOLUTIONS_H
+#define KORVEL_LINALG_LU_SOLUTIONS_H
 
 #include "containers/matrix.h"
 

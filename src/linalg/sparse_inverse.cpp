@@ -1,6 +1,6 @@
 #include "containers/sparse_matrix.h"
 
-#include "containers/lu_solutions.h"
+#include "linalg/lu_solutions.h"
 
 #include <cmath>
 #include <limits>
