@@ -48,11 +48,12 @@ struct decomposition {
     }
     [[nodiscard]] int orderOfV() const { return shape.wantsV ? shape.p : 0; }
 
-    /** Whether there are cells, and all of them lie inside. */
-    [[nodiscard]] bool inside() const
+    /** Whether all cells lie inside, and are enough to pay for what the kernel lays out first. */
+    [[nodiscard]] bool suitsKernel() const
     {
-        return shape.n > 0 && shape.p > 0 && sourceOfA().inside() && sourceOfU().inside() &&
-               sourceOfV().inside() && sourceOfValues().inside();
+        constexpr int small = 5;
+        return shape.n > 0 && shape.p > 0 && std::max(shape.n, shape.p) >= small && sourceOfA().inside() &&
+               sourceOfU().inside() && sourceOfV().inside() && sourceOfValues().inside();
     }
 };
 
@@ -90,7 +91,7 @@ int decomposeInKernel(const decomposition<Table>& what, bool keepsTable)
 template <class Table>
 int decompose(const decomposition<Table>& what)
 {
-    if (what.inside()) {
+    if (what.suitsKernel()) {
         return decomposeInKernel(what, true);
     }
     const int n = what.shape.n;
@@ -180,7 +181,7 @@ void M_SVDecomp_Fast_ST(cST_MVect<double>& A, int n, int p, cST_MVect<double>& s
                         cST_MVect<double>& V, int job, int* info)
 {
     const decomposition<cST_MVect<double>> what{A, firstColumn(s), U, V, shapeOf(n, p, job, korvel::noLimit)};
-    *info = what.inside() ? decomposeInKernel(what, false) : decomposePlainly(what.sourceOfA(), what);
+    *info = what.suitsKernel() ? decomposeInKernel(what, false) : decomposePlainly(what.sourceOfA(), what);
 }
 
 void M_GeneralizedSVDecomp_Fast_ST(cST_MVect<double>& A, int n, int p, cST_MVect<double>& rowWeights,
