@@ -1,6 +1,7 @@
 /**
  * @file
- * Tests of a cell for `allOf` and `countOf`. Each takes a number, or lanes of doubles.
+ * Tests of a cell for `allOf` and `countOf`. Each takes a number, or lanes of doubles. Tests join conditions
+ * by `lanes::either` and `lanes::both`: GCC 12 takes `|` and `&` of two comparisons apart, lane by lane.
  */
 #ifndef KORVEL_CONTAINERS_CELL_TESTS_H
 #define KORVEL_CONTAINERS_CELL_TESTS_H
@@ -34,23 +35,23 @@ inline constexpr auto isAtOrBelowSentinel = [](auto x) { return x <= MISSING_DBL
 template <class Test>
 [[nodiscard]] auto orMissing(Test isGood)
 {
-    return [isGood](auto x) { return (x == MISSING_DBL) | isGood(x); };
+    return [isGood](auto x) { return lanes::either(x == MISSING_DBL, isGood(x)); };
 }
 
 inline constexpr auto isZeroOrMore = [](auto x) { return x >= 0.0; };
 inline constexpr auto isAboveZero = [](auto x) { return x > 0.0; };
-inline constexpr auto isZeroOrOne = [](auto x) { return (x == 0.0) | (x == 1.0); };
+inline constexpr auto isZeroOrOne = [](auto x) { return lanes::either(x == 0.0, x == 1.0); };
 
 /** From `lo` to `hi`, both included. */
 [[nodiscard]] inline auto isWithin(double lo, double hi)
 {
-    return [lo, hi](auto x) { return (x >= lo) & (x <= hi); };
+    return [lo, hi](auto x) { return lanes::both(x >= lo, x <= hi); };
 }
 
 /** Between `lo` and `hi`, neither included. */
 [[nodiscard]] inline auto isBetween(double lo, double hi)
 {
-    return [lo, hi](auto x) { return (x > lo) & (x < hi); };
+    return [lo, hi](auto x) { return lanes::both(x > lo, x < hi); };
 }
 
 /** An integer within 1e-12. An infinity or a NaN is not an integer. */
@@ -66,8 +67,8 @@ inline constexpr auto isWhole = [](auto x) {
         }
     }();
     const auto offset = size - ((size + allWhole) - allWhole);
-    return ((size >= allWhole) & (size <= std::numeric_limits<double>::max())) |
-           ((offset <= tolerance) & (offset >= -tolerance));
+    return lanes::either(lanes::both(size >= allWhole, size <= std::numeric_limits<double>::max()),
+                         lanes::both(offset <= tolerance, offset >= -tolerance));
 };
 
 /**

@@ -37,7 +37,7 @@ template <class Cells>
         if constexpr (std::is_same_v<element, text>) {
             return cell == value || cell.empty();
         } else {
-            return (cell == value) | (cell == missingNumber<element>);
+            return lanes::either(cell == value, cell == missingNumber<element>);
         }
     };
     return allBetween(first + 1, n, isSame, x);

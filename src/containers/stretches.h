@@ -3,9 +3,10 @@
  * Tests the cells of vectors. A loop that may stop at any cell can only test one cell at a time. These loops
  * stop only between stretches of cells, and so test several cells of a stretch at once.
  *
- * A test is a generic lambda that takes numbers or lanes of doubles, and joins conditions by `|` and `&`:
+ * A test is a generic lambda that takes numbers or lanes of doubles, and joins conditions by `lanes::either`
+ * and `lanes::both`:
  *
- *     allOf(n, [](auto x) { return (x == MISSING_DBL) | (x >= 0.0); }, cells)
+ *     allOf(n, [](auto x) { return lanes::either(x == MISSING_DBL, x >= 0.0); }, cells)
  */
 #ifndef KORVEL_CONTAINERS_STRETCHES_H
 #define KORVEL_CONTAINERS_STRETCHES_H

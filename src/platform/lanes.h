@@ -187,6 +187,20 @@ KORVEL_IN_LANES Mask either(Mask a, Mask b)
     }
 }
 
+/** The lanes that are chosen in both: `a & b`, by the same way as `only`. */
+template <class Mask>
+KORVEL_IN_LANES Mask both(Mask a, Mask b)
+{
+#if defined(__SSE2__)
+    if constexpr (detail::widthOf<Mask> == 2) {
+        return reinterpret_cast<Mask>(_mm_and_pd(reinterpret_cast<__m128d>(a), reinterpret_cast<__m128d>(b)));
+    } else
+#endif
+    {
+        return a & b;
+    }
+}
+
 /** `x` in the lanes that are kept, and in the others a NaN, which fails every comparison. */
 template <class Mask, class Doubles>
 KORVEL_IN_LANES Doubles onlyOrNaN(Mask kept, Doubles x)
