@@ -1,21 +1,26 @@
 /**
  * @file
  * report FILE.csv...: prints a statistical report on each file, computed by KORVELMathTools.
+ * report FILE.csv... --y COLUMN: prints the regression of that column on the others instead.
  *
  * Everything goes through the library's flat functions with plain arrays, as from a macro. Exit code 0; 1
  * when a file could not be read (one line on the error stream tells why, the other files are reported all the
- * same); 2 without a file.
+ * same) or a column is not there; 2 without a file.
  */
 #include "csv.h"
 #include "data_set.h"
+#include "regression.h"
 #include "sections.h"
 #include "utf8.h"
 
+#include <algorithm>
 #include <exception>
 #include <filesystem>
 #include <iostream>
-#include <span>
+#include <optional>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -38,17 +43,58 @@ std::string titleOf(const std::string& fileName, const report::data_set& data)
     return title;
 }
 
-void printReport(const std::filesystem::path& path, std::ostream& out)
+void printSections(report::data_set& data, std::ostream& out)
 {
-    report::data_set data(report::readCsv(path));
-    const std::string title = titleOf(path.filename().string(), data);
-    out << title << '\n' << std::string(static_cast<std::size_t>(report::displayWidth(title)), '=') << '\n';
     for (const report::section& section : report::sections()) {
         const report::text_table table = section.make(data);
         if (!table.empty()) {
             out << '\n' << section.title << '\n';
             table.print(out);
         }
+    }
+}
+
+void printTitle(const std::string& title, std::ostream& out)
+{
+    out << title << '\n' << std::string(static_cast<std::size_t>(report::displayWidth(title)), '=') << '\n';
+}
+
+/** What is asked for: files, and the column that a regression explains. */
+struct request {
+    std::vector<std::string> files;
+    std::optional<std::string> response;
+};
+
+/** Nothing when it cannot be understood. */
+std::optional<request> requestOf(const std::vector<std::string>& words)
+{
+    request asked;
+    for (std::size_t k = 0; k < words.size(); ++k) {
+        if (words[k] != "--y") {
+            asked.files.push_back(words[k]);
+        } else if (++k < words.size()) {
+            asked.response = words[k];
+        } else {
+            return std::nullopt;
+        }
+    }
+    return asked.files.empty() ? std::nullopt : std::optional(asked);
+}
+
+void printReport(const std::filesystem::path& path, const std::optional<std::string>& response,
+                 std::ostream& out)
+{
+    report::data_set data(report::readCsv(path));
+    const std::string title = titleOf(path.filename().string(), data);
+    if (response) {
+        // Nothing is printed of a file that does not have the column.
+        std::ostringstream regression;
+        report::printRegression(data, *response, regression);
+        printTitle(title, out);
+        out << regression.str();
+    } else {
+        printTitle(title, out);
+        printSections(data, out);
     }
     out << '\n';
 }
@@ -57,15 +103,15 @@ void printReport(const std::filesystem::path& path, std::ostream& out)
 
 int main(int argc, char** argv)
 {
-    const std::span files(argv + 1, argc > 0 ? static_cast<std::size_t>(argc) - 1 : 0);
-    if (files.empty()) {
-        std::cerr << "usage: report FILE.csv...\n";
+    const auto asked = requestOf(std::vector<std::string>(argv + std::min(argc, 1), argv + argc));
+    if (!asked) {
+        std::cerr << "usage: report FILE.csv... [--y COLUMN]\n";
         return 2;
     }
     int status = 0;
-    for (const char* file : files) {
+    for (const std::string& file : asked->files) {
         try {
-            printReport(file, std::cout);
+            printReport(file, asked->response, std::cout);
         } catch (const std::exception& error) {
             std::cout.flush();
             std::cerr << "report: " << file << ": " << error.what() << '\n';
