@@ -2,7 +2,10 @@
 
 #include "statistics/pair_walk.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <vector>
 
 namespace
 {
@@ -35,21 +38,83 @@ struct result_kind {
     }
 };
 
+bool missesNone(const korvel::column_pointers& columns, int rows)
+{
+    return std::all_of(columns.begin(), columns.end(), [rows](const double* column) {
+        return std::find(column, column + rows, MISSING_DBL) == column + rows;
+    });
+}
+
+/** The sums of each column of one table with each of another, when no cell is missing: then the sums of
+ * squares of a pair are those of its columns, and all pairs of both tables are walked side by side. */
+class complete_pairs
+{
+public:
+    complete_pairs(korvel::column_pointers x, const korvel::column_pointers& y, const weighted_rows& rows)
+        : colsX_(static_cast<int>(x.size())), products_(x.size() * y.size()), squares_(x.size() + y.size())
+    {
+        x.insert(x.end(), y.begin(), y.end());
+        korvel::walkPairsInMemory(x, rows, [this](int i, int j, const korvel::running_covariance& pair) {
+            if (i == j) {
+                squares_[static_cast<std::size_t>(i)] = pair.products;
+                sumW_ = pair.sumW;
+                kept_ = pair.kept;
+            } else if (i < colsX_ && j >= colsX_) {
+                products_[place(i, j - colsX_)] = pair.products;
+            }
+        });
+    }
+
+    [[nodiscard]] running_correlation at(int i, int j) const
+    {
+        running_correlation pair;
+        pair.sumW = sumW_;
+        pair.kept = kept_;
+        pair.products = products_[place(i, j)];
+        pair.squaresX = squares_[static_cast<std::size_t>(i)];
+        pair.squaresY = squares_[static_cast<std::size_t>(colsX_ + j)];
+        return pair;
+    }
+
+private:
+    [[nodiscard]] std::size_t place(int i, int j) const
+    {
+        return static_cast<std::size_t>(i) + static_cast<std::size_t>(j) * static_cast<std::size_t>(colsX_);
+    }
+
+    int colsX_;
+    std::vector<double> products_;
+    std::vector<double> squares_;
+    double sumW_ = 0.0;
+    int kept_ = 0;
+};
+
 template <class X, class Y, class Out>
 void crossTable(const X& x, int colsX, const Y& y, int colsY, const Out& out, const weighted_rows& rows,
                 denominator_choice how, result_kind kind)
 {
-    korvel::withCells(
-        [&](auto& to) {
-            for (int i = 0; i < colsX; ++i) {
-                for (int j = 0; j < colsY; ++j) {
-                    const auto pair = korvel::walkPair<running_correlation>(x.column(i, rows.count),
-                                                                            y.column(j, rows.count), rows);
-                    to.set(i, j, kind.cell(pair, how));
+    const auto fill = [&](auto sumsOf) {
+        korvel::withCells(
+            [&](auto& to) {
+                for (int i = 0; i < colsX; ++i) {
+                    for (int j = 0; j < colsY; ++j) {
+                        to.set(i, j, kind.cell(sumsOf(i, j), how));
+                    }
                 }
-            }
-        },
-        out.table(colsX, colsY));
+            },
+            out.table(colsX, colsY));
+    };
+    const auto left = korvel::columnsInMemory(x, rows, colsX);
+    const auto right = korvel::columnsInMemory(y, rows, colsY);
+    if (!left.empty() && !right.empty() && missesNone(left, rows.count) && missesNone(right, rows.count)) {
+        const complete_pairs pairs(left, right, rows);
+        fill([&](int i, int j) { return pairs.at(i, j); });
+    } else {
+        fill([&](int i, int j) {
+            return korvel::walkPair<running_correlation>(x.column(i, rows.count), y.column(j, rows.count),
+                                                         rows);
+        });
+    }
 }
 
 } // namespace

@@ -29,6 +29,7 @@
  *                  or -0.0 when both are true, and a correlation is undefined
  * @param bUndefinedIsZero other than 0: an undefined cell is 0.0; otherwise it is missing
  * @return 0
+ * @throws std::bad_alloc when memory is short
  */
 KORVEL_API int M_CorrMatMat(matrix<double>* x, int rows, int colsX, matrix<double>* y, int colsY,
                             matrix<double>*& out, short int* iMissing, matrix<double>* w, short int bCorr,
