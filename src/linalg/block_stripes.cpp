@@ -1,5 +1,6 @@
 #include "linalg/block_stripes.h"
 
+#include "linalg/block_columns.h"
 #include "linalg/product_forms.h"
 
 #include <algorithm>
@@ -54,6 +55,22 @@ auto withCellsOf(const part_read& part, int rows, int cols, Work work)
     return work([&](int i, int j) { return part.get(i, j); });
 }
 
+/** Which rows, or columns, of a table are zeros: of most, the first cells tell. */
+template <class Cell>
+line_kinds zeroLines(int lines, int length, Cell cell)
+{
+    line_kinds kinds(static_cast<std::size_t>(lines), line_kind::zero);
+    for (int k = 0; k < lines; ++k) {
+        for (int c = 0; c < length; ++c) {
+            if (cell(k, c) != 0.0) {
+                kinds[static_cast<std::size_t>(k)] = line_kind::summed;
+                break;
+            }
+        }
+    }
+    return kinds;
+}
+
 /** The kinds of the rows of a table, or of its columns. */
 line_kinds kindsOfLines(const part_read& part, int rows, int cols, bool ofRows)
 {
@@ -61,14 +78,18 @@ line_kinds kindsOfLines(const part_read& part, int rows, int cols, bool ofRows)
         return {};
     }
     return withCellsOf(part, rows, cols, [=](auto cell) {
+        if (rows != cols) {
+            return ofRows ? zeroLines(rows, cols, cell)
+                          : zeroLines(cols, rows, [&](int j, int i) { return cell(i, j); });
+        }
         const filled_lines filled = filledBesideDiagonal(rows, cols, cell);
         line_kinds kinds(static_cast<std::size_t>(ofRows ? rows : cols), line_kind::summed);
         for (std::size_t k = 0; k < kinds.size(); ++k) {
             const int line = static_cast<int>(k);
-            const bool onDiagonal = line < std::min(rows, cols) && cell(line, line) != 0.0;
+            const bool onDiagonal = cell(line, line) != 0.0;
             if ((ofRows ? filled.rows : filled.cols)[k] == 0 && !onDiagonal) {
                 kinds[k] = line_kind::zero;
-            } else if (rows == cols && filled.rows[k] == 0 && filled.cols[k] == 0) {
+            } else if (filled.rows[k] == 0 && filled.cols[k] == 0) {
                 kinds[k] = line_kind::diagonal;
             }
         }
@@ -91,25 +112,6 @@ meeting meetingOf(line_kind row, line_kind col, block_side block)
     return col == line_kind::diagonal ? meeting::columnDiagonal : meeting::sum;
 }
 
-/** Rows of one kind that stand one below the other. */
-struct run_of_rows {
-    line_kind kind;
-    std::ptrdiff_t first;
-    std::ptrdiff_t count;
-};
-
-std::vector<run_of_rows> runsOf(const line_kinds& rows)
-{
-    std::vector<run_of_rows> runs;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (i == 0 || rows[i] != rows[i - 1]) {
-            runs.push_back({rows[i], static_cast<std::ptrdiff_t>(i), 0});
-        }
-        ++runs.back().count;
-    }
-    return runs;
-}
-
 /** The product of operands whose cells all lie inside. */
 class raw_stripe
 {
@@ -122,11 +124,7 @@ public:
     void form() const
     {
         formSums();
-        std::vector<double> diagonal(static_cast<std::size_t>(std::min(form_.rows, form_.depth)));
-        for (std::size_t k = 0; k < diagonal.size(); ++k) {
-            const auto line = static_cast<std::ptrdiff_t>(k);
-            diagonal[k] = left(line)[line];
-        }
+        const std::vector<double> diagonal = diagonalOf(form_);
         for (int j = 0; j < form_.cols; ++j) {
             for (const run_of_rows& run : runs_) {
                 formRun(run, j, diagonal.data());

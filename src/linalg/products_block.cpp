@@ -1,5 +1,6 @@
 #include "linalg/products_block.h"
 
+#include "linalg/block_columns.h"
 #include "linalg/block_stripes.h"
 #include "linalg/product_forms.h"
 #include "linalg/products.h"
@@ -141,10 +142,18 @@ void M_BlockProductBckA(matrix3D<matrix<double>>* blocks, int nBlocks, matrix<in
         M_ProductAB(list.first(), size, size, *A, p, *C);
         return;
     }
+    korvel::block_columns together;
     list.forEach([&](const matrix<double>& block, int size, int offset) {
         const stripe_product form = blockTimesRows(block, size, *A, offset, p, *C);
-        multiplyStripe(form, kindsOfRows(form), kindsOfColumns(form), block_side::left);
+        const line_kinds rows = kindsOfRows(form);
+        if (korvel::block_columns::suits(form, rows)) {
+            together.add(form, rows);
+            return;
+        }
+        together.form();
+        multiplyStripe(form, rows, kindsOfColumns(form), block_side::left);
     });
+    together.form();
 }
 
 void M_BlockProductBckA(matrix3D<matrixSparse>* blocks, int nBlocks, matrix<int>* sizes, matrixSparse* A,
