@@ -17,7 +17,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools"))
 
-from korveltools import flat_headers  # noqa: E402
+from korveltools import declarations, flat_headers  # noqa: E402
 
 DRAWS = 40
 PAGE = mmap.PAGESIZE
@@ -62,7 +62,7 @@ class Call:
             return FIXED[self.function.name, parameter.name]
         if parameter.type != "int":
             return self.draw.choice((-1, 0, 1))
-        positions = re.search(r", from 1\b", flat_headers.one_line(parameter.text))
+        positions = re.search(r", from 1\b", declarations.one_line(parameter.text))
         return self.draw.choice((1, 1, 2, 3, 4) if positions else (0, 1, 1, 2, 3, 4))
 
     def count(self, expression):
@@ -76,7 +76,7 @@ class Call:
         return [p for p in self.function.parameters if p.is_changed_count]
 
     def least(self, name):
-        text = flat_headers.one_line(next(p for p in self.function.parameters if p.name == name).text)
+        text = declarations.one_line(next(p for p in self.function.parameters if p.name == name).text)
         return 1 if re.search(r"\b0 (stands for|counts as) 1\b", text) else 0
 
     @staticmethod

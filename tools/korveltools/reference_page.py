@@ -2,7 +2,7 @@
 
 import re
 
-from .flat_headers import one_line
+from .declarations import one_line
 
 PREAMBLE = """\
 # Reference of the flat functions

@@ -3,7 +3,7 @@
 import re
 import textwrap
 
-from .flat_headers import one_line
+from .declarations import one_line
 
 LIBRARY = "KORVELMathTools.dll"
 WIDTH = 100

@@ -1,0 +1,240 @@
+"""tools/generate: what it makes of good headers."""
+
+import textwrap
+import unittest
+
+from source_tree import LIKE, SUM, Tree
+
+
+class MadeFiles(Tree):
+    def make(self):
+        self.assertEqual(self.run_tool("generate"), (0, []))
+
+    def declarations(self):
+        """The Visual Basic module from its first section on, with its lines' ends taken off."""
+        module = self.read("bindings/vba/KORVELMathTools.bas")
+        self.assertEqual(module.count("\n"), module.count("\r\n"))
+        lines = module.split("\r\n")
+        return lines[lines.index("' ---- sample.h") + 2 : -1]
+
+    def test_lists_are_sorted_by_byte(self):
+        names = ("zeta", "Beta", "VB_A", "alpha")
+        self.functions("".join(f"/** Does it. */\nKORVEL_FLAT void {name}(void);\n" for name in names))
+        self.make()
+        self.assertEqual(self.read("exports/flat.txt"), "Beta\nVB_A\nalpha\nzeta\n")
+        self.assertEqual(
+            self.read("bindings/KORVELMathTools.def"),
+            "LIBRARY KORVELMathTools\nEXPORTS\n    Beta\n    VB_A\n    alpha\n    zeta\n",
+        )
+
+    def test_declares_arrays_and_scalars(self):
+        self.functions(SUM)
+        self.make()
+        self.assertEqual(
+            self.declarations(),
+            [
+                "' Sums a vector, e.g. of weights. flags (Integer) may be null.",
+                'Public Declare PtrSafe Function VB_Sum Lib "KORVELMathTools.dll" ( _',
+                "    ByRef x As Double, ByVal n As Long, ByRef flags As Any) As Double",
+            ],
+        )
+
+    def test_knows_what_may_be_null(self):
+        for text in ("n flags. Null: none is", "n flags; may be null", "n flags; null: none is"):
+            self.functions(SUM.replace("n flags;\n *              Null: none is set", text))
+            self.make()
+            self.assertIn("flags (Integer) may be null", self.declarations()[0])
+            self.assertIn("`flags` [in, may be null]", self.read("docs/reference.md"))
+        self.functions(SUM.replace("n flags;\n *              Null: none is set", "n flags; not null unless n is 0"))
+        self.make()
+        self.assertNotIn("may be null", self.declarations()[0])
+        self.assertIn("`flags` [in, not null]", self.read("docs/reference.md"))
+
+    def test_declares_every_type(self):
+        self.functions(
+            """\
+/**
+ * Takes all.
+ *
+ * @param a -1: yes
+ * @param b [in] one integer
+ * @param c [out] one flag
+ * @param d [inout] 2 by 3 texts
+ * @param e [in] one text
+ * @param f [in] host array of Double
+ * @param g [in] host array of Boolean
+ * @param h [inout] host array of String
+ * @param i [in] chunks
+ * @param j [in] record
+ * @param k [in] record
+ * @param l [in] record
+ * @param m [in] one cell
+ * @param n [in] label
+ */
+KORVEL_FLAT void VB_All(short int a, const int* b, short int* c, OLECHAR** d, const OLECHAR* e, SAFEARRAY** f,
+                        SAFEARRAY** g, SAFEARRAY** h, Hostarray** i, ST_Vect* j, ST_MVect* k, ST_QualiInfo* l,
+                        const VARIANT* m,
+                        const char* n);
+"""
+        )
+        self.make()
+        self.assertEqual(
+            " ".join(line.strip(" _") for line in self.declarations()[1:]),
+            'Public Declare PtrSafe Sub VB_All Lib "KORVELMathTools.dll" ( ByVal a As Integer, ByRef b As Long, '
+            "ByRef c As Integer, ByVal d As LongPtr, ByVal e As LongPtr, ByRef f() As Double, ByRef g() As Boolean, "
+            "ByVal h As LongPtr, ByVal i As LongPtr, ByVal j As LongPtr, ByVal k As LongPtr, ByVal l As LongPtr, "
+            "ByRef m As Variant, ByVal n As String)",
+        )
+
+    def test_renames_what_visual_basic_cannot_say(self):
+        self.functions(
+            """\
+/**
+ * Names.
+ *
+ * @param next a word of the language
+ * @param k a name
+ * @param K the same name, cases being the same
+ * @return a block
+ */
+KORVEL_FLAT OLECHAR** Open(int next, int k, int K);
+/** The same name, cases being the same. */
+KORVEL_FLAT void openValue(void);
+"""
+        )
+        self.make()
+        self.assertEqual(
+            self.declarations(),
+            [
+                "' Names.",
+                'Public Declare PtrSafe Function OpenValue Lib "KORVELMathTools.dll" Alias "Open" ( _',
+                "    ByVal nextValue As Long, ByVal k As Long, ByVal K2 As Long) As LongPtr",
+                "",
+                "' The same name, cases being the same.",
+                'Public Declare PtrSafe Sub openValue2 Lib "KORVELMathTools.dll" Alias "openValue" ()',
+            ],
+        )
+
+    def many_parameters(self, count):
+        names = [f"parameter_with_a_long_name_{k}" for k in range(count)]
+        described = "".join(f" * @param {name} a number\n" for name in names)
+        declared = ",\n    ".join(f"int {name}" for name in names)
+        self.functions(f"/**\n * Many.\n *\n{described} */\nKORVEL_FLAT void VB_Many({declared});\n")
+
+    def test_keeps_to_the_limits_of_visual_basic(self):
+        self.many_parameters(40)
+        self.make()
+        lines = self.declarations()[1:]
+        self.assertLessEqual(len(lines), 25)
+        self.assertTrue(all(line.endswith(" _") for line in lines[:-1]))
+        self.assertLessEqual(max(map(len, lines)), 1023)
+
+    def test_says_what_visual_basic_cannot_declare(self):
+        self.many_parameters(61)
+        code, errors = self.run_tool("generate")
+        self.assertEqual(code, 1)
+        self.assertIn("VB_Many: more than 60 parameters", errors[0])
+
+    def test_reference_page(self):
+        self.functions(SUM.replace("Adds upwards.", "Adds x[0] * `x[1]`.\n *\n * Rounds:\n * - up\n * - down"))
+        self.make()
+        page = self.read("docs/reference.md")
+        self.assertIn("\nWhat is common to all.\n", page)
+        self.assertIn("\n- [sample.h](#sampleh): Flat functions: samples.\n", page)
+        self.assertTrue(
+            page.endswith(
+                textwrap.dedent(
+                    """\
+                    ## sample.h
+
+                    Flat functions: samples.
+
+                    ### VB_Sum
+
+                    ```c
+                    double VB_Sum(const double* x, int n, const short int* flags);
+                    ```
+
+                    Sums a vector, e.g. of weights. Adds x\\[0\\] \\* `x[1]`.
+
+                    Rounds:
+
+                    - up
+                    - down
+
+                    - `x` [in, not null]: n numbers
+                    - `n`: their number
+                    - `flags` [in, may be null]: n flags; Null: none is set
+                    - Result: the sum
+                    """
+                )
+            ),
+            page,
+        )
+
+    def test_takes_over_what_another_function_says(self):
+        self.functions(SUM + LIKE)
+        self.make()
+        page = self.read("docs/reference.md")
+        self.assertTrue(
+            page.endswith(
+                textwrap.dedent(
+                    """\
+                    Sums integers.
+
+                    - `x` [in, not null]: n integers
+                    - `n`: length of x
+                    - `flags` [in, may be null]: n flags; Null: none is set
+                    - Result: the sum
+                    """
+                )
+            ),
+            page,
+        )
+
+    def test_check_names_each_file_that_differs(self):
+        self.functions(SUM)
+        self.assertEqual(self.run_tool("generate", "--check")[0], 1)
+        self.make()
+        self.assertEqual(self.run_tool("generate", "--check"), (0, []))
+        self.functions(SUM.replace("VB_Sum", "VB_Total"))
+        code, errors = self.run_tool("generate", "--check")
+        self.assertEqual(code, 1)
+        self.assertEqual(
+            errors,
+            [
+                f"{name}: differs from what the headers say; run tools/generate"
+                for name in (
+                    "exports/flat.txt",
+                    "bindings/KORVELMathTools.def",
+                    "bindings/vba/KORVELMathTools.bas",
+                    "docs/reference.md",
+                )
+            ],
+        )
+        self.assertEqual(self.read("exports/flat.txt"), "VB_Sum\n")
+
+    def test_version_header(self):
+        self.functions(SUM)
+        self.make()
+        header = self.read("include/korvelmathtools/platform/version.h").splitlines()
+        self.assertEqual(
+            [line for line in header if line.startswith("#define KORVEL_VERSION")],
+            [
+                '#define KORVEL_VERSION "1.20.3"',
+                "#define KORVEL_VERSION_MAJOR 1",
+                "#define KORVEL_VERSION_MINOR 20",
+                "#define KORVEL_VERSION_PATCH 3",
+                "#define KORVEL_VERSION_NUMBER 12003",
+            ],
+        )
+
+    def test_puts_the_core_list_in_order(self):
+        self.functions(SUM)
+        self.write("exports/core.txt", "b()\na()\nb()\n")
+        self.make()
+        self.assertEqual(self.read("exports/core.txt"), "a()\nb()\n")
+
+
+if __name__ == "__main__":
+    unittest.main()
