@@ -24,40 +24,6 @@ const double aboveZeroTest = std::nextafter(1e-18, 1.0);
 using positions = std::vector<int>;
 using numbers = std::vector<double>;
 
-/** A table of 3 by 4 with entries in the columns 0, 1, 2 and 3, and row starts that a caller has written. */
-matrixSparse withRowStart(positions rowStart)
-{
-    matrixSparse m(3, 4, 0.0, false);
-    m.nnz = 4;
-    m.colIndex = {0, 1, 2, 3};
-    m.values = {1.0, 2.0, 3.0, 4.0};
-    m.rowStart = std::move(rowStart);
-    return m;
-}
-
-/** The entries of rows -1 to 3 as every reader meets them, which is inside of the arrays. */
-std::vector<numbers> rowsOf(matrixSparse& m)
-{
-    std::vector<numbers> rows;
-    for (int i = -1; i <= 3; ++i) {
-        const korvel::entry_range row = korvel::entriesOfRow(m, i);
-        EXPECT_LE(row.first, row.last);
-        EXPECT_LE(row.last, std::min(m.colIndex.size(), m.values.size()));
-        numbers& found = rows.emplace_back();
-        for (std::size_t k = row.first; k < std::min(row.last, m.values.size()); ++k) {
-            found.push_back(m.values[k]);
-            EXPECT_EQ(m.getElement(i, m.colIndex[k]), m.values[k]);
-        }
-    }
-    const matrix<double> dense = m.to_matrix();
-    for (int i = 0; i < 3; ++i) {
-        for (int j = 0; j < 4; ++j) {
-            EXPECT_EQ(dense.getElement(i, j), m.getElement(i, j)) << i << ", " << j;
-        }
-    }
-    return rows;
-}
-
 } // namespace
 
 TEST(SparseMatrix, KeepsItsFieldsInTheOrderThatSiblingsKnow)
@@ -291,91 +257,6 @@ TEST(SparseMatrix, FollowsAMapThroughRandomWrites)
     }
 }
 
-TEST(SparseMatrix, AFilledTableHasTheTruncatedValueForItsColumns)
-{
-    const matrixSparse m(2, 2, 3.7, false);
-    EXPECT_EQ(m.nnz, 4);
-    EXPECT_EQ(m.rowStart, (positions{0, 2, 4}));
-    EXPECT_EQ(m.colIndex, (positions{3, 3, 3, 3}));
-    EXPECT_EQ(m.values, (numbers{3.7, 3.7, 3.7, 3.7}));
-    EXPECT_EQ(m.getElement(0, 0), 0.0);
-    EXPECT_EQ(m.getElement(0, 2), 0.0);
-    EXPECT_EQ(m.getElement(0, 3), -1.0) << "column 3 is past the count, whatever is stored";
-
-    const matrixSparse ones(2, 3, -0.5, true);
-    EXPECT_EQ(ones.nnz, 6);
-    EXPECT_EQ(ones.rowStart, (positions{0, 3, 6}));
-    EXPECT_EQ(ones.getElement(1, 0), -0.5);
-    EXPECT_EQ(ones.getElement(1, 1), 0.0);
-}
-
-TEST(SparseMatrix, AFillValueWithoutAnIntegerGivesTheSmallestColumn)
-{
-    constexpr int smallest = std::numeric_limits<int>::min();
-    for (const double value : {notANumber, infinity, -infinity, 1e300, 2147483648.0, -2147483649.0}) {
-        const matrixSparse m(1, 1, value, false);
-        EXPECT_EQ(m.colIndex, (positions{smallest})) << value;
-        EXPECT_SAME_BITS(m.values.at(0), value);
-    }
-    EXPECT_EQ(matrixSparse(1, 1, 2147483647.5, false).colIndex, (positions{2147483647}));
-    EXPECT_EQ(matrixSparse(1, 1, -2000000000.5, false).colIndex, (positions{-2000000000}));
-    EXPECT_EQ(matrixSparse(1, 1, -2147483648.9, false).colIndex, (positions{smallest}));
-}
-
-TEST(SparseMatrix, AFillValueUpToTheThresholdGivesNoEntries)
-{
-    for (const double value : {0.0, 1e-18, -1e-18, belowZeroTest}) {
-        const matrixSparse m(2, 2, value, false);
-        EXPECT_EQ(m.nnz, 0) << value;
-        EXPECT_TRUE(m.values.empty());
-        EXPECT_EQ(m.rowStart, (positions{0, 0, 0}));
-    }
-    EXPECT_EQ(matrixSparse(2, 2, aboveZeroTest, false).nnz, 4);
-    EXPECT_EQ(matrixSparse(2, 2, -aboveZeroTest, false).nnz, 4);
-}
-
-TEST(SparseMatrix, AReservedTableCountsTheRoomAsEntries)
-{
-    matrixSparse m(2, 2, 0.0, true);
-    EXPECT_EQ(m.nnz, 4);
-    EXPECT_TRUE(m.values.empty());
-    EXPECT_TRUE(m.colIndex.empty());
-    EXPECT_GE(m.values.capacity(), 4u);
-    EXPECT_GE(m.colIndex.capacity(), 4u);
-    const std::int64_t before = korvel::test::allocationCount();
-    m.setElement(0, 0, 1.0);
-    m.setElement(1, 1, 1.0);
-    EXPECT_EQ(korvel::test::allocationCount(), before);
-    EXPECT_EQ(m.nnz, 6);
-    m.setElement(0, 0, 0.0);
-    EXPECT_EQ(m.nnz, 5);
-}
-
-TEST(SparseMatrix, ATableThatCannotBeHadIsNotMade)
-{
-    EXPECT_THROW(matrixSparse(-2, 1, 0.0, false), std::length_error);
-    EXPECT_THROW(matrixSparse(2, -1, 1.0, false), std::length_error);
-    EXPECT_THROW(matrixSparse(2, -1, 0.0, true), std::length_error);
-    EXPECT_THROW(matrixSparse(46341, 46341, 1.0, false), std::length_error);
-    matrixSparse m(2, 2, 1.0, false);
-    EXPECT_THROW(m.Redim(2, -1, 1.0), std::length_error);
-    EXPECT_TRUE(sameStorage(m, {}));
-}
-
-TEST(SparseMatrix, ACountThatWrapsReadsNothingOutside)
-{
-    // 65537 rows of 65536 columns are 65536 elements in 32 bits; the starts of the rows run past them.
-    matrixSparse m(65537, 65536, 2.0, false);
-    EXPECT_EQ(m.nnz, 65536);
-    EXPECT_EQ(m.getElement(0, 2), 2.0);
-    for (const int i : {1, 32768, 65535}) {
-        EXPECT_EQ(m.getElement(i, 2), 0.0) << i;
-    }
-    EXPECT_EQ(m.getElement(65536, 2), 2.0) << "the start of the last row has come round to 0";
-    m.setElement(1, 5, 1.0);
-    EXPECT_EQ(m.values.size(), 65537u);
-}
-
 TEST(SparseMatrix, CopiesDeeply)
 {
     matrixSparse m(2, 2, 0.0, false);
@@ -471,60 +352,6 @@ TEST(SparseMatrix, TheLastOfTwoEntriesStaysInTheDenseTable)
     m.rowStart = {0, 2};
     EXPECT_EQ(m.getElement(0, 1), 8.0);
     EXPECT_EQ(m.to_matrix().data[1], 9.0);
-}
-
-TEST(SparseMatrix, ARowWhoseStartIsNotThereHasNoEntries)
-{
-    auto shorter = withRowStart({0, 2, 3});
-    EXPECT_EQ(rowsOf(shorter), (std::vector<numbers>{{}, {1.0, 2.0}, {3.0}, {}, {}}));
-    shorter.setElement(2, 0, 9.0);
-    EXPECT_EQ(shorter.values.size(), 4u) << "and keeps none";
-    auto one = withRowStart({0});
-    EXPECT_EQ(rowsOf(one), std::vector<numbers>(5));
-    auto none = withRowStart({});
-    EXPECT_EQ(rowsOf(none), std::vector<numbers>(5));
-    none.setElement(0, 0, 9.0);
-    EXPECT_EQ(none.values.size(), 4u);
-}
-
-TEST(SparseMatrix, ANegativeStartIsTheFirstPosition)
-{
-    constexpr int least = std::numeric_limits<int>::min();
-    auto first = withRowStart({-1, 2, 3, 4});
-    EXPECT_EQ(rowsOf(first), (std::vector<numbers>{{}, {1.0, 2.0}, {3.0}, {4.0}, {}}));
-    auto middle = withRowStart({0, least, 3, 4});
-    EXPECT_EQ(rowsOf(middle), (std::vector<numbers>{{}, {}, {1.0, 2.0, 3.0}, {4.0}, {}}));
-    auto all = withRowStart({-4, -3, -2, -1});
-    EXPECT_EQ(rowsOf(all), std::vector<numbers>(5));
-    all.setElement(0, 3, 9.0);
-    EXPECT_EQ(all.values, (numbers{9.0, 1.0, 2.0, 3.0, 4.0}));
-}
-
-TEST(SparseMatrix, ARowThatEndsBeforeItStartsHasNoEntries)
-{
-    auto m = withRowStart({3, 1, 4, 2});
-    EXPECT_EQ(rowsOf(m), (std::vector<numbers>{{}, {}, {2.0, 3.0, 4.0}, {}, {}}));
-    m.setElement(0, 0, 9.0);
-    EXPECT_EQ(m.values, (numbers{1.0, 9.0, 2.0, 3.0, 4.0})) << "a new entry goes where the row ends";
-}
-
-TEST(SparseMatrix, AStartPastTheArraysIsTheirEnd)
-{
-    constexpr int largest = std::numeric_limits<int>::max();
-    auto m = withRowStart({0, 3, 5, largest});
-    EXPECT_EQ(rowsOf(m), (std::vector<numbers>{{}, {1.0, 2.0, 3.0}, {4.0}, {}, {}}));
-    auto all = withRowStart({5, 6, 7, 8});
-    EXPECT_EQ(rowsOf(all), std::vector<numbers>(5));
-    all.setElement(0, 0, 9.0);
-    EXPECT_EQ(all.values, (numbers{1.0, 2.0, 3.0, 4.0, 9.0}));
-
-    // Of arrays of two lengths the shorter one counts.
-    auto fewerColumns = withRowStart({0, 2, 4, 4});
-    fewerColumns.colIndex.resize(3);
-    EXPECT_EQ(rowsOf(fewerColumns), (std::vector<numbers>{{}, {1.0, 2.0}, {3.0}, {}, {}}));
-    auto fewerValues = withRowStart({0, 2, 4, 4});
-    fewerValues.values.resize(1);
-    EXPECT_EQ(rowsOf(fewerValues), (std::vector<numbers>{{}, {1.0}, {}, {}, {}}));
 }
 
 TEST(SparseMatrix, AFailedInsertionLeavesTheTableAsItWas)

@@ -6,6 +6,8 @@
 
 #include <initializer_list>
 #include <random>
+#include <utility>
+#include <vector>
 
 namespace korvel::test
 {
@@ -39,6 +41,28 @@ inline matrix<double> randomTable(std::mt19937_64& generator, int rows, int cols
     for (std::uint64_t k = 0; k < m.nbElem; ++k) {
         m.data[k] = generator() % oneIn == 0 ? uniform(generator) : 0.0;
     }
+    return m;
+}
+
+/** Column and value. */
+using entry = std::pair<int, double>;
+using entry_rows = std::vector<std::vector<entry>>;
+
+/** A table of `cols` columns with these entries in its rows, in this order. */
+inline matrixSparse tableOfRows(int cols, const entry_rows& rows)
+{
+    matrixSparse m;
+    m.nbrows = static_cast<int>(rows.size());
+    m.nbcols = cols;
+    m.rowStart = {0};
+    for (const auto& row : rows) {
+        for (const auto& [column, value] : row) {
+            m.colIndex.push_back(column);
+            m.values.push_back(value);
+        }
+        m.rowStart.push_back(static_cast<int>(m.values.size()));
+    }
+    m.nnz = m.rowStart.back();
     return m;
 }
 
