@@ -121,6 +121,26 @@ TEST(Gauss, KeepsTheFirstOfNearlyEqualElements)
     }
 }
 
+TEST(Gauss, TakesAnElementThatIsLargerByMoreThanTheLimitItself)
+{
+    // Without swapping, the pivot of the first column changes its cell, and that of the second is 0 at once.
+    const auto firstCellAfter = [](double other) {
+        matrix<double> A = tableOf({{2, other}, {0, 0}});
+        matrix<double> B(2, 1, 1.0);
+        EXPECT_EQ(M_Gauss(&A, 2, 0, &B, true, false), -2);
+        return A.getElement(0, 0);
+    };
+    EXPECT_SAME_BITS(firstCellAfter(2 + std::ldexp(2251.0, -51)), 0.5);
+    EXPECT_SAME_BITS(firstCellAfter(2 + std::ldexp(2252.0, -51)), 2.0)
+        << "by 1.00009e-12, as it is subtracted";
+    matrix<double> limit = tableOf({{0, 1e-12}, {1e-12, 0}});
+    matrix<double> B(2, 1, 1.0);
+    EXPECT_EQ(M_Gauss(&limit, 2, 0, &B, false, false), -2) << "no element stands out";
+    const double over = std::nextafter(1e-12, 1.0);
+    limit = tableOf({{0, over}, {over, 0}});
+    EXPECT_EQ(M_Gauss(&limit, 2, 0, &B, false, false), 0);
+}
+
 TEST(Gauss, TakesTheDiagonalInOrderWhereNoElementStandsOut)
 {
     // All are below 1e-12: 4e-13 would be the larger pivot, but no pivot is searched for.

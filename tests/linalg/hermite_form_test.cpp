@@ -72,6 +72,7 @@ TEST(HermiteForm, ClearsARowWhoseDiagonalIsNegligible)
 {
     expectCells(reduced(M_ForwardDoolittle, tableOf({{1e-12, 3}, {3, 5}})), tableOf({{0, 0}, {3, 1}}));
     expectCells(reduced(M_ForwardDoolittle, tableOf({{1, 2}, {2, 4 + 1e-13}})), tableOf({{1, 2}, {0, 0}}));
+    expectCells(reduced(M_ForwardDoolittle, tableOf({{1, 0}, {0, 1e-12}})), tableOf({{1, 0}, {0, 0}}));
     const double over = std::nextafter(1e-12, 1.0);
     const matrix<double> kept = reduced(M_ForwardDoolittle, tableOf({{over, 0}, {0, 5}}));
     EXPECT_SAME_BITS(kept.getElement(0, 0), 1.0) << "the test includes equality, and no more";
