@@ -199,3 +199,17 @@ TEST(LeastSquaresBlocks, CopiesNoTable)
         EXPECT_LT(takeLargestAllocation(), std::int64_t{8} * n) << "not even one column; " << noConstant;
     }
 }
+
+TEST(LeastSquaresBlocks, ResetsTheVarianceOfTheInterceptWhenTheWeightsLeaveNoFreedom)
+{
+    // Five rows of weights that add up to 3, two terms and the constant: the weights are used up, the rows
+    // are not.
+    split_fit fit({1.0, 2.0, 3.0, 4.0, 6.0, 2.0, 1.0, 4.0, 3.0, 7.0}, {1.0, 3.0, 2.0, 5.0, 4.0}, 1);
+    const double weights[] = {0.5, 0.5, 0.5, 0.5, 1.0};
+    for (int i = 0; i < fit.n; ++i) {
+        fit.weights[i] = weights[i];
+    }
+    fit.run(5.0);
+    EXPECT_GT(fit.errors[0], 0.0);
+    EXPECT_SAME_BITS(fit.errors[2], 0.0);
+}

@@ -379,3 +379,47 @@ TEST(OlsCheckIfIn, NeverReturnsLessThanTheToleranceForAPivotAboveIt)
         }
     }
 }
+
+TEST(LeastSquares, WithoutAConstantRefusesATermOfTinyDeviation)
+{
+    // The square of its deviation is below the machine epsilon, so its element of the diagonal is 0.
+    small_fit fit({1e-9, 2e-9, 3e-9}, {1.0, 2.0, 4.0});
+    fit.noConstant = -1;
+    fit.run();
+    EXPECT_SAME_BITS(fit.coefficients[0], 0.0);
+    EXPECT_SAME_BITS(fit.deviations[0], 0.0);
+}
+
+TEST(LeastSquares, WritesTheCoefficientOfATermThatDeviatesByMoreThanItsLimit)
+{
+    for (const double deviation : {1e-9, 1e-11, 1e-13}) {
+        small_fit fit({deviation, 2.0 * deviation, 3.0 * deviation}, {1.0, 2.0, 3.0});
+        fit.run(5.0);
+        if (deviation > 1e-12) {
+            EXPECT_NEAR(fit.coefficients[0] * deviation, 1.0, 1e-12) << deviation;
+        } else {
+            EXPECT_SAME_BITS(fit.coefficients[0], 5.0) << deviation;
+        }
+    }
+}
+
+TEST(LeastSquares, LeavesPairsOfTinyDeviationsOutOfTheErrorOfTheIntercept)
+{
+    for (const double scale : {1.0, 1e-9}) {
+        small_fit fit({1.0 * scale, 2.0 * scale, 3.0 * scale, 4.0 * scale, 6.0 * scale, 2.0 * scale,
+                       1.0 * scale, 4.0 * scale, 3.0 * scale, 7.0 * scale},
+                      {1.0, 3.0, 2.0, 5.0, 4.0});
+        fit.run();
+        const double r = fit.swept.getElement(2, 2);
+        double variance = fit.deviations[2] * fit.deviations[2] * 4.0 * r / 2.0 / 5.0;
+        for (int k = 0; k < 2; ++k) {
+            variance += std::pow(fit.means[k] * fit.errors[k], 2.0);
+        }
+        const double share = fit.errors[2] / std::sqrt(variance);
+        if (scale == 1.0) {
+            EXPECT_GT(std::fabs(share - 1.0), 0.01);
+        } else {
+            EXPECT_NEAR(share, 1.0, 1e-12);
+        }
+    }
+}

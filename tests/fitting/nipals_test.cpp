@@ -218,3 +218,18 @@ TEST(Nipals, IsThePlainOne)
     }
     EXPECT_GT(compared, 300);
 }
+
+TEST(Nipals, TakesAVariableOfASmallDeviationForAConstantAndEndsWhereNothingChanges)
+{
+    // The first variable deviates by less than 1e-6, so that the second alone makes the component. Its
+    // loadings are the same at the second pass: their changes have the variance 0, which a tolerance of 0
+    // reaches.
+    small_table table(4, {1.0, 1.0 + 5e-7, gone, 1.0, 1.0, 5.0, 9.0, 2.0});
+    for (int i = 0; i < 4; ++i) {
+        table.weights[i] = 100.0;
+    }
+    table.tolerance = 0.0;
+    EXPECT_EQ(table.run(), 0);
+    const double mean = (100.0 + 100.0 * (1.0 + 5e-7) + 100.0) / 300.0;
+    EXPECT_SAME_BITS(table.cell(2, 0), mean / 100.0);
+}

@@ -67,6 +67,26 @@ TEST(FlatSingularValues, WhatDoesNotConverge)
     EXPECT_EQ(valuesOf(info)[0], -2);
 }
 
+// A wide table has one more value than columns of u, and an infinity makes steps that would turn that column
+// too.
+TEST(FlatSingularValues, OfAWideTableStayWithinItsVectors)
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const std::vector<numbers> columns{{0, 0}, {0, -infinity}, {0, 1}, {-2, -1}};
+    guarded a(numbers{0, 0, 0, -infinity, 0, 1, -2, -1});
+    guarded s(numbers(4, 9.0));
+    guarded u(numbers(4, 9.0));
+    guarded info({9});
+    EXPECT_EQ(VB_M_SVDecomp(a.data(), 2, 4, s.data(), u.data(), nullptr, 10, info.data()), 0);
+    caller_columns chunks(columns);
+    caller_columns vectors({{9, 9}, {9, 9}});
+    guarded ofChunks(numbers(4, 9.0));
+    SAFEARRAY* none = nullptr;
+    EXPECT_EQ(VB_M_SVDecompSPV(chunks.argument(), 2, 4, ofChunks.data(), vectors.argument(),
+                               reinterpret_cast<Hostarray**>(&none), 10, info.data()),
+              0);
+}
+
 TEST(FlatSingularValues, OfChunks)
 {
     caller_columns a({{0, 3, 0}, {5, 0, 0}});
