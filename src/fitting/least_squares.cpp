@@ -112,18 +112,14 @@ void OLSBasic3(int n, int p, matrix<double>* X, matrix<double>* Y, matrix<double
         korvel::fillWithoutConstant(columns, heldWeights, sumOfWeights, hasProduct, fit);
     }
 
-    int entered = fit.terms;
-    fit.sweepTerms(tolerance, [&](int k) {
-        fit.set(fit.response, k, 0.0);
-        --entered;
-    });
+    fit.sweepTerms(tolerance, [&](int k) { fit.set(fit.response, k, 0.0); });
     writeSwept(fit, *sweptMatrix);
     for (int k = 0; k < fit.response; ++k) {
         storeChecked(*means, k, fit.means.data[k]);
         storeChecked(*standardDeviations, k, fit.deviations.data[k]);
     }
 
-    const double df = sumOfWeights - (hasConstant ? entered + 1 : entered);
+    const double df = sumOfWeights - (hasConstant ? fit.entered + 1 : fit.entered);
     const bool isDetermined = df > machineEpsilon && sumOfWeights > machineEpsilon;
     for (int k = 1; k <= fit.terms; ++k) {
         if (!fit.hasCoefficient(k)) {

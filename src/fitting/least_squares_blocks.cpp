@@ -100,6 +100,9 @@ void OLSBasic2Lg(int n, int p1, matrix<double>* X1, int p2, matrix<double>* X2, 
                  matrix<double>* weights, int degree, short int noConstant, double tolerance,
                  matrix<double>* coefficients, matrix<double>* standardErrors, matrix<double>* fitted)
 {
+    if (degree != 1) {
+        return;
+    }
     term_columns columns(n);
     std::vector<column_range> ranges;
     for (const block& given : {block{p1, X1}, {p2, X2}, {p3, X3}, {p4, X4}, {p5, X5}}) {
@@ -108,7 +111,7 @@ void OLSBasic2Lg(int n, int p1, matrix<double>* X1, int p2, matrix<double>* X2, 
             columns.add(*given.table, given.cols);
         }
     }
-    if (degree != 1 || columns.size() == 0) {
+    if (columns.size() == 0) {
         return;
     }
     swept_fit fit(columns.size());

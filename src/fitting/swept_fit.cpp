@@ -131,7 +131,7 @@ int orderOf(int terms)
 } // namespace
 
 swept_fit::swept_fit(int termCount)
-    : terms(termCount), response(orderOf(terms)), packed(packedElements(response), 1, 0.0),
+    : terms(termCount), response(orderOf(terms)), entered(terms), packed(packedElements(response), 1, 0.0),
       means(response, 1, 0.0), deviations(response, 1, 0.0)
 {
 }
@@ -156,7 +156,9 @@ double swept_fit::intercept(const matrix<double>& coefficients, const matrix<dou
 {
     double found = mean(response);
     for (int k = 1; k <= terms; ++k) {
-        found -= mean(k) * coefficients[k - 1];
+        if (entered > 0) {
+            found -= mean(k) * coefficients[k - 1];
+        }
         const double part = mean(k) * standardErrors[k - 1];
         variance += part * part;
     }
@@ -188,12 +190,12 @@ void writeFitted(const term_columns& columns, int terms, const matrix<double>& c
         [&](auto& to) {
             for (int first = 0; first < columns.rows(); first += atOnce) {
                 const int count = std::min(atOnce, columns.rows() - first);
-                std::fill_n(sums.begin(), count, coefficients[terms]);
+                std::fill_n(sums.begin(), count, 0.0);
                 for (int k = 0; k < terms; ++k) {
                     addTerm(coefficients[k], columns[k] + first, count, sums.data());
                 }
                 for (int i = 0; i < count; ++i) {
-                    to.set(first + i, sums[static_cast<std::size_t>(i)]);
+                    to.set(first + i, coefficients[terms] + sums[static_cast<std::size_t>(i)]);
                 }
             }
         },

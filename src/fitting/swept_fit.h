@@ -26,6 +26,7 @@ struct swept_fit {
 
     int terms;
     int response; ///< number of the response
+    int entered;  ///< terms that were not refused
     matrix<double> packed;
     matrix<double> means;
     matrix<double> deviations; ///< 0 for a refused term
@@ -65,14 +66,16 @@ struct swept_fit {
                 M_Sweep(&packed, response, k);
             } else {
                 deviation(k) = 0.0;
+                --entered;
                 refuse(k);
             }
         }
     }
 
     /**
-     * The intercept: the response's mean less the terms' means times their coefficients. And the variance of
-     * it: `variance` with the squares of the means times the standard errors added.
+     * The intercept: the response's mean less the terms' means times their coefficients; the mean alone when
+     * every term was refused, whatever stands in the place of their coefficients. And the variance of it:
+     * `variance` with the squares of the means times the standard errors added.
      */
     [[nodiscard]] double intercept(const matrix<double>& coefficients, const matrix<double>& standardErrors,
                                    double& variance) const;
@@ -106,7 +109,8 @@ using deviations_test = bool (*)(double si, double sj);
 void fillWithoutConstant(term_columns& columns, matrix<double>& weights, double sumOfWeights,
                          deviations_test isDefined, swept_fit& fit);
 
-/** The fitted values: the last coefficient, and those of the terms times their cells that are not missing. */
+/** The fitted values: the last coefficient plus the sum, from 0.0, of those of the terms times their cells
+ * that are not missing. */
 void writeFitted(const term_columns& columns, int terms, const matrix<double>& coefficients,
                  matrix<double>& fitted);
 

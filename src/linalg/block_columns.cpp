@@ -26,9 +26,9 @@ void sumRows(const double* first, std::ptrdiff_t stride, const double* factors, 
 
 } // namespace
 
-std::vector<run_of_rows> runsOf(const line_kinds& rows)
+std::vector<run_of_kind> runsOf(const line_kinds& rows)
 {
-    std::vector<run_of_rows> runs;
+    std::vector<run_of_kind> runs;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         if (i == 0 || rows[i] != rows[i - 1]) {
             runs.push_back({rows[i], static_cast<std::ptrdiff_t>(i), 0});
@@ -88,7 +88,7 @@ void block_columns::formColumn(const entry& block, int j)
         std::fill_n(to, product.rows, 0.0);
         return;
     }
-    for (const run_of_rows& run : block.runs) {
+    for (const run_of_kind& run : block.runs) {
         double* const out = to + run.first;
         if (run.kind == line_kind::diagonal) {
             for (std::ptrdiff_t i = 0; i < run.count; ++i) {

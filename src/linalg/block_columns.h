@@ -12,13 +12,13 @@ namespace korvel
 {
 
 /** Rows of one kind that stand one below the other. */
-struct run_of_rows {
+struct run_of_kind {
     line_kind kind;
     std::ptrdiff_t first;
     std::ptrdiff_t count;
 };
 
-[[nodiscard]] std::vector<run_of_rows> runsOf(const line_kinds& rows);
+[[nodiscard]] std::vector<run_of_kind> runsOf(const line_kinds& rows);
 
 /** The diagonal of the left operand, as far as it goes. */
 [[nodiscard]] std::vector<double> diagonalOf(const stripe_product& form);
@@ -39,7 +39,7 @@ public:
 private:
     struct entry {
         stripe_product product;
-        std::vector<run_of_rows> runs;
+        std::vector<run_of_kind> runs;
         std::vector<double> diagonal;
     };
 

@@ -126,7 +126,7 @@ public:
         formSums();
         const std::vector<double> diagonal = diagonalOf(form_);
         for (int j = 0; j < form_.cols; ++j) {
-            for (const run_of_rows& run : runs_) {
+            for (const run_of_kind& run : runs_) {
                 formRun(run, j, diagonal.data());
             }
         }
@@ -159,7 +159,7 @@ private:
                 to.push_back(result(j));
             }
         }
-        for (const run_of_rows& run : runs_) {
+        for (const run_of_kind& run : runs_) {
             if (run.kind != line_kind::summed || to.empty()) {
                 continue;
             }
@@ -171,7 +171,7 @@ private:
         }
     }
 
-    void formRun(const run_of_rows& run, int j, const double* diagonal) const
+    void formRun(const run_of_kind& run, int j, const double* diagonal) const
     {
         double* const to = result(j) + run.first;
         const double* factors = nullptr;
@@ -199,7 +199,7 @@ private:
     const stripe_product& form_;
     const line_kinds& cols_;
     block_side block_;
-    std::vector<run_of_rows> runs_;
+    std::vector<run_of_kind> runs_;
 };
 
 double checkedCell(const stripe_product& form, int r, int j, meeting lines)

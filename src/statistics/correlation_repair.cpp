@@ -41,12 +41,13 @@ matrix<double> diagonalOfOnes(int n)
     return made;
 }
 
-/** Symmetric, with a diagonal of ones. */
-bool hasUnitDiagonal(const matrix<double>& table)
+/** Symmetric, with a diagonal of ones and no cell above 1 in magnitude. */
+bool looksLikeCorrelations(const matrix<double>& table)
 {
     for (int j = 0; j < table.nbcols; ++j) {
         for (int i = j; i < table.nbrows; ++i) {
-            if (table.getElement(i, j) != (i == j ? 1.0 : table.getElement(j, i))) {
+            const double cell = table.getElement(i, j);
+            if (cell != (i == j ? 1.0 : table.getElement(j, i)) || std::fabs(cell) > 1.0) {
                 return false;
             }
         }
@@ -67,7 +68,7 @@ public:
         matrix<double> correction(n, n, 0.0);
         matrix<double> difference(n, n, 0.0);
         matrix<double> projected(n, n, 0.0);
-        const bool mayStay = hasUnitDiagonal(table);
+        const bool mayStay = looksLikeCorrelations(table);
         double change = 0.0;
         for (bool first = true; first || change > tolerance; first = false) {
             M_Sums1As2B(&table, n, n, &correction, 1.0, -1.0, &corrected);

@@ -117,26 +117,34 @@ TEST(LeastSquaresBlocks, HasErrorsOfZeroWithOneRowMoreThanTerms)
 
 TEST(LeastSquaresBlocks, StartsTheInterceptsErrorAtZeroWithOneRowMoreThanTerms)
 {
-    // One term, so that no pair resets the sum, and weights that leave W - P - 1 above 0.
-    split_fit fit({1, 2}, {1, 5}, 1);
+    // One term, so that no pair resets the sum; refused, so that the response is not explained; and weights
+    // that leave W - P - 1 above 0.
+    split_fit fit({5, 5}, {1, 5}, 1);
     fit.weights[0] = 3.0;
     fit.run(7.0);
+    EXPECT_SAME_BITS(fit.coefficients[0], 7.0);
+    EXPECT_SAME_BITS(fit.coefficients[1], 2.0) << "the mean, whatever stood in the place of the coefficient";
     EXPECT_SAME_BITS(fit.errors[0], 0.0);
     EXPECT_SAME_BITS(fit.errors[1], 0.0);
 }
 
 TEST(LeastSquaresBlocks, HasMissingErrorsWithFewerRowsThanCoefficients)
 {
-    split_fit fit({1, 2, 4, 1}, {1, 5}, 1);
-    fit.tolerance = -1.0;
+    // The second and third term are the first one again.
+    split_fit fit({1, 2, 4, 1, 2, 4, 1, 2, 4}, {1, 5, 2}, 1);
     fit.run(7.0);
-    // Of the second term nothing is left: its pivot of 0 is swept, and gives no number.
-    EXPECT_TRUE(std::isnan(fit.errors[0]) || fit.errors[0] == MISSING_DBL);
-    split_fit refused({1, 2, 4, 1}, {1, 6}, 1);
-    refused.Y[1] = MISSING_DBL;
-    refused.weights[0] = 2.0;
-    refused.run(7.0);
-    EXPECT_SAME_BITS(refused.errors[1], 0.0) << "refused";
+    EXPECT_SAME_BITS(fit.errors[0], MISSING_DBL);
+    EXPECT_SAME_BITS(fit.errors[1], 0.0) << "refused";
+    EXPECT_SAME_BITS(fit.errors[2], 0.0) << "refused";
+}
+
+TEST(LeastSquaresBlocks, OfAnotherDegreeReadsNothing)
+{
+    matrix<double> weights(2, 1, 1.0);
+    matrix<double> untouched(2, 1, 7.0);
+    OLSBasic2Lg(2, 1, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, nullptr, &weights, 2, 0, 1e-12,
+                &untouched, &untouched, &untouched);
+    EXPECT_SAME_BITS(untouched[0], 7.0);
 }
 
 TEST(LeastSquaresBlocks, LeavesTheCoefficientOfARefusedTerm)

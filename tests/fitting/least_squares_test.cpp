@@ -423,3 +423,11 @@ TEST(LeastSquares, LeavesPairsOfTinyDeviationsOutOfTheErrorOfTheIntercept)
         }
     }
 }
+
+TEST(LeastSquares, OfRefusedTermsAloneIsTheMeanWhateverStoodInTheirPlaces)
+{
+    small_fit fit({5.0, 5.0}, {1.0, 3.0});
+    fit.run(7.0);
+    EXPECT_SAME_BITS(fit.coefficients[0], 7.0);
+    EXPECT_SAME_BITS(fit.coefficients[1], 2.0);
+}

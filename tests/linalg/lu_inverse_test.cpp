@@ -59,7 +59,7 @@ TEST(LUInverse, IsThePlainOne)
                 expectSame(actual, expected);
             }
             failures += expectedStatus != 0;
-            nans += expectedStatus == 0 && n != 0 && std::isnan(expected.data[0]);
+            nans += expectedStatus == 0 && expected.nbElem != 0 && std::isnan(expected.data[0]);
         }
     });
     EXPECT_GT(failures, 10);

@@ -114,13 +114,13 @@ inline void plainFitted(const matrix<double>& M, int P, const matrix<double>& co
                         matrix<double>& fitted)
 {
     for (int i = 0; i < M.nbrows; ++i) {
-        double value = coefficients[P];
+        double sum = 0.0;
         for (int k = 0; k < P; ++k) {
             if (M.getElement(i, k) != MISSING_DBL) {
-                value += coefficients[k] * M.getElement(i, k);
+                sum += coefficients[k] * M.getElement(i, k);
             }
         }
-        storeChecked(fitted, i, value);
+        storeChecked(fitted, i, coefficients[P] + sum);
     }
 }
 
@@ -217,7 +217,7 @@ inline void plainLeastSquares(int n, int p, const matrix<double>& X, const matri
             square = (fit.sd(last) * fit.sd(last)) * (fit.W - 1) * fit.r() / df / fit.W;
         }
         for (int k = 1; k <= P; ++k) {
-            intercept = intercept - fit.mean(k) * out.coefficients[k - 1];
+            intercept = entered == 0 ? intercept : intercept - fit.mean(k) * out.coefficients[k - 1];
             const double part = fit.mean(k) * out.errors[k - 1];
             square = square + part * part;
         }
@@ -276,11 +276,13 @@ inline void plainLeastSquaresInBlocks(const matrix<double>& M, const std::vector
             }
         }
     }
+    int entered = P;
     for (int k = 1; k <= P; ++k) {
         if (plainCheckIfIn(fit.T, P, k, tolerance) > tolerance) {
             test::plainPackedSweep(fit.T, P + 1, k);
         } else {
             fit.sd(k) = 0.0;
+            --entered;
         }
     }
     const int e = n - P - 1;
@@ -308,7 +310,7 @@ inline void plainLeastSquaresInBlocks(const matrix<double>& M, const std::vector
             square = (fit.sd(last) * fit.sd(last)) * (fit.W - 1) * fit.r() / g / fit.W;
         }
         for (int k = 1; k <= P; ++k) {
-            intercept = intercept - fit.mean(k) * out.coefficients[k - 1];
+            intercept = entered == 0 ? intercept : intercept - fit.mean(k) * out.coefficients[k - 1];
             const double part = fit.mean(k) * out.errors[k - 1];
             square = square + part * part;
         }

@@ -241,6 +241,12 @@ TEST(NearestCorrelation, OfATableThatIsNoneByLittleIsNotThatTable)
     // An eigenvalue of -1e-9 is no rounding.
     matrix<double> below = bandOf(2, 1, 1 + 1e-9);
     EXPECT_LT(repaired(below).getElement(1, 0), 1 + 1e-9);
+    // Nor is a correlation above 1, though its eigenvalue is no further below 0 than rounding.
+    const matrix<double> above = bandOf(2, 1, 1 + 8e-16);
+    matrix<double> expected(above);
+    plainRepair(expected, 2);
+    EXPECT_LT(expected.getElement(1, 0), 1 + 8e-16);
+    expectSymmetricCells(repaired(above), expected);
     // A diagonal beside 1 is set.
     matrix<double> beside = bandOf(2, 1 + 1e-9, 0.5);
     EXPECT_EQ(repaired(beside).getElement(1, 1), 1.0);

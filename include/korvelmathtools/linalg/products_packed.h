@@ -40,8 +40,8 @@ KORVEL_API double M_ProductTrVSymV(matrix<double>* v, int n, matrix<double>* S);
 /**
  * C = the lower triangle of A·B, all three packed: element (i, j) is the sum over l from 1 to m of
  * `A(i,l) * B(l,j)`, m being the whole part of the root of 2n. Element k is (i, j) with i the whole part of
- * `sqrt(2k + 0.25) + 0.5 - 1e-12` and j what is left. When `n` is not m(m + 1)/2, the sums of the last row
- * reach past the end of A.
+ * `sqrt(2k + 0.25) + 0.5 - 1e-12` and j what is left. When `n` is not m(m + 1)/2, some sums
+ * reach past the end of A and of B.
  *
  * @param A `n` elements of a packed table
  * @param n packed length; below 1 nothing is stored

@@ -16,8 +16,8 @@
  * W and R⁻ its `Inverse1` (tolerance 1e-6, so that pivots up to 1e-8 count as singular), X is R⁻·P·R⁻, where
  * P is R·A·R with its negative eigenvalues set to 0.
  *
- * Nothing is reported: when W has no root or R no inverse, X is 0, since the one that could not be had stands
- * as zeros. When the eigenvalues do not converge X has no meaning.
+ * Nothing is reported: when W has no root or R no inverse, zeros stand for it, so that X is 0 where A is
+ * finite. When the eigenvalues do not converge X has no meaning.
  *
  * @param A symmetric, `n` by `n`
  * @param n order; below 1 nothing is stored

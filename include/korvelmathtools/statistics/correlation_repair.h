@@ -38,7 +38,8 @@ KORVEL_API int M_CorrMatFromSymMatSPV_T(matrix3D<matrix<double>>* x, int n);
 /**
  * Replaces a table by a covariance table: its correlations, those of a variance that is not above 0 being
  * 0.0, become the nearest correlation matrix, and are multiplied with the roots of the variances again. So
- * the variances stay. A negative one becomes positive, and its covariances with positive ones are NaN.
+ * the variances stay, where their squares neither underflow nor overflow. A negative one becomes positive,
+ * and its covariances with positive ones are NaN.
  *
  * @param x symmetric, `n` by `n`
  * @param n order; below 1 there is nothing to do

@@ -77,3 +77,25 @@ TEST(FlatLeastSquaresBlocks, PassesTablesWithoutColumnsOver)
     EXPECT_SAME_BITS(valuesOf(out.coefficients)[2], 0.0);
     EXPECT_SAME_BITS(valuesOf(out.errors)[2], 0.0);
 }
+
+TEST(FlatLeastSquaresBlocks, FitsEachOfTheFiveTables)
+{
+    const std::vector<double> columns{1, 2, 3, 4, 6, 5, 7, 9, 2, 1, 5, 3, 4, 8, 6, 6, 3, 1, 4, 1,
+                                      5, 9, 2, 6, 2, 7, 1, 8, 2, 8, 1, 8, 1, 6, 1, 8, 0, 3, 3, 9};
+    const std::vector<double> y{1, 4, 2, 6, 9, 7, 5, 3};
+    const std::vector<double> weights(8, 1.0);
+    guarded<double> coefficients(std::vector<double>(6, 7.0));
+    guarded<double> errors(std::vector<double>(6, 7.0));
+    guarded<double> fitted(std::vector<double>(8, 7.0));
+    const double* const x = columns.data();
+    RunOLSBasic2Lg(8, 1, x, 1, x + 8, 1, x + 16, 1, x + 24, 1, x + 32, y.data(), weights.data(), 1, 0, 0,
+                   1e-12, coefficients.data(), errors.data(), fitted.data());
+    guarded<double> ofOneTable(std::vector<double>(6, 7.0));
+    guarded<double> itsErrors(std::vector<double>(6, 7.0));
+    guarded<double> itsFitted(std::vector<double>(8, 7.0));
+    RunOLSBasic2(8, 5, x, y.data(), weights.data(), 1, 0, 0, 1e-12, ofOneTable.data(), itsErrors.data(),
+                 itsFitted.data());
+    expectCells(coefficients, valuesOf(ofOneTable));
+    expectCells(fitted, valuesOf(itsFitted));
+    EXPECT_NE(valuesOf(coefficients)[4], 0.0);
+}

@@ -1,6 +1,7 @@
 #include "korvelmathtools/KORVELMathTools.h"
 #include "support/guarded.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -53,6 +54,26 @@ TEST(FlatToleranceScreening, PassesEachFlagInItsPlace)
     expectCells(tolerances, {0.75, 0, 0.75});
     run(1, -1, 0, 0);
     expectCells(tolerances, {0, 0, 0.75});
-    run(0, 0, -1, 0);
-    expectCells(tolerances, {0, 0, 0.75});
+}
+
+TEST(FlatToleranceScreening, PassesTheFlagOfTheReverseOrder)
+{
+    // The third variable is (x1 + x2) / sqrt(2) of two that are independent. From the back it is found before
+    // the first two are screened, and left out then.
+    const double h = std::sqrt(0.5);
+    guarded<double> r{1, 0, h, 0, 0, 1, h, 0, h, h, 1, 0, 0, 0, 0, 1};
+    guarded<double> selection{1};
+    guarded<double> groups{1, 1, 1, 1};
+    guarded<double> status{7, 7, 7, 7};
+    guarded<double> tolerances{7, 7, 7, 7};
+    guarded<double> factors{7, 7, 7, 7};
+    const auto run = [&](short int reverse) {
+        VB_CheckTolerance(r.data(), 4, 1, selection.data(), groups.data(), 1e-4, -1, 0, reverse, 0,
+                          status.data(), tolerances.data(), factors.data());
+    };
+    run(0);
+    EXPECT_LT(valuesOf(tolerances)[0], 1e-10);
+    run(-1);
+    EXPECT_SAME_BITS(valuesOf(tolerances)[0], 1.0);
+    EXPECT_SAME_BITS(valuesOf(status)[2], 60000.0);
 }

@@ -40,8 +40,8 @@ KORVEL_FLAT double Cpp_M_ProductTrVSymV(const double* v, int n, const double* s)
 
 /**
  * The lower triangle of a * b, all three packed. The order m of the tables is the whole part of the root of
- * 2n. When n is not m(m + 1)/2, the elements of the last row have terms that reach past the n numbers of a;
- * these count as -1.0.
+ * 2n. When n is not m(m + 1)/2, some elements have terms that reach past the n numbers of a and of b;
+ * these numbers count as -1.0.
  *
  * @param a [in] n numbers, a lower triangle row after row
  * @param n packed length
