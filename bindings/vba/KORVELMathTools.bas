@@ -669,6 +669,42 @@ Public Declare PtrSafe Function VB_V_Product1toNDbl Lib "KORVELMathTools.dll" ( 
 Public Declare PtrSafe Function VB_V_Product1toNLng Lib "KORVELMathTools.dll" ( _
     ByRef v As Long, ByVal n As Long) As Double
 
+' ---- missing/column_estimates.h
+
+' Fills the missing numbers of flagged rows by the weighted means of their columns. rowFlags
+' (Integer) may be null.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingMean Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef rowFlags As Any, ByRef w As Double) As Long
+
+' Fills the missing numbers of flagged rows by the weighted means of the columns of another table,
+' of which a column without numbers has the mean 0.0. rowFlags (Integer) may be null.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingMeanPred Lib "KORVELMathTools.dll" ( _
+    ByRef statistics As Double, ByVal n As Long, ByRef x As Double, ByVal rows As Long, _
+    ByVal p As Long, ByRef rowFlags As Any, ByRef w As Double) As Long
+
+' Fills the missing numbers of flagged rows of a chunked table by the weighted means of their
+' columns. rowFlags (Integer) may be null.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingMeanSPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal p As Long, ByRef rowFlags As Any, ByRef w As Double) As Long
+
+' Fills the empty texts of a table by the modes of their columns: of all texts of a column the one
+' whose weights have the largest sum, the first of equals.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingMode Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal n As Long, ByVal p As Long, ByRef w As Double) As Long
+
+' Fills the empty texts of a table by the modes of the columns of another table: of all texts of a
+' column the one whose weights have the largest sum, the first of equals.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingModePred Lib "KORVELMathTools.dll" ( _
+    ByVal statistics As LongPtr, ByVal n As Long, ByVal x As LongPtr, ByVal rows As Long, _
+    ByVal p As Long, ByRef w As Double) As Long
+
+' ---- missing/expected_frequencies.h
+
+' Replaces each missing cell of a contingency table, a number at or below `KORVEL_MISSING_DBL`, by
+' the sum of its row times the sum of its column over the total.
+Public Declare PtrSafe Function Cpp_ReplaceMissingInContengencyByExp_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal rows As Long) As Long
+
 ' ---- missing/missing_cells.h
 
 ' Replaces the missing numbers of a table.
@@ -874,12 +910,69 @@ Public Declare PtrSafe Function Cpp_V_MinIgnoreMissing Lib "KORVELMathTools.dll"
 Public Declare PtrSafe Function Cpp_M_MinIgnoreMissing_ST Lib "KORVELMathTools.dll" ( _
     ByVal x As LongPtr, ByVal rows As Long, ByVal cols As Long) As Double
 
+' ---- missing/nearest_neighbours.h
+
+' Fills missing cells of flagged rows by the value of the nearest row; see the head of this file.
+' primary (Double) may be null. rowFlags (Integer) may be null. second (Double) may be null.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingNN Lib "KORVELMathTools.dll" ( _
+    ByRef primary As Any, ByVal n As Long, ByVal primaryColumns As Long, ByRef rowFlags As Any, _
+    ByRef second As Any, ByVal secondColumns As Long, ByVal third As LongPtr, _
+    ByVal thirdColumns As Long, ByRef w As Double) As Long
+
+' Fills missing cells of flagged rows by the value of the nearest row; see the head of this file.
+' primaryStatistics (Double) may be null. primary (Double) may be null. rowFlags (Integer) may be
+' null. secondStatistics (Double) may be null. second (Double) may be null.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingNNPred Lib "KORVELMathTools.dll" ( _
+    ByRef primaryStatistics As Any, ByVal n As Long, ByRef primary As Any, ByVal rows As Long, _
+    ByVal primaryColumns As Long, ByRef rowFlags As Any, ByRef secondStatistics As Any, _
+    ByRef second As Any, ByVal secondColumns As Long, ByVal thirdStatistics As LongPtr, _
+    ByVal third As LongPtr, ByVal thirdColumns As Long, ByRef w As Double) As Long
+
+' Fills missing cells of flagged rows by the value of the nearest row; see the head of this file.
+' rowFlags (Integer) may be null. second (Double) may be null.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingNNSPV Lib "KORVELMathTools.dll" ( _
+    ByVal primary As LongPtr, ByVal n As Long, ByVal primaryColumns As Long, ByRef rowFlags As Any, _
+    ByRef second As Any, ByVal secondColumns As Long, ByVal third As LongPtr, _
+    ByVal thirdColumns As Long, ByRef w As Double) As Long
+
+' Fills missing cells of flagged rows by the value of the nearest row; see the head of this file.
+' rowFlags (Integer) may be null.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingNNSPV2 Lib "KORVELMathTools.dll" ( _
+    ByVal primary As LongPtr, ByVal n As Long, ByVal primaryColumns As Long, ByRef rowFlags As Any, _
+    ByVal second As LongPtr, ByVal secondColumns As Long, ByVal third As LongPtr, _
+    ByVal thirdColumns As Long, ByRef w As Double) As Long
+
+' Fills missing cells of flagged rows by the value of the nearest row; see the head of this file.
+' rowFlags (Integer) may be null. second (Double) may be null.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingNNStr Lib "KORVELMathTools.dll" ( _
+    ByVal primary As LongPtr, ByVal n As Long, ByVal primaryColumns As Long, ByRef rowFlags As Any, _
+    ByRef second As Any, ByVal secondColumns As Long, ByVal third As LongPtr, _
+    ByVal thirdColumns As Long, ByRef w As Double) As Long
+
+' Fills missing cells of flagged rows by the value of the nearest row; see the head of this file.
+' rowFlags (Integer) may be null. secondStatistics (Double) may be null. second (Double) may be
+' null.
+Public Declare PtrSafe Function VB_EstimateRowsWithMissingNNStrPred Lib "KORVELMathTools.dll" ( _
+    ByVal primaryStatistics As LongPtr, ByVal n As Long, ByVal primary As LongPtr, _
+    ByVal rows As Long, ByVal primaryColumns As Long, ByRef rowFlags As Any, _
+    ByRef secondStatistics As Any, ByRef second As Any, ByVal secondColumns As Long, _
+    ByVal thirdStatistics As LongPtr, ByVal third As LongPtr, ByVal thirdColumns As Long, _
+    ByRef w As Double) As Long
+
 ' ---- missing/observation_labels.h
 
 ' Makes a label for each flagged row: the prefix and the row number, and a further number while
 ' another row has that label.
 Public Declare PtrSafe Function VB_ReplaceMissingObsLabels Lib "KORVELMathTools.dll" ( _
     ByVal labels As LongPtr, ByVal n As Long, ByRef flags As Integer, ByVal prefix As LongPtr) As Long
+
+' ---- missing/pairwise_deletion.h
+
+' Keeps the elements of three series where the first two are both above `KORVEL_MISSING_DBL`; a NaN
+' is not.
+Public Declare PtrSafe Function Cpp_V_PairwiseDeletion Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByRef y As Double, ByRef z As Double, ByVal n As Long, ByRef xOut As Double, _
+    ByRef yOut As Double, ByRef zOut As Double, ByRef count As Long) As Long
 
 ' ---- ordering/apply_order.h
 

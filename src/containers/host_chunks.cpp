@@ -12,8 +12,8 @@ namespace
 /** The records of a chunked table; none when there is no array or it has no block. */
 std::span<const Hostarray> recordsOf(Hostarray** a, int n)
 {
-    const SAFEARRAY* array = *reinterpret_cast<SAFEARRAY**>(a);
-    if (array == nullptr || array->pvData == nullptr || n < 1) {
+    const SAFEARRAY* array = n > 0 ? *reinterpret_cast<SAFEARRAY**>(a) : nullptr;
+    if (array == nullptr || array->pvData == nullptr) {
         return {};
     }
     return {static_cast<const Hostarray*>(array->pvData), static_cast<std::size_t>(n)};

@@ -16,7 +16,8 @@
 /**
  * Makes a chunk for each numeric column.
  *
- * @param a    reference to the host array of records, which may be null or have no block
+ * @param a    reference to the host array of records, which may be null or have no block; not looked at when
+ * `n` is below 1
  * @param n    number of records; below 0 as 0
  * @param rows rows of each chunk
  * @param cols columns of each chunk; 0 for a triangular table, in which each chunk made has one column, and
