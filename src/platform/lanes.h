@@ -226,6 +226,31 @@ KORVEL_IN_LANES bool any(Mask chosen)
     }
 }
 
+/** Four integers, and for each of four all bits set or none. */
+using integers4 = detail::register_of<int, 4>::type;
+
+/** The four integers from `from` on, at any address. */
+KORVEL_IN_LANES integers4 loadIntegers(const int* from)
+{
+    return detail::loadAny<int, 4>(from);
+}
+
+/** `x` four times. */
+KORVEL_IN_LANES integers4 fourTimes(int x)
+{
+    return integers4{x, x, x, x};
+}
+
+/** Whether one of four is chosen. */
+KORVEL_IN_LANES bool anyOfFour(integers4 chosen)
+{
+#if defined(__SSE2__)
+    return _mm_movemask_epi8(reinterpret_cast<__m128i>(chosen)) != 0;
+#else
+    return (chosen[0] | chosen[1] | chosen[2] | chosen[3]) != 0;
+#endif
+}
+
 /** Which of two lanes are chosen: bit k for lane k. */
 KORVEL_IN_LANES unsigned chosenBits(mask<2> chosen)
 {
@@ -335,9 +360,6 @@ KORVEL_IN_LANES void prefetch(const void* address)
 {
     __builtin_prefetch(address);
 }
-
-/** Four integers. */
-using integers4 = detail::register_of<int, 4>::type;
 
 /**
  * Stores past the caches where the processor can do so, for data that is not read again soon. `to` is a

@@ -143,44 +143,68 @@ void minMax2(const matrix<T>& x, int n, double* min, double* max, short int bSki
     *max = found.largest;
 }
 
+constexpr auto isLess = [](auto x, auto best) { return x < best; };
+constexpr auto isNotMore = [](auto x, auto best) { return x <= best; };
+constexpr auto isMore = [](auto x, auto best) { return x > best; };
+
+/** How many elements are tested together: few replace the best so far. */
+constexpr int together = 16;
+
+/** Whether one of `together` elements from `i` on replaces the best so far. */
+template <class Cells, class Replaces>
+bool oneReplaces(const Cells& cells, int i, double best, Replaces replaces)
+{
+    const pair bestTwice = lanes::everywhere<2>(best);
+    lanes::mask<2> found{};
+#pragma GCC unroll 8
+    for (int k = 0; k < together; k += 2) {
+        found = lanes::either(found, replaces(pairAt(cells, i + k), bestTwice));
+    }
+    return any(found);
+}
+
+template <class Replaces>
+bool oneReplaces(const int* cells, int i, int best, Replaces replaces)
+{
+    const lanes::integers4 bestFourTimes = lanes::fourTimes(best);
+    lanes::integers4 found{};
+#pragma GCC unroll 4
+    for (int k = 0; k < together; k += 4) {
+        found |= replaces(lanes::loadIntegers(cells + i + k), bestFourTimes);
+    }
+    return lanes::anyOfFour(found);
+}
+
 /**
  * Walks from the first element; one that `replaces` the best so far becomes the best. Returns the last best
- * and its position, from 1. Few elements replace another, so eight are first tested together.
+ * and its position, from 1.
  */
 template <class T, class Replaces>
 double withPosition(const matrix<T>& x, int n, int* pos, Replaces replaces)
 {
     const auto find = [=](auto cells) {
-        pair best = twice(cells, 0);
+        T best = cells[0];
         int where = 1;
         const auto compareEach = [&](int from, int to) {
             for (int i = from; i < to; ++i) {
-                if (any(replaces(twice(cells, i), best))) {
-                    best = twice(cells, i);
+                if (replaces(T{cells[i]}, best)) {
+                    best = cells[i];
                     where = i + 1;
                 }
             }
         };
         int i = 1;
-        for (; i + 7 < n; i += 8) {
-            const auto front =
-                lanes::either(replaces(pairAt(cells, i), best), replaces(pairAt(cells, i + 2), best));
-            const auto back =
-                lanes::either(replaces(pairAt(cells, i + 4), best), replaces(pairAt(cells, i + 6), best));
-            if (any(lanes::either(front, back))) {
-                compareEach(i, i + 8);
+        for (; i + together <= n; i += together) {
+            if (oneReplaces(cells, i, best, replaces)) {
+                compareEach(i, i + together);
             }
         }
         compareEach(i, n);
         *pos = where;
-        return best[0];
+        return static_cast<double>(best);
     };
     return withCells(find, std::max(n, 1), x);
 }
-
-constexpr auto isLess = [](pair x, pair best) { return x < best; };
-constexpr auto isNotMore = [](pair x, pair best) { return x <= best; };
-constexpr auto isMore = [](pair x, pair best) { return x > best; };
 
 } // namespace
 

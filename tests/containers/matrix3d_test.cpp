@@ -46,7 +46,10 @@ std::intptr_t placeOf(Member member)
     std::intptr_t code = 0;
     static_assert(sizeof(member) >= sizeof(code));
     std::memcpy(&code, &member, sizeof(code));
-    return (code - 1) / static_cast<std::intptr_t>(sizeof(void*));
+#if !defined(__aarch64__) // there another word marks a virtual operation
+    code -= 1;
+#endif
+    return code / static_cast<std::intptr_t>(sizeof(void*));
 }
 
 } // namespace

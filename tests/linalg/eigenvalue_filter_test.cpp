@@ -156,7 +156,6 @@ TEST(EigenvalueFilter, NoValues)
 #if !defined(_WIN32)
 TEST(EigenvalueFilterDeathTest, AValueSetToZeroBelowAThresholdIsLookedAtForEver)
 {
-    ::testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_EXIT(
         {
             alarm(1);

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <bit>
+#include <climits>
 #include <cmath>
 #include <cstdint>
 #include <numeric>
@@ -129,6 +130,20 @@ TEST(Lanes, ThatAreChosenBecomeBits)
     EXPECT_EQ(lanes::chosenBits(x != 0.0), 3U);
     EXPECT_EQ(lanes::chosenBits((x > 0.0) | (x < -2.0)), 3U);
     EXPECT_EQ(lanes::chosenBits((x > 0.0) & (x < -2.0)), 0U);
+}
+
+TEST(Lanes, OfFourIntegersAreLoadedAtAnyAddressAndOneChosenIsSeen)
+{
+    using namespace korvel;
+    const std::array<int, 7> integers{9, 1, -2, INT_MAX, INT_MIN, 5, 6};
+    for (int from = 0; from < 4; ++from) {
+        const lanes::integers4 four = lanes::loadIntegers(integers.data() + from);
+        for (int lane = 0; lane < 4; ++lane) {
+            EXPECT_EQ(four[lane], integers[static_cast<std::size_t>(from + lane)]);
+            EXPECT_TRUE(lanes::anyOfFour(four == lanes::fourTimes(four[lane])));
+        }
+        EXPECT_FALSE(lanes::anyOfFour(four == lanes::fourTimes(1000)));
+    }
 }
 
 TEST(Lanes, AreStreamedWhole)

@@ -222,6 +222,26 @@ TEST(VectorExtremes, PositionOfTheLargest)
     EXPECT_EQ(largestOf<int>({3, 4, 9, 9, MISSING_LNG}), (found_position{9.0, 3}));
 }
 
+TEST(VectorExtremes, PositionsOfOneElementAnywhere)
+{
+    for (int n = 1; n <= 40; ++n) {
+        for (int place = 0; place < n; ++place) {
+            auto x = vectorOf<double>(std::vector<double>(static_cast<std::size_t>(n), 7.0));
+            auto counts = vectorOf<int>(std::vector<int>(static_cast<std::size_t>(n), 7));
+            int pos = 0;
+            x.data[place] = 8.0;
+            counts.data[place] = 8;
+            EXPECT_SAME_BITS(V_MaxAndMaxPos(&x, n, &pos), 8.0);
+            EXPECT_EQ(pos, place + 1);
+            EXPECT_SAME_BITS(V_MaxAndMaxPos(&counts, n, &pos), 8.0);
+            EXPECT_EQ(pos, place + 1);
+            x.data[place] = 6.0;
+            EXPECT_SAME_BITS(V_MinAndMinPos(&x, n, &pos, false), 6.0);
+            EXPECT_EQ(pos, place + 1);
+        }
+    }
+}
+
 TEST(VectorExtremes, PositionsInFewerThanTwoElements)
 {
     auto x = vectorOf<double>({8, 1});
