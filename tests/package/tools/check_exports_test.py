@@ -76,6 +76,22 @@ class Exports(Tree):
         self.lists(["VB_One"], [*self.CORE, "V_Sum(int)"])
         self.assertEqual(self.differences(), ["exports/core.txt: listed, not exported: V_Sum(int)"])
 
+    def test_released_routine_that_vanished(self):
+        self.lists(["VB_One"], self.CORE)
+        self.write("VERSION", "0.3.1\n")
+        self.assertEqual(self.run_tool("check_exports", "--release", self.library), (0, []))
+        recorded = (self.root / "exports/released.txt").read_text(encoding="ascii")
+        self.assertEqual(recorded.splitlines(), ["ABI 0.3", *sorted(["VB_One", *self.CORE])])
+        self.assertEqual(self.run_tool("check_exports", self.library), (0, []))
+
+        self.write("exports/released.txt", recorded + "VB_Two\n")
+        self.assertEqual(self.differences(), ["exports/released.txt: released, not exported: VB_Two"])
+        self.write("VERSION", "0.3.9\n")
+        self.assertEqual(self.differences(), ["exports/released.txt: released, not exported: VB_Two"])
+        for next_abi in ("0.4.0", "1.3.0"):
+            self.write("VERSION", f"{next_abi}\n")
+            self.assertEqual(self.run_tool("check_exports", self.library), (0, []))
+
     def test_core_routine_too_many(self):
         self.lists(["VB_One"], self.CORE[:1])
         self.assertEqual(self.differences(), [f"exports/core.txt: exported, not listed: {self.CORE[1]}"])
