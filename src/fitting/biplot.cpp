@@ -1,6 +1,7 @@
 #include "fitting/biplot.h"
 
 #include "containers/map_cells.h"
+#include "linalg/clear_result.h"
 #include "linalg/element_wise.h"
 #include "statistics/column_sums.h"
 
@@ -101,6 +102,7 @@ void cComputeCosines(matrix<double>* x, int n, int p, matrix<double>*& result)
     matrix<double> sums;
     matrix<double>* place = &sums;
     M_SquaredRows(x, n, p, place);
+    korvel::shapeResult(*result, n, p);
     squareCosines(reading(*x), n, p, sums, *result);
 }
 
@@ -113,6 +115,7 @@ void cComputeCosinesSPV(matrix3D<matrix<double>>* x, int n, int p, matrix<double
         columns.push_back(&x->chunks[static_cast<std::size_t>(j)]);
     }
     M_SquaredRowsSPV(columns.data(), n, p, place);
+    korvel::shapeResult(*result, n, p);
     squareCosines(reading(*x), n, p, sums, *result);
 }
 

@@ -58,14 +58,16 @@ void writeSwept(const swept_fit& fit, matrix<double>& table)
         korvel::writing(table).table(fit.response, fit.response));
 }
 
-/** The intercept and its standard error, which starts from what stands in its element unless `isDetermined`.
- */
+/** The intercept and its standard error, which starts from what stands there unless `isDetermined`. */
 void writeIntercept(const swept_fit& fit, double sumOfWeights, double df, bool isDetermined,
                     matrix<double>& coefficients, matrix<double>& standardErrors)
 {
-    double variance = isDetermined ? fit.spread() * (sumOfWeights - 1.0) * fit.residual() / df / sumOfWeights
-                                   : standardErrors[fit.terms];
-    storeChecked(coefficients, fit.terms, fit.intercept(coefficients, standardErrors, variance));
+    if (isDetermined) {
+        storeChecked(standardErrors, fit.terms,
+                     fit.spread() * (sumOfWeights - 1.0) * fit.residual() / df / sumOfWeights);
+    }
+    storeChecked(coefficients, fit.terms, fit.intercept(coefficients, standardErrors));
+    double variance = standardErrors[fit.terms];
     fit.forEachPair([&](int i, int j, double product) { variance -= fit.pairVariance(i, j, product, df); });
     storeChecked(standardErrors, fit.terms, std::sqrt(variance));
 }

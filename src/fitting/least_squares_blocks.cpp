@@ -84,9 +84,11 @@ void writeIntercept(const swept_fit& fit, int n, double sumOfWeights, matrix<dou
                     matrix<double>& standardErrors)
 {
     const double df = sumOfWeights - fit.terms - 1.0;
-    double variance =
-        n - fit.terms != 1 ? fit.spread() * (sumOfWeights - 1.0) * fit.residual() / df / sumOfWeights : 0.0;
-    storeChecked(coefficients, fit.terms, fit.intercept(coefficients, standardErrors, variance));
+    storeChecked(standardErrors, fit.terms,
+                 n - fit.terms != 1 ? fit.spread() * (sumOfWeights - 1.0) * fit.residual() / df / sumOfWeights
+                                    : 0.0);
+    storeChecked(coefficients, fit.terms, fit.intercept(coefficients, standardErrors));
+    double variance = standardErrors[fit.terms];
     fit.forEachPair([&](int i, int j, double product) {
         variance = product * df != 0.0 ? variance - fit.pairVariance(i, j, product, df) : 0.0;
     });
@@ -100,7 +102,7 @@ void OLSBasic2Lg(int n, int p1, matrix<double>* X1, int p2, matrix<double>* X2, 
                  matrix<double>* weights, int degree, short int noConstant, double tolerance,
                  matrix<double>* coefficients, matrix<double>* standardErrors, matrix<double>* fitted)
 {
-    if (degree != 1) {
+    if (degree != 1 || p1 + p2 + p3 + p4 + p5 < 1) {
         return;
     }
     term_columns columns(n);
@@ -110,9 +112,6 @@ void OLSBasic2Lg(int n, int p1, matrix<double>* X1, int p2, matrix<double>* X2, 
             ranges.push_back({columns.size() + 1, given.cols});
             columns.add(*given.table, given.cols);
         }
-    }
-    if (columns.size() == 0) {
-        return;
     }
     swept_fit fit(columns.size());
     columns.add(*Y);

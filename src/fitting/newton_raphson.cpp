@@ -38,17 +38,19 @@ int takeStep(matrix<double>& parameters, int n, const matrix<Constraint>& constr
     if (limitStep) {
         limitTo(stepLimit, step, n);
     }
+    matrix<double>& proposal = step;
+    for (int i = 0; i < n; ++i) {
+        proposal[i] = parameters[i] - step[i];
+    }
     int status = 1;
     for (int i = 0; i < n; ++i) {
         if (constraints[i] != Constraint{0}) {
             continue;
         }
-        const double before = parameters[i];
-        const double after = before - step[i];
-        if (std::fabs(before - after) > tolerance) {
+        if (std::fabs(parameters[i] - proposal[i]) > tolerance) {
             status = 0;
         }
-        korvel::storeChecked(parameters, i, after);
+        korvel::storeChecked(parameters, i, proposal[i]);
         korvel::storeChecked(standardErrors, i, std::sqrt(std::fabs(inverse.getElement(i, i))));
     }
     return status;

@@ -151,8 +151,7 @@ void swept_fit::setCorrelations(matrix<double>* const* columns, int rows, int fi
     }
 }
 
-double swept_fit::intercept(const matrix<double>& coefficients, const matrix<double>& standardErrors,
-                            double& variance) const
+double swept_fit::intercept(const matrix<double>& coefficients, matrix<double>& standardErrors) const
 {
     double found = mean(response);
     for (int k = 1; k <= terms; ++k) {
@@ -160,7 +159,7 @@ double swept_fit::intercept(const matrix<double>& coefficients, const matrix<dou
             found -= mean(k) * coefficients[k - 1];
         }
         const double part = mean(k) * standardErrors[k - 1];
-        variance += part * part;
+        storeChecked(standardErrors, terms, standardErrors[terms] + part * part);
     }
     return found;
 }

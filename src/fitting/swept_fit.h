@@ -74,11 +74,10 @@ struct swept_fit {
 
     /**
      * The intercept: the response's mean less the terms' means times their coefficients; the mean alone when
-     * every term was refused, whatever stands in the place of their coefficients. And the variance of it:
-     * `variance` with the squares of the means times the standard errors added.
+     * every term was refused, whatever stands in the place of their coefficients. Its variance is held in the
+     * last element of the standard errors, to which the squares of the means times the errors are added.
      */
-    [[nodiscard]] double intercept(const matrix<double>& coefficients, const matrix<double>& standardErrors,
-                                   double& variance) const;
+    [[nodiscard]] double intercept(const matrix<double>& coefficients, matrix<double>& standardErrors) const;
 
     /** Calls `take(i, j, product)` for each pair of terms i < j, with the product of their deviations, where
      * that is above the machine epsilon in magnitude. */

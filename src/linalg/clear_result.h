@@ -1,6 +1,6 @@
 /**
  * @file
- * Clears a result before sums are stored in it.
+ * Makes a result ready before its cells are stored.
  */
 #ifndef KORVEL_LINALG_CLEAR_RESULT_H
 #define KORVEL_LINALG_CLEAR_RESULT_H
@@ -30,7 +30,17 @@ void clearResult(matrix<T>& result, int rows, int cols)
     }
 }
 
-/** The same for the first columns of a table of chunks, each of its own. */
+/** Gives a result that may be written in part its shape: zeros, unless it has that shape and keeps its cells.
+ */
+template <class T>
+void shapeResult(matrix<T>& result, int rows, int cols)
+{
+    if (result.nbrows != rows || result.nbcols != cols) {
+        result.Redim(std::max(rows, 0), cols, T{});
+    }
+}
+
+/** `clearResult` for the first columns of a table of chunks, each of its own. */
 template <class M>
 void clearResult(matrix3D<M>& result, int rows, int cols)
 {

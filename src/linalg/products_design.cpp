@@ -158,7 +158,7 @@ void M_ProductDesignAB2(matrix<double>* A, int n, int& colsA, matrix<double>* B,
 void M_ProductHorizAB(matrix<double>* A, int n, int colsA, matrix<double>* B, int colsB, matrix<double>*& C,
                       int)
 {
-    korvel::clearResult(*C, n, productOfCounts(colsA, colsB));
+    korvel::shapeResult(*C, n, productOfCounts(colsA, colsB));
     multiplyColumns(*A, n, colsA, *B, colsB, *C, [](double a, double b) { return a * b; });
 }
 

@@ -167,3 +167,42 @@ TEST(Cosines, AreMarkedByRow)
     EXPECT_EQ(table.data[0], 0);
     EXPECT_EQ(table.data[4], 0);
 }
+
+TEST(Cosines, SizeTheirResult)
+{
+    matrix<double> x = tableOf(2, {3, 0, 4, 0});
+    matrix<double> result;
+    auto* place = &result;
+    cComputeCosines(&x, 2, 2, place);
+    EXPECT_EQ(place, &result);
+    ASSERT_EQ(result.nbrows, 2);
+    ASSERT_EQ(result.nbcols, 2);
+    EXPECT_SAME_BITS(result.data[0], 9.0 / 25.0);
+    matrix3D<matrix<double>> chunks(2, 2, 1, 1.0);
+    matrix<double> larger(3, 3, 7.0);
+    auto* second = &larger;
+    cComputeCosinesSPV(&chunks, 2, 2, second);
+    EXPECT_EQ(larger.nbrows, 2);
+    expectCells(larger, {0.5, 0.5, 0.5, 0.5});
+}
+
+TEST(Cosines, OfMissingCellsAndOfNaN)
+{
+    // A missing cell is left out of the sum of squares, though it is a number where it is squared itself.
+    matrix<double> x = tableOf(3, {3, notANumber, gone, gone, 1, gone});
+    matrix<double> result(3, 2, 7.0);
+    auto* place = &result;
+    cComputeCosines(&x, 3, 2, place);
+    expectCells(result, {1, 7, 7, infinite, 7, 7});
+}
+
+TEST(Biplot, TakesAScaleOfOneAloneForNone)
+{
+    small_biplot plot;
+    plot.run(0.0, std::nextafter(1.0, 2.0));
+    EXPECT_SAME_BITS(plot.ofColumns.data[0], 8.0 * std::sqrt(std::nextafter(1.0, 2.0)));
+    plot.run(0.0, 0.0);
+    expectCells(plot.ofColumns, {0, 0, gone, 0});
+    plot.run(0.0, notANumber);
+    expectCells(plot.ofColumns, {notANumber, notANumber, gone, notANumber});
+}

@@ -221,3 +221,43 @@ TEST(LeastSquaresBlocks, ResetsTheVarianceOfTheInterceptWhenTheWeightsLeaveNoFre
     EXPECT_GT(fit.errors[0], 0.0);
     EXPECT_SAME_BITS(fit.errors[2], 0.0);
 }
+
+TEST(LeastSquaresBlocks, TakesTheCountsTogetherAsTheyAre)
+{
+    split_fit fit = cars(1);
+    fit.clear(7.0);
+    OLSBasic2Lg(fit.n, 1, &fit.X, -1, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, &fit.Y, &fit.weights, 1, 0,
+                1e-12, &fit.coefficients, &fit.errors, &fit.fitted);
+    EXPECT_SAME_BITS(fit.coefficients[0], 7.0) << "they add up to 0";
+    EXPECT_SAME_BITS(fit.fitted[0], 7.0);
+    OLSBasic2Lg(fit.n, 2, &fit.X, -1, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, &fit.Y, &fit.weights, 1, 0,
+                1e-12, &fit.coefficients, &fit.errors, &fit.fitted);
+    const matrix<double> both(fit.coefficients);
+    OLSBasic2Lg(fit.n, 2, &fit.X, 0, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, &fit.Y, &fit.weights, 1, 0,
+                1e-12, &fit.coefficients, &fit.errors, &fit.fitted);
+    for (int k = 0; k < 3; ++k) {
+        EXPECT_SAME_BITS(fit.coefficients[k], both.data[k]);
+    }
+}
+
+TEST(LeastSquaresBlocks, HasAMissingErrorOfTheInterceptWhereTheSumIsNegative)
+{
+    // The weights add up to 1.5, which leaves -0.5 degrees of freedom; and the mean of the term is 0.
+    split_fit fit({-1, 0, 1}, {1, 2, 4}, 1);
+    for (int i = 0; i < fit.n; ++i) {
+        fit.weights[i] = 0.5;
+    }
+    fit.run(7.0);
+    EXPECT_GT(fit.errors[0], 0.0);
+    EXPECT_SAME_BITS(fit.errors[1], MISSING_DBL);
+}
+
+TEST(LeastSquaresBlocks, LeavesATermThatHardlyVaries)
+{
+    // It is taken in, but its deviation is not above 1e-12.
+    split_fit fit({-1e-13, 0, 1e-13, 1, 2, 4}, {1, 2, 4}, 2);
+    fit.p = 1;
+    fit.run(7.0);
+    EXPECT_SAME_BITS(fit.coefficients[0], 7.0);
+    EXPECT_SAME_BITS(fit.errors[0], 7.0) << "neither 0, as of a term that was refused";
+}

@@ -2,11 +2,14 @@
 
 #include "fitting/least_squares.h"
 #include "fitting/least_squares_blocks.h"
+#include "fitting/small_fit.h"
 #include "reference/least_squares.h"
 #include "support/near_tables.h"
 
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
+#include <numeric>
 #include <vector>
 
 using namespace korvel::test;
@@ -142,7 +145,7 @@ TEST(LeastSquares, IsThePlainOneInBlocks)
         OLSBasic2Lg(n, sizes[0], table(0), sizes[1], table(1), sizes[2], table(2), sizes[3], table(3),
                     sizes[4], table(4), &response, &weights, 1, noConstant, tolerance, &actual.coefficients,
                     &actual.errors, &actual.fitted);
-        if (terms > 0) {
+        if (std::accumulate(sizes.begin(), sizes.end(), 0) > 0) {
             matrix<double> M(n, terms + 1, 0.0);
             int place = 0;
             for (std::size_t b = 0; b < 5; ++b) {
@@ -172,4 +175,19 @@ TEST(LeastSquares, MayTakeAVariableAsThePlainOne)
             EXPECT_EQ(actual > tolerance, packed.data[k * (k + 1) / 2 - 1] > tolerance);
         }
     });
+}
+
+TEST(LeastSquares, HoldsTheInterceptsVarianceInItsOwnPlace)
+{
+    // There is none in a vector without elements: what each term adds is then the square of its mean times
+    // the sum so far, which is what the spare slot holds.
+    small_fit fit({1, 2, 4, 5}, {1, 3, 2, 6});
+    fit.run();
+    const double s = fit.deviations[1];
+    const double start = s * s * (4.0 - 1.0) * fit.swept.getElement(1, 1) / 2.0 / 4.0;
+    const double part = fit.means[0] * start;
+    fit.errors = matrix<double>(0, 1, 0.0);
+    OLSBasic2(fit.n, fit.p, &fit.X, &fit.Y, &fit.weights, 1, 0, 0, 1e-12, &fit.coefficients, &fit.errors,
+              &fit.fitted);
+    EXPECT_SAME_BITS(fit.errors.oobValue, std::sqrt(start + part * part));
 }

@@ -305,3 +305,22 @@ TEST(NewtonRaphson, IsThePlainStep)
         expectSame(inverse, expected);
     }
 }
+
+TEST(NewtonStep, ProposesEveryParameterBeforeOneIsChanged)
+{
+    // The second parameter lies outside its vector: it is proposed from what the spare slot held at first,
+    // and compared with what it holds by then, which is the first one as it was stored.
+    one_step step({10}, {1}, {1});
+    step.n = 2;
+    step.gradient = vectorOf<double>({1, 2});
+    step.hessian = vectorOf<double>({1, 0, 0, 1});
+    step.hessian.nbrows = 2;
+    step.hessian.nbcols = 2;
+    step.inverse = matrix<double>(2, 2, 0.0);
+    step.fixed = matrix<int>(2, 1);
+    step.parameters.oobValue = 5.0;
+    step.tolerance = 3.0;
+    EXPECT_EQ(step.run(), 0) << "9 and 3 differ by more";
+    EXPECT_SAME_BITS(step.parameters[0], 9.0);
+    EXPECT_SAME_BITS(step.parameters.oobValue, 3.0);
+}

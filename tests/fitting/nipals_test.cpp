@@ -233,3 +233,12 @@ TEST(Nipals, TakesAVariableOfASmallDeviationForAConstantAndEndsWhereNothingChang
     const double mean = (100.0 + 100.0 * (1.0 + 5e-7) + 100.0) / 300.0;
     EXPECT_SAME_BITS(table.cell(2, 0), mean / 100.0);
 }
+
+TEST(Nipals, FillsARowThatMissesAllWithTheMeansOverItsWeight)
+{
+    small_table table(5, {1, 2, gone, 4, 6, 2, 3, gone, 7, 11});
+    table.weights[2] = 4.0;
+    EXPECT_EQ(table.run(), 0);
+    EXPECT_SAME_BITS(table.cell(2, 0), 13.0 / 4.0 / 4.0);
+    EXPECT_SAME_BITS(table.cell(2, 1), 23.0 / 4.0 / 4.0);
+}

@@ -187,10 +187,8 @@ TEST(HorizontalProduct, IsThePlainOne)
         matrix<double>* C = &made;
         M_ProductHorizAB(&A, n, colsA, &B, colsB, C, 77);
         EXPECT_EQ(C, &made);
-        if (expected.nbrows < n || expected.nbcols < colsA * colsB) {
+        if (expected.nbrows != n || expected.nbcols != colsA * colsB) {
             expected.Redim(n, colsA * colsB, 0.0);
-        } else {
-            std::fill_n(expected.data, n * colsA * colsB, 0.0);
         }
         plainHorizontal(
             A, n, colsA, B, colsB, [](double a, double b) { return a * b; },
@@ -285,4 +283,47 @@ TEST(VectorOfAllProducts, RunsOverTheSecondVectorFirst)
     V_ProductHorizV1V22(&x, n, &y, 3);
     EXPECT_EQ(cellsOf(x), (columns{20, 200, -infinite, 30, 300, -infinite}));
     EXPECT_EQ(n, 6);
+}
+
+TEST(HorizontalProduct, GivesItsResultTheShape)
+{
+    matrix<double> A = columnTable(2, {1, 2});
+    matrix<double> B = columnTable(2, {10, 100});
+    matrix<double> larger(4, 3, 9.0);
+    matrix<double>* C = &larger;
+    M_ProductHorizAB(&A, 2, 1, &B, 1, C, 0);
+    EXPECT_EQ(larger.nbrows, 2);
+    EXPECT_EQ(cellsOf(larger), (columns{10, 200}));
+    // The caller's memory keeps its shape, and the cells beside the product.
+    std::vector<double> memory(6, 9.0);
+    matrix<double> lent(3, 2, memory.data(), true);
+    matrix<double>* D = &lent;
+    M_ProductHorizAB(&A, 3, 1, &B, 2, D, 0);
+    EXPECT_EQ(lent.nbcols, 2);
+}
+
+TEST(HorizontalProduct, TakesNegativeCountsForNone)
+{
+    matrix<double> A = columnTable(1, {2, 3});
+    matrix<double> sums(1, 1, 7.0);
+    matrix<double> made(1, 1, 7.0);
+    matrix<double>* C = &made;
+    for (const auto& [n, colsA, colsB] : {std::array{-1, 1, 1}, std::array{1, -1, 1}, std::array{1, 1, -2}}) {
+        int cols = colsA;
+        M_ProductHorizAB2(&A, n, cols, &A, colsB);
+        EXPECT_EQ(cols, n < 0 ? 1 : 0);
+        cols = colsA;
+        M_ProductDesignAB2(&A, n, cols, &A, colsB, 4, nullptr, &sums);
+        EXPECT_EQ(cols, n < 0 ? 1 : 0);
+        M_ProductHorizAB(&A, n, colsA, &A, colsB, C, 0);
+        EXPECT_EQ(cellsOf(A), (columns{2, 3}));
+    }
+    EXPECT_EQ(sums.data[0], 0.0) << "of a column without rows";
+    int n = -2;
+    V_ProductHorizV1V22(&A, n, &A, 2);
+    EXPECT_EQ(n, 0);
+    n = 2;
+    V_ProductHorizV1V22(&A, n, &A, -2);
+    EXPECT_EQ(n, 0);
+    EXPECT_EQ(cellsOf(A), (columns{2, 3}));
 }

@@ -1,10 +1,7 @@
 #include "statistics/correlation_repair.h"
 
-#include "linalg/projections.h"
-#include "linalg/reductions.h"
 #include "linalg/symmetric_eigen.h"
-#include "statistics/correlation_conversion.h"
-#include "statistics/weighted_sums.h"
+#include "statistics/repair_tables.h"
 #include "support/column_tables.h"
 #include "support/correlation_tables.h"
 #include "support/near_tables.h"
@@ -15,69 +12,6 @@ using namespace korvel::test;
 
 namespace
 {
-
-matrix<double> identity(int n)
-{
-    matrix<double> made(n, n, 0.0);
-    for (int i = 0; i < n; ++i) {
-        made.setElement(i, i, 1.0);
-    }
-    return made;
-}
-
-/** A table with one number on the diagonal and another beside it. */
-matrix<double> bandOf(int n, double diagonal, double beside)
-{
-    matrix<double> made(n, n, 0.0);
-    for (int i = 0; i < n; ++i) {
-        made.setElement(i, i, diagonal);
-        if (i > 0) {
-            made.setElement(i, i - 1, beside);
-            made.setElement(i - 1, i, beside);
-        }
-    }
-    return made;
-}
-
-/** The random tables of tests/data/correlation/nearest_correlation.cpp. */
-matrix<double> randomIndefinite(int n)
-{
-    std::uint64_t state = static_cast<std::uint64_t>(n);
-    matrix<double> made = identity(n);
-    for (int i = 0; i < n; ++i) {
-        for (int j = 0; j < i; ++j) {
-            state = 6364136223846793005ULL * state + 1442695040888963407ULL;
-            const double cell = (static_cast<double>(state >> 53) - 1024.0) / 1024.0;
-            made.setElement(i, j, cell);
-            made.setElement(j, i, cell);
-        }
-    }
-    return made;
-}
-
-/** The steps as they are told, with weights of 1; returns their number. */
-int plainRepair(matrix<double>& x, int n)
-{
-    matrix<double> W = identity(n);
-    matrix<double> dS(n, n, 0.0);
-    for (int steps = 1;; ++steps) {
-        matrix<double> R(n, n, 0.0);
-        M_Sums1As2B(&x, n, n, &dS, 1.0, -1.0, &R);
-        matrix<double> X(n, n, 0.0);
-        M_SProject(&R, n, &W, &X);
-        matrix<double> D(n, n, 0.0);
-        matrix<double> Y(n, n, 0.0);
-        M_UProject(&X, n, &Y);
-        for (std::uint64_t k = 0; k < X.nbElem; ++k) {
-            dS.data[k] = X.data[k] - R.data[k];
-            D.data[k] = Y.data[k] - X.data[k];
-            x.data[k] = Y.data[k];
-        }
-        if (!(M_RowSumNorm(&D, n, n) / M_RowSumNorm(&Y, n, n) > 1e-6)) {
-            return steps;
-        }
-    }
-}
 
 /** The columns of a symmetric table from the diagonal down. */
 matrix3D<matrix<double>> triangleOf(const matrix<double>& table)
@@ -90,14 +24,6 @@ matrix3D<matrix<double>> triangleOf(const matrix<double>& table)
         }
     }
     return made;
-}
-
-void expectSymmetricCells(const matrix<double>& actual, const matrix<double>& expected)
-{
-    ASSERT_EQ(actual.nbElem, expected.nbElem);
-    for (std::uint64_t k = 0; k < expected.nbElem; ++k) {
-        ASSERT_SAME_BITS(actual.data[k], expected.data[k]) << "cell " << k;
-    }
 }
 
 void expectTriangle(matrix3D<matrix<double>>& actual, const matrix<double>& expected)
@@ -225,7 +151,7 @@ TEST(NearestCorrelation, OfACorrelationMatrixIsThatMatrix)
         }
     }
     for (const matrix<double>& table :
-         {regular, matrix<double>(3, 3, 1.0), signs, identity(4), identity(1)}) {
+         {regular, matrix<double>(3, 3, 1.0), signs, diagonalOfOnes(4), diagonalOfOnes(1)}) {
         expectSymmetricCells(repaired(table), table);
         // The plain steps stop after one pass too, and reach the same but for rounding.
         matrix<double> plain(table);
@@ -315,52 +241,65 @@ TEST(NearestCorrelation, EndsWhateverTheCellsAre)
     expectSymmetricCells(huge, expected);
 }
 
-TEST(NearestCovariance, KeepsTheVariances)
+TEST(NearestCorrelation, TakesACellBelowTheSentinelForANumber)
 {
-    const double deviations[]{2, 0.5, 3};
-    matrix<double> covariances = bandOf(3, 1, 1);
-    for (int j = 0; j < 3; ++j) {
-        for (int i = 0; i < 3; ++i) {
-            covariances.setElement(i, j, covariances.getElement(i, j) * deviations[i] * deviations[j]);
-        }
-    }
-    EXPECT_EQ(M_CovMatFromSymMat(&covariances, 3), 0);
-    const matrix<double> correlations = repaired(bandOf(3, 1, 1));
-    for (int j = 0; j < 3; ++j) {
-        EXPECT_EQ(covariances.getElement(j, j), deviations[j] * deviations[j]);
-        for (int i = 0; i < 3; ++i) {
-            EXPECT_NEAR(covariances.getElement(i, j),
-                        correlations.getElement(i, j) * deviations[i] * deviations[j], 1e-14);
-        }
-    }
-}
-
-TEST(NearestCovariance, IsTheStepsOfItsRule)
-{
-    constexpr int n = 6;
-    matrix<double> table = randomIndefinite(n);
-    matrix<double> variances(n, 1, 0.0);
-    for (int i = 0; i < n; ++i) {
-        table.setElement(i, i, 0.5 + i);
-        variances[i] = 0.5 + i;
-    }
-    matrix<double> correlations(n, n, 0.0);
-    M_CorrMatFromCovMat(&table, n, &correlations, -1);
-    EXPECT_EQ(M_CorrMatFromSymMat(&correlations, n), 0);
-    matrix<double> expected(n, n, 0.0);
-    M_CovMatFromCorrMat(&correlations, n, &variances, &expected);
-    EXPECT_EQ(M_CovMatFromSymMat(&table, n), 0);
+    const double below = std::nextafter(MISSING_DBL, -infinite);
+    matrix<double> table = bandOf(2, 1, below);
+    matrix<double> expected(table);
+    plainRepair(expected, 2);
+    EXPECT_EQ(M_CorrMatFromSymMat(&table, 2), 0);
     expectSymmetricCells(table, expected);
+    matrix3D<matrix<double>> triangle = triangleOf(bandOf(2, 1, below));
+    EXPECT_EQ(M_CorrMatFromSymMatSPV_T(&triangle, 2), 0);
+    expectTriangle(triangle, expected);
 }
 
-TEST(NearestCovariance, TakesCorrelationsOfNoVarianceForZero)
+TEST(NearestCorrelation, IsThatOfTheFirstRowsAndColumns)
 {
-    matrix<double> table = columnTable(3, {4, 7, 5, 7, 0, 3, 5, 3, 1});
-    EXPECT_EQ(M_CovMatFromSymMat(&table, 3), 0);
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(table.getElement(i, 1), 0.0);
-        EXPECT_EQ(table.getElement(1, i), 0.0);
+    const matrix<double> made = repaired(bandOf(3, 1, 1));
+    matrix<double> larger(4, 5, 7.0);
+    larger.setElement(3, 3, MISSING_DBL);
+    std::vector<matrix<double>> chunks;
+    matrix<double>* columns[3];
+    for (int j = 0; j < 3; ++j) {
+        chunks.emplace_back(4, 1, 7.0);
+        for (int i = 0; i < 3; ++i) {
+            larger.setElement(i, j, i == j || i == j - 1 || i == j + 1);
+            chunks.back().data[i] = larger.getElement(i, j);
+        }
     }
-    EXPECT_EQ(table.getElement(0, 0), 4.0);
-    EXPECT_NEAR(table.getElement(2, 0), 2.0, 1e-5) << "a correlation of 2.5 becomes 1";
+    for (std::size_t j = 0; j < 3; ++j) {
+        columns[j] = &chunks[j];
+    }
+    EXPECT_EQ(M_CorrMatFromSymMat(&larger, 3), 0);
+    EXPECT_EQ(M_CorrMatFromSymMatSPV(columns, 3), 0);
+    for (int j = 0; j < 3; ++j) {
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_SAME_BITS(larger.getElement(i, j), made.getElement(i, j));
+            EXPECT_SAME_BITS(columns[j]->data[i], made.getElement(i, j));
+        }
+        EXPECT_EQ(larger.getElement(3, j), 7.0);
+        EXPECT_EQ(columns[j]->data[3], 7.0);
+    }
+    EXPECT_EQ(larger.getElement(0, 3), 7.0);
+}
+
+TEST(NearestCorrelation, OfAnObliqueTableIsThatOfTheSteps)
+{
+    for (const int n : {2, 3, 6}) {
+        matrix<double> table = randomIndefinite(n);
+        for (int i = 0; i < n; ++i) {
+            for (int j = 0; j < i; ++j) {
+                table.setElement(j, i, 0.25 * (i + j));
+            }
+        }
+        matrix<double> expected(table);
+        plainRepair(expected, n);
+        matrix<double> dense(table);
+        EXPECT_EQ(M_CorrMatFromSymMat(&dense, n), 0);
+        expectSymmetricCells(dense, expected);
+        column_chunks chunks(table);
+        EXPECT_EQ(M_CorrMatFromSymMatSPV(chunks.get(), n), 0);
+        EXPECT_EQ(chunks.cells(), cellsOf(expected));
+    }
 }

@@ -66,7 +66,7 @@ KORVEL_API int BiplotTransData(matrix<double>** rowCoordinates, matrix<double>* 
  * @param x      `n` by `p`
  * @param n      rows
  * @param p      columns
- * @param result `n` by `p`; may be `x`. It is not resized
+ * @param result `n` by `p`, and may be such an `x`; a table of another shape becomes zeros of this one first
  * @throws std::bad_alloc when memory is short
  */
 KORVEL_API void cComputeCosines(matrix<double>* x, int n, int p, matrix<double>*& result);

@@ -21,7 +21,7 @@
  * - The standard errors of terms are over `n` - P - 1 degrees of freedom, with or without a constant,
  * whatever the weights and however many terms were refused; they are 0 where that is 0, and missing where it
  * is negative. That of a term with a deviation of 0, a refused one for instance, is written as 0; its
- * coefficient is not written.
+ * coefficient is not written. Neither is written of a term with another deviation of up to 1e-12.
  * - The standard error of the intercept is over W - P - 1 degrees of freedom. Its sum of parts starts at 0
  * when `n` - P is 1; where W - P - 1, times the deviations of a pair of terms, is 0, the sum starts anew from
  * 0; and it is missing when the sum is negative. Without a constant it is not written.
@@ -40,7 +40,8 @@
  * @param X5             the fifth table
  * @param Y              the response, `n` elements
  * @param weights        `n` weights
- * @param degree         1; for any other degree, and without a column, nothing is written
+ * @param degree         1; for any other degree, and when the counts of columns add up to less than 1,
+ * nothing is written
  * @param noConstant     0: the model has an intercept
  * @param tolerance      of a term
  * @param coefficients   receives P + 1 elements, the intercept last

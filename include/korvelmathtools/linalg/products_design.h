@@ -50,8 +50,7 @@ KORVEL_API void M_ProductDesignAB2(matrix<double>* A, int n, int& colsA, matrix<
  * @param colsA columns of A
  * @param B     `n` by `colsB`
  * @param colsB columns of B
- * @param C     receives `n` by `colsA * colsB`; neither A nor B. One with too few rows or columns is first
- *              given these, and any other keeps its shape
+ * @param C     resized to `n` by `colsA * colsB` and filled; neither A nor B
  * @param extra not read
  * @throws std::bad_alloc when memory is short; nothing is then written
  */

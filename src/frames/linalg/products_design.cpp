@@ -40,7 +40,10 @@ int VB_M_ProductHorizAB2(double* a, int n, int* colsA, const double* b, int cols
 
 int VB_V_ProductHorizV1V2(const double* x, int n, const double* y, int m, double* out)
 {
-    storeEveryProduct(x, n, y, m, out);
+    auto products = frame::borrow(out, productOfCounts(n, m));
+    const auto left = frame::besides(products, x, n);
+    const auto right = frame::besides(products, y, m);
+    storeEveryProduct(left.data, n, right.data, m, products.data);
     return 0;
 }
 

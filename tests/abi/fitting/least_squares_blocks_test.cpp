@@ -99,3 +99,26 @@ TEST(FlatLeastSquaresBlocks, FitsEachOfTheFiveTables)
     expectCells(fitted, valuesOf(itsFitted));
     EXPECT_NE(valuesOf(coefficients)[4], 0.0);
 }
+
+TEST(FlatLeastSquaresBlocks, HasRoomForTheSumOfTheCounts)
+{
+    results none(1);
+    EXPECT_EQ(RunOLSBasic2Lg(5, 1, x1.data(), -1, nullptr, 0, nullptr, 0, nullptr, 0, nullptr,
+                             response.data(), ones.data(), 1, 0, 0, 1e-12, none.coefficients.data(),
+                             none.errors.data(), none.fitted.data()),
+              0);
+    expectCells(none.coefficients, {0});
+    expectCells(none.fitted, {0, 0, 0, 0, 0});
+    // The intercept has no room, and is in the fitted values all the same.
+    const std::vector<double> both{1, 2, 3, 4, 6, 2, 1, 5, 3, 4};
+    results out(2);
+    results whole(3);
+    RunOLSBasic2Lg(5, 2, both.data(), -1, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, response.data(),
+                   ones.data(), 1, 0, 0, 1e-12, out.coefficients.data(), out.errors.data(),
+                   out.fitted.data());
+    RunOLSBasic2Lg(5, 2, both.data(), 0, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, response.data(),
+                   ones.data(), 1, 0, 0, 1e-12, whole.coefficients.data(), whole.errors.data(),
+                   whole.fitted.data());
+    expectCells(out.coefficients, {valuesOf(whole.coefficients)[0], valuesOf(whole.coefficients)[1]});
+    expectCells(out.fitted, valuesOf(whole.fitted));
+}

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <new>
 #include <vector>
 
 using namespace korvel::test;
@@ -76,4 +77,23 @@ TEST(FlatToleranceScreening, PassesTheFlagOfTheReverseOrder)
     run(-1);
     EXPECT_SAME_BITS(valuesOf(tolerances)[0], 1.0);
     EXPECT_SAME_BITS(valuesOf(status)[2], 60000.0);
+}
+
+TEST(FlatToleranceScreening, RefusesANegativeCount)
+{
+    guarded<double> one{1};
+    guarded<double> status{7};
+    EXPECT_THROW(VB_CheckTolerance(one.data(), 1, -1, one.data(), one.data(), 1e-4, 0, 0, 0, 0, status.data(),
+                                   status.data(), status.data()),
+                 std::bad_alloc)
+        << "of groups";
+    EXPECT_THROW(VB_CheckTolerance(one.data(), -1, 1, one.data(), one.data(), 1e-4, 0, 0, 0, 0, status.data(),
+                                   status.data(), status.data()),
+                 std::bad_alloc)
+        << "of variables";
+    expectCells(status, {7});
+    EXPECT_EQ(VB_CheckTolerance(one.data(), 1, 0, nullptr, one.data(), 1e-4, 0, 0, 0, 0, status.data(),
+                                one.data(), one.data()),
+              0);
+    expectCells(status, {-1});
 }

@@ -1,7 +1,10 @@
 #include "korvelmathtools/KORVELMathTools.h"
 #include "support/guarded.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <limits>
+#include <vector>
 
 using namespace korvel::test;
 
@@ -80,4 +83,61 @@ TEST(FlatHorizontalProduct, OfVectorsRunsOverTheSecondFirst)
     n = 0;
     EXPECT_EQ(VB_V_ProductHorizV1V22(nullptr, &n, y.data(), 3), 0);
     EXPECT_EQ(n, 0);
+}
+
+TEST(FlatHorizontalProduct, OfVectorsMayLieOverThem)
+{
+    const std::vector<double> x{2, 3};
+    const std::vector<double> y{10, 100, 1000};
+    const std::vector<double> expected{20, 200, 2000, 30, 300, 3000};
+    for (std::size_t shift = 0; shift <= 8; ++shift) {
+        std::vector<double> cells(16, 9.0);
+        double* const out = cells.data() + 4;
+        std::copy(x.begin(), x.end(), cells.begin() + static_cast<std::ptrdiff_t>(shift));
+        VB_V_ProductHorizV1V2(cells.data() + shift, 2, y.data(), 3, out);
+        EXPECT_EQ(std::vector<double>(out, out + 6), expected) << shift;
+        std::copy(y.begin(), y.end(), cells.begin() + static_cast<std::ptrdiff_t>(shift));
+        VB_V_ProductHorizV1V2(x.data(), 2, cells.data() + shift, 3, out);
+        EXPECT_EQ(std::vector<double>(out, out + 6), expected) << shift;
+    }
+}
+
+TEST(FlatDesign, ReadsTheOtherTableBeforeItIsWrittenOver)
+{
+    // The other table stands where the second column of the result goes.
+    const std::vector<double> x{1, 2};
+    guarded<double> weights{1, 1};
+    for (const bool design : {true, false}) {
+        guarded<double> a{1, 2, 3, 4, 5, 6};
+        guarded<double> sums{9, 9};
+        int cols = 1;
+        if (design) {
+            VB_M_ProductDesignAB2(a.data(), 2, &cols, a.data() + 2, 2, 4, weights.data(), sums.data());
+        } else {
+            VB_M_ProductHorizAB2(a.data(), 2, &cols, a.data() + 2, 2);
+        }
+        EXPECT_EQ(cols, 2);
+        expectCells(a, {3, 8, 5, 12, 5, 6});
+    }
+}
+
+TEST(FlatHorizontalProduct, TakesNegativeCountsForNone)
+{
+    guarded<double> a{2, 3};
+    guarded<double> sums{9};
+    int cols = -1;
+    EXPECT_EQ(VB_M_ProductDesignAB2(a.data(), 1, &cols, a.data(), 1, 5, a.data(), sums.data()), 0);
+    EXPECT_EQ(cols, 0);
+    cols = 1;
+    EXPECT_EQ(VB_M_ProductHorizAB2(a.data(), 1, &cols, a.data(), -1), 0);
+    EXPECT_EQ(cols, 0);
+    EXPECT_EQ(VB_M_ProductHorizAB(a.data(), -1, 1, a.data(), 1, sums.data(), 0), 0);
+    EXPECT_EQ(VB_M_ProductHorizAB(a.data(), 1, -1, a.data(), 1, sums.data(), 0), 0);
+    EXPECT_EQ(VB_V_ProductHorizV1V2(a.data(), -1, a.data(), 2, sums.data()), 0);
+    EXPECT_EQ(VB_V_ProductHorizV1V2(a.data(), 2, a.data(), -1, sums.data()), 0);
+    int n = 2;
+    EXPECT_EQ(VB_V_ProductHorizV1V22(a.data(), &n, a.data(), -1), 0);
+    EXPECT_EQ(n, 0);
+    expectCells(a, {2, 3});
+    expectCells(sums, {9});
 }

@@ -10,7 +10,8 @@
 /**
  * Regression as by RunOLSBasic2 on the columns of five tables, one behind the other, without powers or
  * interactions. The standard errors of terms are over n less the terms, less 1, degrees of freedom. All
- * results are set to 0 first; for any other degree than 1, and without a column, they stay 0.
+ * results are set to 0 first; for any other degree than 1, and when the counts of columns add up to less than
+ * 1, they stay 0.
  *
  * @param n  rows
  * @param p1 columns of the first table; below 1 it does not take part

@@ -75,7 +75,7 @@ KORVEL_FLAT int VB_M_ProductHorizAB2(double* a, int n, int* colsA, const double*
  * @param n   elements of x
  * @param y   [in] m numbers
  * @param m   elements of y
- * @param out [out] n * m numbers; shares no memory with the vectors
+ * @param out [out] n * m numbers; may be a vector that is read
  * @return 0
  */
 KORVEL_FLAT int VB_V_ProductHorizV1V2(const double* x, int n, const double* y, int m, double* out);
