@@ -27,9 +27,13 @@ def version_header(root):
 #ifndef KORVEL_PLATFORM_VERSION_H
 #define KORVEL_PLATFORM_VERSION_H
 
+/** The version as a text. */
 #define KORVEL_VERSION "{version}"
+/** The first number of the version. */
 #define KORVEL_VERSION_MAJOR {major}
+/** The second number of the version. */
 #define KORVEL_VERSION_MINOR {minor}
+/** The third number of the version. */
 #define KORVEL_VERSION_PATCH {patch}
 
 /** 10000 times the major number, plus 100 times the minor one, plus the patch. */

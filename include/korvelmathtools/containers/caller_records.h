@@ -25,7 +25,7 @@ typedef struct ST_Vect {
 
 /** A table of labelled columns, 40 bytes. */
 typedef struct ST_MVect {
-    int nbcols;
+    int nbcols;           /**< Number of columns. */
     short int samenbrows; /**< -1 when all columns have the same length, otherwise 0. */
     int nbrowsmax;        /**< Length of the longest column. */
     SAFEARRAY* nbrows;    /**< `int`: row count of each column. */
@@ -35,25 +35,25 @@ typedef struct ST_MVect {
 
 /** Category statistics of a set of qualitative columns, 208 bytes. */
 typedef struct ST_QualiInfo {
-    int Count;
-    double SumW;
-    int MaxNbCat;
-    SAFEARRAY* NbCat; /**< `int`. */
-    int NbCatTotal;
-    ST_MVect CatNames; /**< Texts. */
-    ST_MVect CatFreq;  /**< `double`. */
-    ST_MVect CatFreqW; /**< `double`. */
-    double FreqMax;
-    SAFEARRAY* VarLabels; /**< BSTR. */
-    short int IgnoreNewCategoryInPred;
-    short int withRecode;
-    int codeStart;
-    SAFEARRAY* Codes; /**< `double`; read only when `withRecode` is not 0. */
-    int nCodes;
-    short int withSort;
-    short int noWeights;
-    short int withLongLabels;
-    int CheckType;
+    int Count;                         /**< Number of rows. */
+    double SumW;                       /**< Sum of the weights. */
+    int MaxNbCat;                      /**< Most categories of a column. */
+    SAFEARRAY* NbCat;                  /**< `int`. */
+    int NbCatTotal;                    /**< Categories of all columns together. */
+    ST_MVect CatNames;                 /**< Texts. */
+    ST_MVect CatFreq;                  /**< `double`. */
+    ST_MVect CatFreqW;                 /**< `double`. */
+    double FreqMax;                    /**< Largest frequency of a category. */
+    SAFEARRAY* VarLabels;              /**< BSTR. */
+    short int IgnoreNewCategoryInPred; /**< 0 makes an unknown category an error in validation. */
+    short int withRecode;              /**< Not 0: `Codes` is read. */
+    int codeStart;                     /**< Code of the first category. */
+    SAFEARRAY* Codes;                  /**< `double`; read only when `withRecode` is not 0. */
+    int nCodes;                        /**< Number of codes. */
+    short int withSort;                /**< -1: categories are sorted. */
+    short int noWeights;               /**< -1: every row weighs 1. */
+    short int withLongLabels;          /**< -1: category names carry the label of their variable. */
+    int CheckType;                     /**< Carried along for the caller. */
 } ST_QualiInfo;
 
 /* Every offset and size, for whoever compiles this header. C99 has no static assertion: an array of -1

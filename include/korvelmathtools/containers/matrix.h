@@ -62,11 +62,11 @@ public:
     T oobValue = korvel::initialOutOfBoundsValue<T>(); ///< What an index outside the block reaches.
     T spareValue{};                                    ///< A second spare slot; nothing reads it.
     bool bOwner = true;                                ///< Whether `data` is this object's to free.
-    std::int32_t firstElem = 0; ///< First element written back to a host array of texts.
-    std::uint64_t nbElem = 0;   ///< Elements; linear indices are checked against it.
-    std::uint64_t capacity = 0; ///< Elements that the present block can hold.
-    std::int32_t nbrows = 0;
-    std::int32_t nbcols = 0;
+    std::int32_t firstElem = 0;     ///< First element written back to a host array of texts.
+    std::uint64_t nbElem = 0;       ///< Elements; linear indices are checked against it.
+    std::uint64_t capacity = 0;     ///< Elements that the present block can hold.
+    std::int32_t nbrows = 0;        ///< Rows of the table.
+    std::int32_t nbcols = 0;        ///< Columns of the table.
     T* data = nullptr;              ///< Element (i, j), 0-based, is at `data[i + nbrows * j]`.
     SAFEARRAY* safeArray = nullptr; ///< The host array that this object is attached to, or null.
 
@@ -309,18 +309,18 @@ template <class T>
 class KORVEL_TYPE statistics_matrix : public matrix<T>
 {
 public:
-    double* buffer1 = nullptr;
-    double* buffer2 = nullptr;
-    double* buffer3 = nullptr;
-    double* buffer4 = nullptr;
-    double* buffer5 = nullptr;
-    double* buffer6 = nullptr;
-    double* buffer7 = nullptr;
-    std::int32_t count1 = 0;
-    std::int32_t count2 = 0;
-    bool flag1 = false;
-    bool flag2 = false;
-
+    double* buffer1 = nullptr; ///< The caller's.
+    double* buffer2 = nullptr; ///< The caller's.
+    double* buffer3 = nullptr; ///< The caller's.
+    double* buffer4 = nullptr; ///< The caller's.
+    double* buffer5 = nullptr; ///< The caller's.
+    double* buffer6 = nullptr; ///< The caller's.
+    double* buffer7 = nullptr; ///< The caller's.
+    std::int32_t count1 = 0;   ///< The caller's.
+    std::int32_t count2 = 0;   ///< The caller's.
+    bool flag1 = false;        ///< The caller's.
+    bool flag2 = false;        ///< The caller's.
+    /** Empty; as those of `matrix`, without buffers; moved with the buffers. */
     statistics_matrix() = default;
     statistics_matrix(int rows, int cols, const T& value) : matrix<T>(rows, cols, value) {}
     statistics_matrix(const statistics_matrix&) = delete;

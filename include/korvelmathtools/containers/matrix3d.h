@@ -22,7 +22,7 @@ template <class M>
 class matrix3DBase
 {
 public:
-    std::vector<M> chunks;
+    std::vector<M> chunks; ///< The chunks, in their order.
 
     virtual double getElement(int a, int b) = 0;                ///< 0-based.
     virtual double vbget(int a, int b) = 0;                     ///< `getElement(a - 1, b - 1)`.

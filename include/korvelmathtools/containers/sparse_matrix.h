@@ -41,8 +41,8 @@ class cST_MVect;
 class KORVEL_TYPE matrixSparse
 {
 public:
-    std::int32_t nbrows = 0;
-    std::int32_t nbcols = 0;
+    std::int32_t nbrows = 0; ///< Rows of the table.
+    std::int32_t nbcols = 0; ///< Columns of the table.
     /** Number of stored entries; a table made with `reserve` starts from the number it has room for. */
     std::int32_t nnz = 0;
     std::vector<int> colIndex;  ///< Column, 0-based, of each stored entry.
@@ -51,8 +51,8 @@ public:
 
     /** No rows, no columns, no entries. */
     KORVEL_API matrixSparse();
-    KORVEL_API matrixSparse(const matrixSparse& src);
-    KORVEL_API matrixSparse& operator=(const matrixSparse& src);
+    KORVEL_API matrixSparse(const matrixSparse& src);            ///< A copy of its own.
+    KORVEL_API matrixSparse& operator=(const matrixSparse& src); ///< Becomes a copy.
 
     /**
      * A table filled with one value.
@@ -72,7 +72,7 @@ public:
     /** `outputSparse(m)` on an empty table. */
     KORVEL_API explicit matrixSparse(matrix<double>* m);
 
-    KORVEL_API ~matrixSparse();
+    KORVEL_API ~matrixSparse(); ///< Frees what the table holds.
 
     /**
      * The element in row `i` and column `j`, both 0-based.

@@ -28,25 +28,25 @@ extern "C" {
 #endif
 
 #if defined(__cplusplus)
-typedef char16_t OLECHAR;
+typedef char16_t OLECHAR;     /**< A code unit of UTF-16; `wchar_t` on Windows. */
 #else
 typedef uint_least16_t OLECHAR;
 #endif
-typedef OLECHAR* BSTR;
-typedef uint16_t USHORT;
-typedef uint16_t WORD;
-typedef int32_t LONG;
-typedef uint32_t ULONG;
-typedef uint32_t UINT;
-typedef int32_t HRESULT;
-typedef uint16_t VARTYPE;
-typedef int16_t VARIANT_BOOL;
+typedef OLECHAR* BSTR;        /**< A text, with its length in bytes in the four bytes before it. */
+typedef uint16_t USHORT;      /**< 16 bits without a sign. */
+typedef uint16_t WORD;        /**< 16 bits without a sign. */
+typedef int32_t LONG;         /**< 32 bits. */
+typedef uint32_t ULONG;       /**< 32 bits without a sign. */
+typedef uint32_t UINT;        /**< 32 bits without a sign. */
+typedef int32_t HRESULT;      /**< How a call ended: below 0 when it failed. */
+typedef uint16_t VARTYPE;     /**< A type of `VARENUM`. */
+typedef int16_t VARIANT_BOOL; /**< -1 true, 0 false. */
 
-#define S_OK ((HRESULT)0)
-#define E_INVALIDARG ((HRESULT)0x80070057)
-#define DISP_E_ARRAYISLOCKED ((HRESULT)0x8002000D)
-#define VARIANT_TRUE ((VARIANT_BOOL)-1)
-#define VARIANT_FALSE ((VARIANT_BOOL)0)
+#define S_OK ((HRESULT)0)                          /**< The call did its work. */
+#define E_INVALIDARG ((HRESULT)0x80070057)         /**< An argument is not right. */
+#define DISP_E_ARRAYISLOCKED ((HRESULT)0x8002000D) /**< The array is locked. */
+#define VARIANT_TRUE ((VARIANT_BOOL)-1)            /**< True. */
+#define VARIANT_FALSE ((VARIANT_BOOL)0)            /**< False. */
 
 /** One dimension of a host array. */
 typedef struct tagSAFEARRAYBOUND {
@@ -56,12 +56,12 @@ typedef struct tagSAFEARRAYBOUND {
 
 /** Descriptor of a host array. The bounds stand in reverse: the rightmost dimension is `rgsabound[0]`. */
 typedef struct tagSAFEARRAY {
-    USHORT cDims;
-    USHORT fFeatures;
-    ULONG cbElements;
-    ULONG cLocks;
-    void* pvData;
-    SAFEARRAYBOUND rgsabound[1];
+    USHORT cDims;                /**< Number of dimensions. */
+    USHORT fFeatures;            /**< What is known of it: the sum of `FADF_` numbers. */
+    ULONG cbElements;            /**< Bytes of an element. */
+    ULONG cLocks;                /**< Number of locks. */
+    void* pvData;                /**< The elements, the leftmost index running fastest. */
+    SAFEARRAYBOUND rgsabound[1]; /**< A bound for each dimension. */
 } SAFEARRAY;
 
 enum {
@@ -102,16 +102,16 @@ enum VARENUM {
 /** A record of the caller's, with its description; nothing here reads one, but it makes a cell 24 bytes long.
  */
 typedef struct tagRECORDREFERENCE {
-    void* pvRecord;
-    void* pRecInfo;
+    void* pvRecord; /**< The record. */
+    void* pRecInfo; /**< Its description. */
 } RECORDREFERENCE;
 
 /** A cell of any type; `vt` tells which member of the union holds it. */
 typedef struct tagVARIANT {
-    VARTYPE vt;
-    uint16_t wReserved1;
-    uint16_t wReserved2;
-    uint16_t wReserved3;
+    VARTYPE vt;          /**< What the cell holds, a type of `VARENUM`. */
+    uint16_t wReserved1; /**< Not used. */
+    uint16_t wReserved2; /**< Not used. */
+    uint16_t wReserved3; /**< Not used. */
     /* C99 has no union without a name; compilers do. */
     __extension__ union {
         int64_t llVal;
@@ -153,13 +153,13 @@ KORVEL_AUTOMATION_API HRESULT SafeArrayDestroy(SAFEARRAY* array);
 
 /** A moment in the calendar, as a clock shows it. */
 typedef struct tagSYSTEMTIME {
-    WORD wYear;
-    WORD wMonth;     /**< 1 to 12. */
-    WORD wDayOfWeek; /**< 0 for Sunday; only written. */
-    WORD wDay;       /**< 1 to 31. */
-    WORD wHour;
-    WORD wMinute;
-    WORD wSecond;
+    WORD wYear;         /**< The year. */
+    WORD wMonth;        /**< 1 to 12. */
+    WORD wDayOfWeek;    /**< 0 for Sunday; only written. */
+    WORD wDay;          /**< 1 to 31. */
+    WORD wHour;         /**< 0 to 23. */
+    WORD wMinute;       /**< 0 to 59. */
+    WORD wSecond;       /**< 0 to 59. */
     WORD wMilliseconds; /**< Never read, always written as 0. */
 } SYSTEMTIME;
 
