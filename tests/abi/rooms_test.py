@@ -76,8 +76,7 @@ class Call:
         return [p for p in self.function.parameters if p.is_changed_count]
 
     def least(self, name):
-        text = declarations.one_line(next(p for p in self.function.parameters if p.name == name).text)
-        return 1 if re.search(r"\b0 (stands for|counts as) 1\b", text) else 0
+        return next(p for p in self.function.parameters if p.name == name).least
 
     @staticmethod
     def positive_sum(cells):

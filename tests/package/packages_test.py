@@ -17,6 +17,7 @@ HERE = Path(__file__).resolve().parent
 ROOT = HERE.parents[1]
 VERSION = (ROOT / "VERSION").read_text(encoding="ascii").strip()
 ABI = ".".join(VERSION.split(".")[:2]) if VERSION.startswith("0.") else VERSION.split(".")[0]
+PYTHON = "/usr/bin/python3"  # the one that has Debian's NumPy
 WINE = "/usr/lib/wine/wine64"
 STRICT_C = ["-std=c99", "-pedantic-errors", "-Wall", "-Wextra", "-Werror"]
 
@@ -85,7 +86,7 @@ class LinuxPackages(Packages):
 
     def test_sums(self):
         self.check_sums()
-        self.assertEqual(len(list(self.dist.iterdir())), 4)
+        self.assertEqual(len(list(self.dist.iterdir())), 5)
 
     def test_tarball(self):
         folder = SCRATCH / "tarball"
@@ -115,6 +116,11 @@ class LinuxPackages(Packages):
             "--force-script-chrootless", "--install", libraries, development)
         self.call_by_pkg_config(root / "usr")
         build_callers_by_cmake(root / "usr", SCRATCH / "callers_of_debian_packages")
+
+    def test_wheel(self):
+        folder = SCRATCH / "wheel"
+        run(PYTHON, "-m", "pip", "install", "--no-index", "--no-deps", "--target", folder, self.file("*.whl"))
+        run(PYTHON, ROOT / "tests" / "bindings" / "python_test.py", env=dict(os.environ, PYTHONPATH=str(folder)))
 
     def test_bad_options(self):
         kept = sorted(self.dist.iterdir())

@@ -73,6 +73,11 @@ class Parameter:
         return re.search(r"\b(may be null|[Nn]ull:)", one_line(self.text)) is not None
 
     @property
+    def least(self):
+        """What a count of 0 stands for: 1 where the text says so."""
+        return 1 if re.search(r"\b0 (stands for|counts as) 1\b", one_line(self.text)) else 0
+
+    @property
     def rooms(self):
         """The room that the array takes, under the key None; and another one under the key (argument, its value)."""
         found = ROOM.match(one_line(self.text))

@@ -1,6 +1,6 @@
 """The committed files that are made from the flat headers and from VERSION, as {path below the root: content}."""
 
-from . import core_list, flat_headers, reference_page, vba_module
+from . import core_list, flat_headers, python_module, reference_page, released, vba_module
 
 
 def names_of(headers):
@@ -15,9 +15,12 @@ def module_definition(headers):
     return "LIBRARY KORVELMathTools\nEXPORTS\n" + "".join(f"    {name}\n" for name in names_of(headers))
 
 
-def version_header(root):
+def version_of(root):
+    return (root / "VERSION").read_text(encoding="ascii").strip()
+
+
+def version_header(version):
     """The C header that says what VERSION says."""
-    version = (root / "VERSION").read_text(encoding="ascii").strip()
     major, minor, patch = map(int, version.split("."))
     return f"""\
 /**
@@ -56,8 +59,10 @@ def make(root):
         "exports/flat.txt": flat_list(headers),
         "bindings/KORVELMathTools.def": module_definition(headers),
         "bindings/vba/KORVELMathTools.bas": vba_module.make(headers, problem),
+        "bindings/python/korvelmathtools/_declarations.py":
+            python_module.make(headers, version_of(root), released.abi(root)),
         "docs/reference.md": reference_page.make(headers, common.title),
-        f"{flat_headers.HEADERS}/platform/version.h": version_header(root),
+        f"{flat_headers.HEADERS}/platform/version.h": version_header(version_of(root)),
         core_list.NAME: core_list.in_order(core_list.read(root)),
     }
     return made, problems

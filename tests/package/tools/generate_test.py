@@ -192,6 +192,30 @@ KORVEL_FLAT void openValue(void);
             page,
         )
 
+    def test_python_declarations(self):
+        self.functions(SUM)
+        self.make()
+        made = {}
+        exec(self.read("bindings/python/korvelmathtools/_declarations.py"), made)
+        result, parameters, text = made["FUNCTIONS"]["VB_Sum"]
+        self.assertEqual(result, "double")
+        self.assertEqual(parameters[0], ("x", "double*", "in", False, (("n", "1", None),), 0))
+        self.assertEqual(parameters[1], ("n", "int", "", False, (), 0))
+        self.assertEqual(parameters[2], ("flags", "short int*", "in", True, (("n", "1", None),), 0))
+        self.assertEqual(
+            "".join(text).splitlines(),
+            [
+                "double VB_Sum(const double* x, int n, const short int* flags);",
+                "",
+                "Sums a vector, e.g. of weights. Adds upwards.",
+                "",
+                "x: in, n numbers",
+                "n: their number",
+                "flags: in, n flags; Null: none is set",
+                "returns the sum",
+            ],
+        )
+
     def test_check_names_each_file_that_differs(self):
         self.functions(SUM)
         self.assertEqual(self.run_tool("generate", "--check")[0], 1)
@@ -208,6 +232,7 @@ KORVEL_FLAT void openValue(void);
                     "exports/flat.txt",
                     "bindings/KORVELMathTools.def",
                     "bindings/vba/KORVELMathTools.bas",
+                    "bindings/python/korvelmathtools/_declarations.py",
                     "docs/reference.md",
                 )
             ],
