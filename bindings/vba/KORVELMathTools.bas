@@ -1340,6 +1340,76 @@ Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
 ' The version of the library that is loaded.
 Public Declare PtrSafe Function KORVEL_Version Lib "KORVELMathTools.dll" () As Long
 
+' ---- qualitative/category_counts.h
+
+' The number of different texts in each column, the empty one left out.
+Public Declare PtrSafe Function Cpp_GetMaxCat Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByRef categoryCounts As Long) As Long
+
+' Whether a name is used twice: in a slot of one variable, and in a later slot of the same or of any
+' other variable.
+Public Declare PtrSafe Function Cpp_CheckUniqueCatByVar Lib "KORVELMathTools.dll" ( _
+    ByVal categories As LongPtr, ByVal p As Long, ByVal width As Long, ByRef categoryCounts As Long) As Long
+
+' ---- qualitative/category_info.h
+
+' The categories of each variable, in tables as wide as there are rows.
+Public Declare PtrSafe Function VB_M_InfoQuali Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByVal modes As LongPtr, _
+    ByRef modeFrequencies As Double, ByRef categoryCounts As Long, ByVal categories As LongPtr, _
+    ByRef frequencies As Double, ByRef weights As Double, ByRef total As Long, ByVal sort As Integer) As Long
+
+' The same function under the name that sibling modules know.
+Public Declare PtrSafe Function Cpp_M_InfoQualiNoMiss Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByVal modes As LongPtr, _
+    ByRef modeFrequencies As Double, ByRef categoryCounts As Long, ByVal categories As LongPtr, _
+    ByRef frequencies As Double, ByRef weights As Double, ByRef total As Long, ByVal sort As Integer) As Long
+
+' The categories of each variable, in tables of a width of the caller's; more categories are not
+' kept.
+Public Declare PtrSafe Function VB_M_InfoQuali2 Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByVal width As Long, _
+    ByRef categoryCounts As Long, ByVal modes As LongPtr, ByRef modeFrequencies As Double, _
+    ByVal categories As LongPtr, ByRef frequencies As Double, ByRef weights As Double, _
+    ByRef total As Long, ByVal sort As Integer) As Long
+
+' The categories of variables that all have the same number of them.
+Public Declare PtrSafe Function Cpp_M_InfoQuali3 Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByVal width As Long, _
+    ByVal count As Long, ByVal modes As LongPtr, ByRef modeFrequencies As Double, _
+    ByVal categories As LongPtr, ByRef frequencies As Double, ByRef weightedFrequencies As Double, _
+    ByRef weights As Double, ByRef total As Long, ByVal sort As Integer) As Long
+
+' ---- qualitative/category_records.h
+
+' The categories of each variable of a labelled table, in order of first appearance, with their
+' numbers of rows and their weights. weights (Double) may be null.
+Public Declare PtrSafe Function Cpp_M_InfoQuali3_ST Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByRef weights As Any, ByVal info As LongPtr) As Long
+
+' ---- qualitative/category_validation.h
+
+' Counts the rows of each category by their weights.
+Public Declare PtrSafe Function VB_M_InfoQualiValid Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByVal width As Long, _
+    ByRef categoryCounts As Long, ByVal categories As LongPtr, ByRef counts As Double, _
+    ByRef newCategoryFound As Integer, ByRef weights As Double) As Long
+
+' Counts the rows of each category on records.
+Public Declare PtrSafe Function Cpp_M_InfoQualiValid_ST Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByVal reference As LongPtr, _
+    ByVal result As LongPtr, ByRef newCategoryFound As Integer, ByRef weights As Double) As Long
+
+' ---- qualitative/column_types.h
+
+' Whether a column is qualitative: the types 2, 4 and 5.
+Public Declare PtrSafe Function isQuali Lib "KORVELMathTools.dll" ( _
+    ByVal typeValue As Long) As Integer
+
+' Whether a column is qualitative and nothing else: the types 2 and 4.
+Public Declare PtrSafe Function isQualiPure Lib "KORVELMathTools.dll" ( _
+    ByVal typeValue As Long) As Integer
+
 ' ---- random/indicator.h
 
 ' Marks a range of elements.

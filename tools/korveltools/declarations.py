@@ -16,8 +16,8 @@ READ_ONLY = {read: written for written, read in ARRAYS.items()}
 
 # The room of an array: one cell, a count of cells, or rows by columns; and another room for one value of an argument. A
 # count is made of the function's own counts and sums of them, of the larger of two, of the largest of an array's numbers,
-# or of the sum of those that are positive, truncated.
-FACTOR = r"(?:\w+|\(\w+(?: [-+] \w+)+\))"
+# of the sum of those that are positive, truncated, or of the length of the longest column of a labelled table.
+FACTOR = r"(?:\w+\.nbrowsmax|\w+|\(\w+(?: [-+] \w+)+\))"
 COUNT = rf"(?:(?:max|sum)\([\w, ]+\)|{FACTOR})(?: [-+*/] {FACTOR})*"
 CELLS = r"(?:[a-z]+ )?(?!(?:row|column)s\b)[a-z]+s\b"
 ROOM = re.compile(rf"one [a-z]+\b|({COUNT})(?: by ({COUNT}))? {CELLS}"

@@ -155,12 +155,16 @@ def take_over(function, earlier, problem):
 def has_room(parameter, by_name):
     """Whether the text says how many cells the array has, in counts that the caller passes."""
     counts = " ".join(f"{room.rows} {room.columns}" for room in parameter.rooms.values())
+    measured = set(re.findall(r"(\w+)\.nbrowsmax", counts))
+    counts = re.sub(r"\w+\.nbrowsmax", "1", counts)
     summed = re.findall(r"(?:max|sum)\((\w+)\)", counts)
     names = set(re.findall(r"[A-Za-z_]\w*", re.sub(r"\b(sum|max)\(", "(", counts))) - set(summed)
     passed = {name for name, p in by_name.items() if p.type == "int" or p.is_changed_count}
     arrays = {name for name, p in by_name.items() if p.plain_type in ("double*", "int*")}
+    tables = {name for name, p in by_name.items() if p.type == "ST_MVect*"}
     choosers = {key[0] for key in parameter.rooms if key}
-    return bool(counts) and names <= passed and set(summed) <= arrays and choosers <= set(by_name)
+    return (bool(counts) and names <= passed and set(summed) <= arrays and measured <= tables
+            and choosers <= set(by_name))
 
 
 def describe(function, problem):

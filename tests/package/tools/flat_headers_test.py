@@ -118,7 +118,8 @@ class BrokenHeaders(Tree):
     ROOM = "must begin with its room: 'n numbers', 'rows by cols numbers', made of counts that are parameters, or 'one number'"
 
     def test_array_without_its_room(self):
-        for text in ("the numbers", "numbers, n of them", "m numbers", "n by m numbers", "sum(n) numbers", "max(n, m) numbers"):
+        for text in ("the numbers", "numbers, n of them", "m numbers", "n by m numbers", "sum(n) numbers", "max(n, m) numbers",
+                     "n.nbrowsmax numbers"):
             self.broken("[in] n numbers", f"[in] {text}", 4, f"VB_Sum: @param x {self.ROOM}")
 
     def test_array_with_its_room(self):
@@ -126,6 +127,12 @@ class BrokenHeaders(Tree):
                      "(n + n - 1) * n numbers", "max(n, n) numbers, or more", "one number: the first"):
             self.functions(SUM.replace("[in] n numbers", f"[in] {text}"))
             self.assertEqual(self.run_tool("generate"), (0, []))
+
+    def test_array_with_the_room_of_a_column(self):
+        self.functions("/**\n * Does it.\n * @param t [in] labelled table of numbers\n"
+                       " * @param x [in] t.nbrowsmax numbers\n */\n"
+                       "KORVEL_FLAT void VB_A(ST_MVect* t, const double* x);\n")
+        self.assertEqual(self.run_tool("generate"), (0, []))
 
     def test_flags_of_missing_rows_without_their_truth(self):
         self.functions(SUM.replace("@param flags", "@param iMissing").replace("int* flags", "int* iMissing"))

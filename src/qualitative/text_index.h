@@ -1,0 +1,156 @@
+/**
+ * @file
+ * Positions of texts by their content.
+ */
+#ifndef KORVEL_QUALITATIVE_TEXT_INDEX_H
+#define KORVEL_QUALITATIVE_TEXT_INDEX_H
+
+#include "containers/missing.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+namespace korvel
+{
+
+/** A text and a number that is the same for equal texts, so that it is worked out once. */
+class hashed_text
+{
+public:
+    explicit hashed_text(const text& source) : source_(&source), hash_(hashOf(source)) {}
+
+    /** An equal text that stands elsewhere. */
+    hashed_text(const text& source, std::uint64_t hash) : source_(&source), hash_(hash) {}
+
+    [[nodiscard]] const text& value() const { return *source_; }
+    [[nodiscard]] std::uint64_t hash() const { return hash_; }
+
+private:
+    static constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15u;
+
+    /** Four units at a time; the last four overlap those before them. */
+    static std::uint64_t hashOf(const text& source)
+    {
+        const char16_t* const units = source.data();
+        const std::size_t count = source.size();
+        std::uint64_t state = count * multiplier;
+        if (count >= 4) {
+            for (std::size_t k = 0; k + 4 < count; k += 4) {
+                state = mixed(state, fourUnits(units + k));
+            }
+            return mixed(state, fourUnits(units + (count - 4)));
+        }
+        for (std::size_t k = 0; k < count; ++k) {
+            state = state << 16 ^ state >> 48 ^ units[k];
+        }
+        return mixed(state, 0);
+    }
+
+    static std::uint64_t fourUnits(const char16_t* first)
+    {
+        std::uint64_t units = 0;
+        std::memcpy(&units, first, sizeof units);
+        return units;
+    }
+
+    static std::uint64_t mixed(std::uint64_t state, std::uint64_t units)
+    {
+        state = (state ^ units) * multiplier;
+        return state ^ state >> 32;
+    }
+
+    const text* source_;
+    std::uint64_t hash_;
+};
+
+/** Finds the position that was last put under a text. The texts stand elsewhere and must outlive the index.
+ */
+class text_index
+{
+public:
+    text_index() : places_(smallest) {}
+
+    /** The position of an equal text; -1 when there is none. */
+    [[nodiscard]] int find(const hashed_text& key) const { return places_[placeOf(key)].position; }
+    [[nodiscard]] int find(const text& key) const { return find(hashed_text(key)); }
+
+    /** Puts a position under a text. A text that is there already has that position from now on. */
+    void put(const hashed_text& key, int position)
+    {
+        entry& found = places_[placeOf(key)];
+        if (found.key == nullptr) {
+            found = {&key.value(), key.hash(), position};
+            ++used_;
+            if (2 * used_ > places_.size()) {
+                grow();
+            }
+        } else {
+            found.position = position;
+        }
+    }
+    void put(const text& key, int position) { put(hashed_text(key), position); }
+
+    /** The position under the text, which is `position` from now on when there was none. */
+    int findOrPut(const text& key, int position)
+    {
+        const hashed_text hashed(key);
+        const int found = find(hashed);
+        if (found < 0) {
+            put(hashed, position);
+        }
+        return found < 0 ? position : found;
+    }
+
+    void clear()
+    {
+        std::fill(places_.begin(), places_.end(), entry{});
+        used_ = 0;
+    }
+
+private:
+    struct entry {
+        const text* key = nullptr;
+        std::uint64_t hash = 0;
+        int position = -1;
+    };
+
+    static constexpr std::size_t smallest = 64; ///< As every size, a power of two.
+
+    /** Where the text stands, or the empty place where it belongs. */
+    [[nodiscard]] std::size_t placeOf(const hashed_text& key) const
+    {
+        const std::size_t last = places_.size() - 1;
+        std::size_t k = static_cast<std::size_t>(key.hash()) & last;
+        while (places_[k].key != nullptr &&
+               (places_[k].hash != key.hash() || *places_[k].key != key.value())) {
+            k = (k + 1) & last;
+        }
+        return k;
+    }
+
+    void grow()
+    {
+        std::vector<entry> larger(2 * places_.size());
+        larger.swap(places_);
+        for (const entry& old : larger) {
+            if (old.key != nullptr) {
+                std::size_t k = static_cast<std::size_t>(old.hash) & (places_.size() - 1);
+                while (places_[k].key != nullptr) {
+                    k = (k + 1) & (places_.size() - 1);
+                }
+                places_[k] = old;
+            }
+        }
+    }
+
+    std::vector<entry> places_;
+    std::size_t used_ = 0;
+};
+
+} // namespace korvel
+
+#endif
