@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <span>
 
 namespace
@@ -27,8 +28,13 @@ template <class T, class MakeChunk>
 matrix<T>** loadColumns(Hostarray** a, int n, int rows, int cols, SAFEARRAY* Hostarray::*column,
                         MakeChunk makeChunk)
 {
-    auto** const chunks = new matrix<T>*[static_cast<std::size_t>(std::max(n, 0))]();
-    auto** chunk = chunks;
+    const auto freeAll = [n](matrix<T>** made) {
+        deletecascade(made, n);
+        delete[] made;
+    };
+    std::unique_ptr<matrix<T>*[], decltype(freeAll)> chunks(
+        new matrix<T>*[static_cast<std::size_t>(std::max(n, 0))](), freeAll);
+    auto** chunk = chunks.get();
     for (const Hostarray& record : recordsOf(a, n)) {
         const SAFEARRAY* array = record.*column;
         if (array != nullptr && array->pvData != nullptr) {
@@ -39,7 +45,7 @@ matrix<T>** loadColumns(Hostarray** a, int n, int rows, int cols, SAFEARRAY* Hos
         }
         ++chunk;
     }
-    return chunks;
+    return chunks.release();
 }
 
 } // namespace

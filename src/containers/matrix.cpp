@@ -35,6 +35,7 @@ template <class T>
 void matrix<T>::Redim(int rows, int cols)
 {
     cols = std::max(cols, 1);
+    bool ownsBlock = false;
     if (safeArray != nullptr) {
         if (korvel::hostArrayShape(*safeArray) != korvel::table_shape{rows, cols}) {
             const std::array counts{rows, cols};
@@ -44,7 +45,7 @@ void matrix<T>::Redim(int rows, int cols)
         }
         setCounts(rows, cols);
         if constexpr (korvel::is_text<T>) {
-            growBlock();
+            ownsBlock = true;
             bOwner = true;
         } else {
             data = static_cast<T*>(safeArray->pvData);
@@ -52,7 +53,15 @@ void matrix<T>::Redim(int rows, int cols)
         }
     } else if ((nbrows != rows || nbcols != cols) && bOwner) {
         setCounts(rows, cols);
-        growBlock();
+        ownsBlock = true;
+    }
+    if (ownsBlock) {
+        try {
+            growBlock();
+        } catch (...) {
+            setCounts(0, 0); // there is no block that cells could be read from
+            throw;
+        }
     }
 }
 

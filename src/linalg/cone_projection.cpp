@@ -1,13 +1,13 @@
 #include "linalg/cone_projection.h"
 
+#include "linalg/eigen_decomposition.h"
 #include "linalg/products_symmetric.h"
-#include "linalg/symmetric_eigen.h"
 
 #include <limits>
 
 void korvel::cone_projection::form(const matrix<double>& table, int n, matrix<double>& projection)
 {
-    const int status = M_Eigen(table, values_, vectors_, n, -1);
+    const int status = eigenDecomposition(table, values_, vectors_, n, -1);
     int kept = n;
     if (status == 0 && n > 0) {
         const double rounding = n * std::numeric_limits<double>::epsilon() * values_[0];

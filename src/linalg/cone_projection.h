@@ -19,6 +19,7 @@ public:
      * converge it has no meaning, and of a table with a missing cell it is 0.
      *
      * @param projection receives `n` by `n`, sized by the caller
+     * @throws std::bad_alloc when memory is short
      */
     void form(const matrix<double>& table, int n, matrix<double>& projection);
 

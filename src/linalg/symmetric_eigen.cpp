@@ -5,6 +5,7 @@
 #include "containers/stretches.h"
 #include "containers/views.h"
 #include "linalg/clear_result.h"
+#include "linalg/eigen_decomposition.h"
 #include "linalg/kernels/symmetric_eigen.h"
 #include "linalg/product_forms.h"
 #include "linalg/tridiagonal_ql.h"
@@ -209,17 +210,21 @@ void storeEntries(const matrix<double>& cells, matrixSparse& to)
 
 } // namespace
 
+int korvel::eigenDecomposition(const matrix<double>& A, matrix<double>& values, matrix<double>& vectors,
+                               int n, short int sortFlag)
+{
+    if (!allCells(n, n, isPresent, reading(A))) {
+        return failure;
+    }
+    values.Redim(n, 1, 0.0);
+    vectors.Redim(n, n, 0.0);
+    return decompose(A, vectors, values, n, sortFlag, sweepsTooMany);
+}
+
 int M_Eigen(matrix<double> const& A, matrix<double>& values, matrix<double>& vectors, int n,
             short int sortFlag)
 {
-    if (!korvel::allCells(n, n, isPresent, reading(A))) {
-        return failure;
-    }
-    return withoutExceptions([&] {
-        values.Redim(n, 1, 0.0);
-        vectors.Redim(n, n, 0.0);
-        return decompose(A, vectors, values, n, sortFlag, korvel::sweepsTooMany);
-    });
+    return withoutExceptions([&] { return korvel::eigenDecomposition(A, values, vectors, n, sortFlag); });
 }
 
 int M_Eigen(matrix<double>* A, matrix<double>* values, matrix<double>* vectors, int n, short int sortFlag)
