@@ -8,6 +8,10 @@
 
 #include "linalg/block_stripes.h"
 
+#include <cstddef>
+#include <optional>
+#include <vector>
+
 namespace korvel
 {
 
@@ -38,14 +42,26 @@ public:
 
 private:
     struct entry {
-        stripe_product product;
+        int rows;
+        int depth;
+        const double* left;
+        std::ptrdiff_t leftStride;
+        const double* right;
+        double* result;
         std::vector<run_of_kind> runs;
         std::vector<double> diagonal;
     };
 
-    static void formColumn(const entry& block, int j);
+    template <int cols>
+    void formColumns(const entry& block, std::ptrdiff_t j) const;
+    template <int cols>
+    void formRun(const entry& block, const run_of_kind& run, const double* from, double* to) const;
 
     std::vector<entry> entries_;
+    int cols_ = 0;
+    std::ptrdiff_t rightStride_ = 0;
+    std::ptrdiff_t resultStride_ = 0;
+    std::optional<part_written> last_; ///< where the last product is stored
 };
 
 } // namespace korvel
