@@ -141,10 +141,14 @@ class Guide(unittest.TestCase):
         self.assertGreaterEqual(len(rows), 120)
         self.assertEqual(len({task for task, _ in rows}), len(rows))
         for task, names in rows:
-            for name, anchor in re.findall(r"\[(\w+)\]\(\.\./reference\.md#(\w+)\)", names):
-                self.assertIn(name, self.functions, task)
-                self.assertEqual(anchor, name.lower(), task)
-            self.assertEqual(re.sub(r"\[\w+\]\(\.\./reference\.md#\w+\)", "", names).strip(", "), "", task)
+            for name, link in re.findall(r"\[(\w+)\]\(([^)]+)\)", names):
+                if link.endswith(".h"):
+                    self.assertIn(name, self.core, task)
+                    self.assertRegex((GUIDE / link).read_text(encoding="utf-8"), rf"KORVEL_API [^;]*\b{name}\(", task)
+                else:
+                    self.assertIn(name, self.functions, task)
+                    self.assertEqual(link, f"../reference.md#{name.lower()}", task)
+            self.assertEqual(re.sub(r"\[\w+\]\([^)]+\)", "", names).strip(", "), "", task)
 
 
 if __name__ == "__main__":
