@@ -39,8 +39,7 @@ distance_bounds::distance_bounds(std::size_t candidates, std::size_t columns)
 double distance_bounds::inverseOf(double variance)
 {
     constexpr double smallest = 1e-300;
-    constexpr double largest = 1e300;
-    return variance >= smallest && variance <= largest ? 1.0 / variance : 0.0;
+    return variance >= smallest ? 1.0 / variance : 0.0;
 }
 
 distance_bounds::choice distance_bounds::maybeNearer(std::size_t block, double best) const

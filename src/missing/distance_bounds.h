@@ -58,7 +58,7 @@ private:
     };
 
     /** One over the variance; 0.0 where bounds leave the column out: it is not compared, or one over its
-     * variance is not precise. */
+     * variance is no number that a double can hold. */
     [[nodiscard]] static double inverseOf(double variance);
 
     [[nodiscard]] std::size_t placeOf(std::size_t block, std::size_t column) const

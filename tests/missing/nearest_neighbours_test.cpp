@@ -3,6 +3,8 @@
 #include "support/bits.h"
 #include "support/special_values.h"
 
+#include <cmath>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -246,6 +248,53 @@ TEST(NearestNeighbours, LearnFromOneTableAndFillAnother)
     EstimateRowsWithMissingNN(&statistics, 2, table, 3, 3, all.data(), nullptr, noNumbers, 0, nullptr,
                               noTexts, 0, nullptr);
     EXPECT_EQ(cells[7], 2) << "the mean of the other table";
+}
+
+TEST(NearestNeighbours, MayBeAtAnyFiniteDistance)
+{
+    // The variance is 1e-300, so the distance is 1e306.
+    numbers learnt{0, std::sqrt(2e-300), 1, 3};
+    numbers cells{1000, 0, 7, missing};
+    matrix<double> statistics(2, 2, learnt.data(), true);
+    matrix<double> filled(2, 2, cells.data(), true);
+    auto* table = &filled;
+    shorts flags{0, -1};
+    matrix<double>* noNumbers = nullptr;
+    matrix<text>* noTexts = nullptr;
+    EstimateRowsWithMissingNN(&statistics, 2, table, 2, 2, flags.data(), nullptr, noNumbers, 0, nullptr,
+                              noTexts, 0, nullptr);
+    EXPECT_EQ(cells[3], 7);
+}
+
+TEST(NearestNeighbours, AreFoundAmongDistancesTooSmallForNormalNumbers)
+{
+    // Distances are counted in units of the smallest double. All variances are the double next to 0.8, which
+    // is a little more than 0.8. So a square of six units gives 7, and not 7.5, which would be rounded to 8;
+    // one of eighteen gives 22. The first row is at 22 units, the last candidate at 3 times 7.
+    const double s = std::sqrt(1.6);
+    ASSERT_EQ(s * s / 2, 0.8);
+    const double unit = std::ldexp(1.0, -537);
+    constexpr int rows = 10;
+    numbers cells(4 * rows, 1.0);
+    for (std::size_t j = 0; j < 3; ++j) {
+        cells[j * rows] = j == 0 ? std::sqrt(18.0) * unit : 0.0;
+        cells[j * rows + 8] = std::sqrt(6.0) * unit;
+        cells[j * rows + 9] = 0.0;
+    }
+    for (std::size_t i = 0; i < rows; ++i) {
+        cells[3 * rows + i] = i == 9 ? missing : static_cast<double>(i);
+    }
+    numbers learnt{0, s, 0, s, 0, s, 0, 1};
+    matrix<double> statistics(2, 4, learnt.data(), true);
+    matrix<double> filled(rows, 4, cells.data(), true);
+    auto* table = &filled;
+    shorts flags(rows);
+    flags[9] = -1;
+    matrix<double>* noNumbers = nullptr;
+    matrix<text>* noTexts = nullptr;
+    EstimateRowsWithMissingNN(&statistics, 2, table, rows, 4, flags.data(), nullptr, noNumbers, 0, nullptr,
+                              noTexts, 0, nullptr);
+    EXPECT_EQ(cells.back(), 8);
 }
 
 TEST(NearestNeighbours, ComparePrimaryTextsToo)

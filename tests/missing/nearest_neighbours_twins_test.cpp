@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -298,5 +299,42 @@ TEST(NearestNeighboursTwins, OfTablesOfManyCandidates)
         EXPECT_TRUE(sameTable(ours.a, plainA));
         EXPECT_TRUE(sameTable(ours.b, plainB));
         EXPECT_TRUE(sameTexts(ours.c, plainC));
+    }
+}
+
+TEST(NearestNeighboursTwins, OfCandidatesThatDifferInTheLastPlace)
+{
+    for (std::uint64_t seed = 1; seed <= 60; ++seed) {
+        SCOPED_TRACE(seed);
+        random_cells cells(seed, odd_cells::none);
+        constexpr int n = 60;
+        constexpr int cols = 4;
+        matrix<double> x(n, cols, 0.0);
+        for (int i = 0; i < n; ++i) {
+            for (int j = 0; j + 1 < cols; ++j) {
+                x.setElement(i, j, 1.0 + cells.integer(0, 3) * std::numeric_limits<double>::epsilon());
+            }
+            x.setElement(i, cols - 1, i);
+        }
+        std::vector<short int> flags(n);
+        for (int i = 0; i < n; i += 20) {
+            flags[static_cast<std::size_t>(i)] = -1;
+            for (int j = 0; j + 1 < cols; ++j) {
+                x.setElement(i, j, cells.integer(1, 3) / 8.0);
+            }
+            x.setElement(i, cols - 1, MISSING_DBL);
+        }
+        matrix<double> w(n, 1, 1.0);
+        matrix<double> plain(x);
+        const plain_group<double> none;
+        const plain_group<text> noTexts;
+        korvel::reference::fillByNearest(numbersOf({&plain, nullptr}, plain, n, cols, w), none, noTexts, n,
+                                         flags.data());
+        auto* table = &x;
+        matrix<double>* second = nullptr;
+        matrix<text>* third = nullptr;
+        EstimateRowsWithMissingNN(table, n, table, n, cols, flags.data(), second, second, 0, third, third, 0,
+                                  &w);
+        EXPECT_TRUE(sameTable(x, plain));
     }
 }
