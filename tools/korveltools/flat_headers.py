@@ -9,7 +9,7 @@ SCALARS = ("double", "int", "short int")
 # Wrapping a record or a chunked table writes to it, even where the routine only reads.
 REFERENCES = ("ST_Vect*", "ST_MVect*", "ST_QualiInfo*", "SAFEARRAY**", "Hostarray**")
 POINTERS = (*ARRAYS, *READ_ONLY, *REFERENCES, "const char*")
-RESULTS = SCALARS + ("void", "OLECHAR**")
+RESULTS = SCALARS + ("void", "OLECHAR*", "OLECHAR**")
 HOST_ARRAY_ELEMENTS = ("Double", "Long", "Boolean", "String")
 
 HEADERS = "include/korvelmathtools"
