@@ -64,6 +64,69 @@ Public Declare PtrSafe Function Cpp_CopyDblToMVDbl Lib "KORVELMathTools.dll" ( _
 Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathTools.dll" ( _
     ByVal src As LongPtr, ByVal dst As LongPtr) As Long
 
+' ---- domain/comparison_letters.h
+
+' Gives letters to levels, of which two share one exactly when they do not differ: when the one that
+' comes first in the order of the means is significantly different neither from the other one nor
+' from any level between them.
+Public Declare PtrSafe Function Cpp_GetCompMatrices Lib "KORVELMathTools.dll" ( _
+    ByRef means As Double, ByVal k As Long, ByVal column As Long, ByRef significance As Long, _
+    ByVal sortResult As Integer, ByRef order As Long, ByVal labels As LongPtr, _
+    ByRef groupCount As Long, ByRef success As Integer, ByVal descending As Integer) As Long
+
+' ---- domain/correlation_order.h
+
+' Sorts the variables of a correlation table by a key of each, from the largest down; equal keys
+' keep their order.
+Public Declare PtrSafe Function Cpp_ReOrderCorrelations Lib "KORVELMathTools.dll" ( _
+    ByRef corr As Double, ByVal n As Long, ByVal method As Long, ByVal labels As LongPtr, _
+    ByRef pValues As Double, ByRef flags As Long) As Long
+
+' ---- domain/marginal_sums.h
+
+' Copies a table without the rows and columns whose sum is not above 1e-12.
+Public Declare PtrSafe Function Cpp_CheckForMarginalSums Lib "KORVELMathTools.dll" ( _
+    ByRef table As Double, ByVal rows As Long, ByVal cols As Long, ByRef result As Double, _
+    ByRef keptRows As Long, ByRef keptCols As Long, ByRef droppedRows As Long, _
+    ByRef droppedCols As Long) As Long
+
+' ---- domain/memory_probe.h
+
+' Tries to allocate a tenth more than twenty tables of numbers take, and gives everything back.
+Public Declare PtrSafe Function Cpp_TestMemory Lib "KORVELMathTools.dll" ( _
+    ByRef rows1 As Long, ByRef cols1 As Long, ByRef rows2 As Long, ByRef cols2 As Long, _
+    ByRef rows3 As Long, ByRef cols3 As Long, ByRef rows4 As Long, ByRef cols4 As Long, _
+    ByRef rows5 As Long, ByRef cols5 As Long, ByRef rows6 As Long, ByRef cols6 As Long, _
+    ByRef rows7 As Long, ByRef cols7 As Long, ByRef rows8 As Long, ByRef cols8 As Long, _
+    ByRef rows9 As Long, ByRef cols9 As Long, ByRef rows10 As Long, ByRef cols10 As Long, _
+    ByRef rows11 As Long, ByRef cols11 As Long, ByRef rows12 As Long, ByRef cols12 As Long, _
+    ByRef rows13 As Long, ByRef cols13 As Long, ByRef rows14 As Long, ByRef cols14 As Long, _
+    ByRef rows15 As Long, ByRef cols15 As Long, ByRef rows16 As Long, ByRef cols16 As Long, _
+    ByRef rows17 As Long, ByRef cols17 As Long, ByRef rows18 As Long, ByRef cols18 As Long, _
+    ByRef rows19 As Long, ByRef cols19 As Long, ByRef rows20 As Long, ByRef cols20 As Long) As Long
+
+' Whether the address space that this process has left is large enough.
+Public Declare PtrSafe Function Cpp_GetStatusMemory Lib "KORVELMathTools.dll" ( _
+    ByVal amount As Long) As Long
+
+' ---- domain/range_texts.h
+
+' Sorts the ranges of a list by their first columns and joins ranges that follow each other.
+Public Declare PtrSafe Function SimplifyRange Lib "KORVELMathTools.dll" ( _
+    ByVal value As LongPtr) As LongPtr
+
+' The column behind a column.
+Public Declare PtrSafe Function Increase1Col Lib "KORVELMathTools.dll" ( _
+    ByVal column As LongPtr) As LongPtr
+
+' ---- domain/triangular_distribution.h
+
+' The bounds of a triangular distribution with a given mode, whose distribution function is p1 at q1
+' and p2 at q2.
+Public Declare PtrSafe Function Cpp_TriangularQFindAB Lib "KORVELMathTools.dll" ( _
+    ByVal q1 As Double, ByVal mode As Double, ByVal q2 As Double, ByVal p1 As Double, _
+    ByVal p2 As Double, ByRef a As Double, ByRef b As Double) As Long
+
 ' ---- fitting/biplot.h
 
 ' Rescales the coordinates of a biplot by powers of the singular values: those of rows by s^(alpha/2

@@ -11,8 +11,11 @@ int CheckAndTransformToHorizontalFormat(cST_MVect<double>& longTable, int n, int
                                         int timeCount, matrix<text>& labels, matrix<text>& outLabels)
 {
     constexpr int incomplete = 2;
-    const std::int64_t width = std::min<std::int64_t>(std::int64_t{std::max(timeCount, 0)} * std::max(v, 0),
-                                                      static_cast<std::int64_t>(wideTable.Vectors.size()));
+    const std::int64_t width = std::int64_t{std::max(timeCount, 0)} * std::max(v, 0);
+    if (width > static_cast<std::int64_t>(wideTable.Vectors.size()) ||
+        v > static_cast<int>(longTable.Vectors.size())) {
+        return incomplete;
+    }
     const auto column = [&](std::int64_t j) -> matrix<double>& {
         return wideTable.Vectors[static_cast<std::size_t>(j)].Vect;
     };
@@ -25,8 +28,8 @@ int CheckAndTransformToHorizontalFormat(cST_MVect<double>& longTable, int n, int
         for (int j = 0; j < v; ++j) {
             const std::int64_t target = (std::int64_t{times[r]} - 1) * v + j;
             const int subject = subjects[r] - 1;
-            if (j >= static_cast<int>(longTable.Vectors.size()) || target < 0 || target >= width ||
-                subject < 0 || subject >= subjectCount || column(target)[subject] != MISSING_DBL) {
+            if (target < 0 || target >= width || subject < 0 || subject >= subjectCount ||
+                column(target)[subject] != MISSING_DBL) {
                 return incomplete;
             }
             korvel::storeChecked(column(target), subject,

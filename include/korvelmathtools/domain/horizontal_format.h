@@ -24,8 +24,8 @@
  * @param timeCount    number of times
  * @param labels       labels of the subjects
  * @param outLabels    receives the labels; sized by the caller
- * @return 0; 2 when a subject occurs twice at a time, when a time or a subject is none of the wide table, or
- * when a cell of it stays missing: the labels are not copied then
+ * @return 0; 2 when a table has too few columns, when a subject occurs twice at a time, when a time or a
+ * subject is none of the wide table, or when a cell of it stays missing: the labels are not copied then
  */
 KORVEL_API int CheckAndTransformToHorizontalFormat(cST_MVect<double>& longTable, int n, int v,
                                                    matrix<int>& subjects, matrix<int>& times,

@@ -26,7 +26,7 @@
  * levels there are 256 columns. When the first mean in the order is missing, column 1 stays empty
  * @param groupCount   [out] one integer: how many columns are taken; 257 when there was no room for the last
  * letter
- * @param success      [out] one Boolean: -1, or 0 when there were too many letters
+ * @param success      [out] one flag: -1, or 0 when there were too many letters
  * @param descending   not 0: from the largest mean down; 0: from the smallest one up
  * @return 0
  */
