@@ -108,4 +108,44 @@ double varIf(const double* y, int n, const double* g, double val)
     return m2 / c;
 }
 
+void fillByNearest(double* x, int rows, int cols, const short int* flags, const double* means,
+                   const double* variances)
+{
+    const auto at = [=](int i, int j) { return i + static_cast<std::ptrdiff_t>(rows) * j; };
+    for (int r = 0; r < rows; ++r) {
+        for (int c = 0; flags[r] != 0 && c < cols; ++c) {
+            if (!(x[at(r, c)] <= MISSING_DBL)) {
+                continue;
+            }
+            double best = 1.79769313486231e308;
+            int donor = -1;
+            for (int d = 0; d < rows; ++d) {
+                if (d == r || flags[d] != 0) {
+                    continue;
+                }
+                double distance = 0.0;
+                bool isCompared = false;
+                bool isValid = true;
+                for (int k = 0; k < cols; ++k) {
+                    const double other = x[at(d, k)];
+                    if (k != c && other <= MISSING_DBL) {
+                        isValid = false;
+                        break;
+                    }
+                    const double own = x[at(r, k)];
+                    if (!(own <= MISSING_DBL) && variances[k] > 0.0) {
+                        distance += (own - other) * (own - other) / variances[k];
+                        isCompared = true;
+                    }
+                }
+                if (isValid && isCompared && best > distance) {
+                    best = distance;
+                    donor = d;
+                }
+            }
+            x[at(r, c)] = donor >= 0 ? x[at(donor, c)] : means[c];
+        }
+    }
+}
+
 } // namespace korvel::bench::plain

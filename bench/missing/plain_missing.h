@@ -18,6 +18,8 @@ void insertRows(const double* x, int rows, int cols, const short int* flags, dou
 bool isPositive(const double* x, int n);
 double sumIf(const double* y, int n, const double* g, double val);
 double varIf(const double* y, int n, const double* g, double val);
+void fillByNearest(double* x, int rows, int cols, const short int* flags, const double* means,
+                   const double* variances);
 
 } // namespace korvel::bench::plain
 

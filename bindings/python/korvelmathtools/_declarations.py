@@ -59,6 +59,31 @@ FUNCTIONS = {
         'result: inout, n by p numbers; rows whose sum of squares is not above 1e-12 stay as they are. May be x\n'
         'returns 0\n'
     )),
+    'Cpp_CheckForMarginalSums': ('int', (
+        ('table', 'double*', 'in', False, (('rows', 'cols', None),), 0),
+        ('rows', 'int', '', False, (), 0),
+        ('cols', 'int', '', False, (), 0),
+        ('result', 'double*', 'inout', False, (('rows', 'cols', None),), 0),
+        ('keptRows', 'int*', 'out', False, (('1', '1', None),), 0),
+        ('keptCols', 'int*', 'out', False, (('1', '1', None),), 0),
+        ('droppedRows', 'int*', 'inout', False, (('rows', '1', None),), 0),
+        ('droppedCols', 'int*', 'inout', False, (('cols', '1', None),), 0),
+    ), (
+        'int Cpp_CheckForMarginalSums(const double* table, int rows, int cols, double* result, int* keptRows, int* keptCols, int* droppedRows, int* droppedCols);\n'
+        '\n'
+        'Copies a table without the rows and columns whose sum is not above 1e-12. Missing cells are left out of the\n'
+        'sums.\n'
+        '\n'
+        'table: in, rows by cols numbers\n'
+        'rows: rows of the table\n'
+        'cols: columns of the table\n'
+        'result: inout, rows by cols numbers: the rows and columns that stay come to its top left corner. Columns behind them stay as they were, and what is below them has no meaning\n'
+        'keptRows: out, one integer: how many rows stay\n'
+        'keptCols: out, one integer: how many columns stay\n'
+        'droppedRows: inout, rows integers, of which those of rows left out become 1\n'
+        'droppedCols: inout, cols integers, of which those of columns left out become 1\n'
+        'returns 0\n'
+    )),
     'Cpp_CheckSameVectorStr': ('short int', (
         ('a', 'OLECHAR**', 'in', False, (('nA', '1', None),), 0),
         ('nA', 'int', '', False, (('number', '1', None),), 0),
@@ -74,24 +99,6 @@ FUNCTIONS = {
         'b: in, nB texts\n'
         'nB: number of elements of b\n'
         'returns -1 when the numbers are the same and so is every text, letter by letter; otherwise 0\n'
-    )),
-    'Cpp_CheckUniqueCatByVar': ('int', (
-        ('categories', 'OLECHAR**', 'in', False, (('p', 'width', None),), 0),
-        ('p', 'int', '', False, (('number', '1', None),), 0),
-        ('width', 'int', '', False, (), 0),
-        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
-    ), (
-        'int Cpp_CheckUniqueCatByVar(OLECHAR* const* categories, int p, int width, const int* categoryCounts);\n'
-        '\n'
-        'Whether a name is used twice: in a slot of one variable, and in a later slot of the same or of any other\n'
-        'variable. Equal names in the same slot of two variables are not noticed. Empty names are equal to each\n'
-        'other.\n'
-        '\n'
-        'categories: in, p by width texts: a row of names for each variable\n'
-        'p: number of variables\n'
-        'width: columns of the table; slots beyond it are empty\n'
-        'categoryCounts: in, p integers: the number of slots of each variable\n'
-        'returns 1 when a name is used twice, otherwise 0\n'
     )),
     'Cpp_CopyDblToMVDbl': ('int', (
         ('m', 'double*', 'in', False, (('rows', 'cols', None),), 0),
@@ -183,21 +190,46 @@ FUNCTIONS = {
         'nextSeed: out, one integer: a seed for the next run\n'
         'returns 0\n'
     )),
-    'Cpp_GetMaxCat': ('int', (
-        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
-        ('n', 'int', '', False, (), 0),
-        ('p', 'int', '', False, (), 0),
-        ('categoryCounts', 'int*', 'out', False, (('p', '1', None),), 0),
+    'Cpp_GetCompMatrices': ('int', (
+        ('means', 'double*', 'inout', False, (('k', 'column', None),), 0),
+        ('k', 'int', '', False, (('number', '1', None),), 0),
+        ('column', 'int', '', False, (), 1),
+        ('significance', 'int*', 'in', False, (('k', 'k', None),), 0),
+        ('sortResult', 'short int', '', False, (), 0),
+        ('order', 'int*', 'out', False, (('k', '1', None),), 0),
+        ('labels', 'OLECHAR**', 'out', False, (('k', 'k', None),), 0),
+        ('groupCount', 'int*', 'out', False, (('1', '1', None),), 0),
+        ('success', 'short int*', 'out', False, (('1', '1', None),), 0),
+        ('descending', 'short int', '', False, (), 0),
     ), (
-        'int Cpp_GetMaxCat(OLECHAR* const* data, int n, int p, int* categoryCounts);\n'
+        'int Cpp_GetCompMatrices(double* means, int k, int column, const int* significance, short int sortResult, int* order, OLECHAR** labels, int* groupCount, short int* success, short int descending);\n'
         '\n'
-        'The number of different texts in each column, the empty one left out.\n'
+        'Gives letters to levels, of which two share one exactly when they do not differ: when the one that comes\n'
+        'first in the order of the means is significantly different neither from the other one nor from any level\n'
+        'between them. Letters come in the order of their first levels: A to Z, then AA, AB and so on. A level whose\n'
+        'mean is missing has no letter.\n'
         '\n'
-        'data: in, n by p texts\n'
-        'n: number of rows\n'
-        'p: number of columns\n'
-        'categoryCounts: out, p integers: the numbers\n'
-        'returns the largest number; 0 when there is no column\n'
+        'means: inout, k by column numbers: the last column has the means; changed only when sortResult is 0\n'
+        'k: number of levels\n'
+        'column: the column of the means, from 1; 0 stands for 1\n'
+        'significance: in, k by k integers: for each pair of levels, at the row of the larger number and the column of the smaller one, 0 when the two do not differ significantly\n'
+        'sortResult: not 0: order, means and labels come back in the order of the levels; 0: in the order of the means\n'
+        'order: out, k integers: the numbers of the levels\n'
+        'labels: out, k by k texts: the letters of each level, letter c in column c. With more than 256 levels there are 256 columns. When the first mean in the order is missing, column 1 stays empty\n'
+        'groupCount: out, one integer: how many columns are taken; 257 when there was no room for the last letter\n'
+        'success: out, one flag: -1, or 0 when there were too many letters\n'
+        'descending: not 0: from the largest mean down; 0: from the smallest one up\n'
+        'returns 0\n'
+    )),
+    'Cpp_GetStatusMemory': ('int', (
+        ('amount', 'int', '', False, (('number', '1', None),), 0),
+    ), (
+        'int Cpp_GetStatusMemory(int amount);\n'
+        '\n'
+        'Whether the address space that this process has left is large enough.\n'
+        '\n'
+        'amount: number of bytes; a fifth is added\n'
+        'returns -1 when it is, otherwise 0\n'
     )),
     'Cpp_KroneckerTensorProduct': ('int', (
         ('a', 'double*', 'in', False, (('r1', 'c1', None),), 0),
@@ -945,130 +977,6 @@ FUNCTIONS = {
         'rows: rows of the table\n'
         'cols: columns of the table\n'
         'marks: inout, rows by cols integers: 1 where the number is missing; the others stay\n'
-        'returns 0\n'
-    )),
-    'Cpp_M_InfoQuali3': ('int', (
-        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
-        ('n', 'int', '', False, (), 0),
-        ('p', 'int', '', False, (('number', '1', None),), 0),
-        ('width', 'int', '', False, (), 0),
-        ('count', 'int', '', False, (('number', '1', None),), 0),
-        ('modes', 'OLECHAR**', 'out', False, (('p', '1', None),), 0),
-        ('modeFrequencies', 'double*', 'out', False, (('p', '1', None),), 0),
-        ('categories', 'OLECHAR**', 'out', False, (('p', 'width', None),), 0),
-        ('frequencies', 'double*', 'out', False, (('p', 'width', None),), 0),
-        ('weightedFrequencies', 'double*', 'out', False, (('p', 'width', None),), 0),
-        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
-        ('total', 'int*', 'out', False, (('1', '1', None),), 0),
-        ('sort', 'short int', '', False, (), 0),
-    ), (
-        'int Cpp_M_InfoQuali3(OLECHAR* const* data, int n, int p, int width, int count, OLECHAR** modes, double* modeFrequencies, OLECHAR** categories, double* frequencies, double* weightedFrequencies, const double* weights, int* total, short int sort);\n'
-        '\n'
-        'The categories of variables that all have the same number of them. The mode is that of the numbers of rows.\n'
-        'It is looked for among the first `count` slots of each variable, and so many are sorted, whatever the\n'
-        'variable has: empty slots come before all names.\n'
-        '\n'
-        'data: in, n by p texts\n'
-        'n: number of rows\n'
-        'p: number of variables\n'
-        'width: columns of the tables\n'
-        'count: number of categories of every variable\n'
-        'modes: out, p texts: the mode of each variable\n'
-        'modeFrequencies: out, p numbers: its number of rows\n'
-        'categories: out, p by width texts: the names\n'
-        'frequencies: out, p by width numbers: the numbers of rows\n'
-        'weightedFrequencies: out, p by width numbers: the sums of the weights\n'
-        'weights: in, n weights\n'
-        'total: out, one integer: p times count\n'
-        'sort: -1: the categories are sorted\n'
-        'returns 0\n'
-    )),
-    'Cpp_M_InfoQuali3_ST': ('int', (
-        ('data', 'ST_MVect*', 'in', False, (), 0),
-        ('weights', 'double*', 'in', True, (('data.nbrowsmax', '1', None),), 0),
-        ('info', 'ST_QualiInfo*', 'inout', False, (('category', '1', None),), 0),
-    ), (
-        'int Cpp_M_InfoQuali3_ST(ST_MVect* data, const double* weights, ST_QualiInfo* info);\n'
-        '\n'
-        'The categories of each variable of a labelled table, in order of first appearance, with their numbers of\n'
-        'rows and their weights. The empty text is no category. The arrays of the record are filled as far as they\n'
-        'go; none is resized.\n'
-        '\n'
-        'Of the record are read `withRecode`, `codeStart`, `withSort`, `noWeights` and `withLongLabels`, each of the\n'
-        'flags set when it is -1. These are written:\n'
-        '\n'
-        '- `VarLabels`: the labels of the columns, `CLabels` of the table;\n'
-        '- `NbCat`: the number of categories of each variable; 1 for a column without any, whose slots stay as they\n'
-        'are;\n'
-        '- `CatNames`: the text of the category; with `withLongLabels` the label of the variable, "-" and the text,\n'
-        'so that each row starts a category of its own;\n'
-        '- `CatFreq`: the number of rows, and `CatFreqW`: the sum of their weights, or again the number with\n'
-        '`noWeights`;\n'
-        '- `Codes`, with `withRecode`: `codeStart` for the first category of the variable and one more for each next\n'
-        'one; missing for an empty text;\n'
-        '- `Count`: the number of variables; `NbCatTotal`: the sum of `NbCat`; `FreqMax`: the largest number of rows\n'
-        'of a category, unless it was larger before; `SumW`: the sum of the weights that are not missing, or the\n'
-        'number of rows with `noWeights`.\n'
-        '\n'
-        'With `withSort` the categories of each variable are sorted as `VB_M_InfoQuali` sorts them, and the codes\n'
-        'follow their categories.\n'
-        '\n'
-        'data: in, labelled table of texts. All columns are read down to the longest one: `nbrowsmax` rows of `nbcols`\n'
-        'weights: in, data.nbrowsmax weights, a weight for each row; may be null with `noWeights`\n'
-        'info: inout, category statistics: the record\n'
-        'returns 0\n'
-    )),
-    'Cpp_M_InfoQualiNoMiss': ('int', (
-        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
-        ('n', 'int', '', False, (), 0),
-        ('p', 'int', '', False, (('number', '1', None),), 0),
-        ('modes', 'OLECHAR**', 'out', False, (('p', '1', None),), 0),
-        ('modeFrequencies', 'double*', 'out', False, (('p', '1', None),), 0),
-        ('categoryCounts', 'int*', 'out', False, (('p', '1', None),), 0),
-        ('categories', 'OLECHAR**', 'out', False, (('p', 'n', None),), 0),
-        ('frequencies', 'double*', 'out', False, (('p', 'n', None),), 0),
-        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
-        ('total', 'int*', 'out', False, (('1', '1', None),), 0),
-        ('sort', 'short int', '', False, (), 0),
-    ), (
-        'int Cpp_M_InfoQualiNoMiss(OLECHAR* const* data, int n, int p, OLECHAR** modes, double* modeFrequencies, int* categoryCounts, OLECHAR** categories, double* frequencies, const double* weights, int* total, short int sort);\n'
-        '\n'
-        'The same function under the name that sibling modules know.\n'
-        '\n'
-        'data: in, n by p texts\n'
-        'n: number of rows\n'
-        'p: number of variables\n'
-        'modes: out, p texts: the mode of each variable\n'
-        'modeFrequencies: out, p numbers: its frequency\n'
-        'categoryCounts: out, p integers: the number of categories\n'
-        'categories: out, p by n texts: the names\n'
-        'frequencies: out, p by n numbers: the frequencies\n'
-        'weights: in, n weights\n'
-        'total: out, one integer: the sum of the numbers of categories\n'
-        'sort: -1: the categories are sorted\n'
-        'returns 0\n'
-    )),
-    'Cpp_M_InfoQualiValid_ST': ('int', (
-        ('data', 'ST_MVect*', 'in', False, (), 0),
-        ('n', 'int', '', False, (), 0),
-        ('p', 'int', '', False, (('number', '1', None),), 0),
-        ('reference', 'ST_QualiInfo*', 'in', False, (('category', '1', None),), 0),
-        ('result', 'ST_QualiInfo*', 'inout', False, (('category', '1', None),), 0),
-        ('newCategoryFound', 'short int*', 'out', False, (('1', '1', None),), 0),
-        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
-    ), (
-        'int Cpp_M_InfoQualiValid_ST(ST_MVect* data, int n, int p, ST_QualiInfo* reference, ST_QualiInfo* result, short int* newCategoryFound, const double* weights);\n'
-        '\n'
-        'Counts the rows of each category on records. A text that is no known category is passed over when\n'
-        '`IgnoreNewCategoryInPred` of the result is not 0.\n'
-        '\n'
-        'data: in, labelled table of texts, n by p\n'
-        'n: number of rows\n'
-        'p: number of variables\n'
-        'reference: in, category statistics that have the known categories: `NbCat` and `CatNames`\n'
-        'result: inout, category statistics: `CatFreq` receives the number of rows of each, `CatFreqW` the sum of their weights; all slots of the p variables are cleared first\n'
-        'newCategoryFound: out, one flag: -1 when a text that is no known category ended the function, otherwise 0\n'
-        'weights: in, n weights\n'
         'returns 0\n'
     )),
     'Cpp_M_InsertMissingDbl': ('int', (
@@ -2129,6 +2037,28 @@ FUNCTIONS = {
         'nextSeed: out, one integer: a seed for the next run\n'
         'returns 0\n'
     )),
+    'Cpp_ReOrderCorrelations': ('int', (
+        ('corr', 'double*', 'inout', False, (('n', 'n', None),), 0),
+        ('n', 'int', '', False, (('number', '1', None),), 0),
+        ('method', 'int', '', False, (), 0),
+        ('labels', 'OLECHAR**', 'inout', False, (('n', '1', None),), 0),
+        ('pValues', 'double*', 'inout', False, (('n', 'n', None),), 0),
+        ('flags', 'int*', 'inout', False, (('n', 'n', None),), 0),
+    ), (
+        'int Cpp_ReOrderCorrelations(double* corr, int n, int method, OLECHAR** labels, double* pValues, int* flags);\n'
+        '\n'
+        'Sorts the variables of a correlation table by a key of each, from the largest down; equal keys keep their\n'
+        'order. The diagonal is set to 1.0 first. The keys of methods 1 and 2 are taken from the first row for all\n'
+        'variables, and only that of variable 1 leaves the diagonal out.\n'
+        '\n'
+        'corr: inout, n by n numbers; not symmetric ones come back transposed\n'
+        'n: number of variables\n'
+        'method: 1: the key is the largest cell; 2: the variance of the cells; 3: the cell of the first eigenvector, unless a cell is missing; any other number: the order stays\n'
+        'labels: inout, n texts\n'
+        'pValues: inout, n by n numbers, which move along\n'
+        'flags: inout, n by n integers, which move along\n'
+        'returns 0\n'
+    )),
     'Cpp_RemoveRowsWithMissingOniMissing': ('int', (
         ('x', 'double*', 'in', False, (('n', 'p', None),), 0),
         ('n', 'int', '', False, (), 0),
@@ -2411,6 +2341,119 @@ FUNCTIONS = {
         '\n'
         'record: in, a table of numbers, of which only the array of its columns is looked at\n'
         'returns the sum over all columns, one after the other, with missing numbers taken as they are; 0.0 when the array is null or empty\n'
+    )),
+    'Cpp_TestMemory': ('int', (
+        ('rows1', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols1', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows2', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols2', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows3', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols3', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows4', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols4', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows5', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols5', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows6', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols6', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows7', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols7', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows8', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols8', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows9', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols9', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows10', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols10', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows11', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols11', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows12', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols12', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows13', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols13', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows14', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols14', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows15', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols15', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows16', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols16', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows17', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols17', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows18', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols18', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows19', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols19', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('rows20', 'int*', 'in', False, (('1', '1', None),), 0),
+        ('cols20', 'int*', 'in', False, (('1', '1', None),), 0),
+    ), (
+        'int Cpp_TestMemory(const int* rows1, const int* cols1, const int* rows2, const int* cols2, const int* rows3, const int* cols3, const int* rows4, const int* cols4, const int* rows5, const int* cols5, const int* rows6, const int* cols6, const int* rows7, const int* cols7, const int* rows8, const int* cols8, const int* rows9, const int* cols9, const int* rows10, const int* cols10, const int* rows11, const int* cols11, const int* rows12, const int* cols12, const int* rows13, const int* cols13, const int* rows14, const int* cols14, const int* rows15, const int* cols15, const int* rows16, const int* cols16, const int* rows17, const int* cols17, const int* rows18, const int* cols18, const int* rows19, const int* cols19, const int* rows20, const int* cols20);\n'
+        '\n'
+        'Tries to allocate a tenth more than twenty tables of numbers take, and gives everything back. The bytes of\n'
+        'each are truncated to 32 bits. A table with a count of 0 is passed over.\n'
+        '\n'
+        'rows1: in, one integer: rows of table 1\n'
+        'cols1: in, one integer: its columns\n'
+        'rows2: in, one integer: rows of table 2\n'
+        'cols2: in, one integer: its columns\n'
+        'rows3: in, one integer: rows of table 3\n'
+        'cols3: in, one integer: its columns\n'
+        'rows4: in, one integer: rows of table 4\n'
+        'cols4: in, one integer: its columns\n'
+        'rows5: in, one integer: rows of table 5\n'
+        'cols5: in, one integer: its columns\n'
+        'rows6: in, one integer: rows of table 6\n'
+        'cols6: in, one integer: its columns\n'
+        'rows7: in, one integer: rows of table 7\n'
+        'cols7: in, one integer: its columns\n'
+        'rows8: in, one integer: rows of table 8\n'
+        'cols8: in, one integer: its columns\n'
+        'rows9: in, one integer: rows of table 9\n'
+        'cols9: in, one integer: its columns\n'
+        'rows10: in, one integer: rows of table 10\n'
+        'cols10: in, one integer: its columns\n'
+        'rows11: in, one integer: rows of table 11\n'
+        'cols11: in, one integer: its columns\n'
+        'rows12: in, one integer: rows of table 12\n'
+        'cols12: in, one integer: its columns\n'
+        'rows13: in, one integer: rows of table 13\n'
+        'cols13: in, one integer: its columns\n'
+        'rows14: in, one integer: rows of table 14\n'
+        'cols14: in, one integer: its columns\n'
+        'rows15: in, one integer: rows of table 15\n'
+        'cols15: in, one integer: its columns\n'
+        'rows16: in, one integer: rows of table 16\n'
+        'cols16: in, one integer: its columns\n'
+        'rows17: in, one integer: rows of table 17\n'
+        'cols17: in, one integer: its columns\n'
+        'rows18: in, one integer: rows of table 18\n'
+        'cols18: in, one integer: its columns\n'
+        'rows19: in, one integer: rows of table 19\n'
+        'cols19: in, one integer: its columns\n'
+        'rows20: in, one integer: rows of table 20\n'
+        'cols20: in, one integer: its columns\n'
+        'returns -1 when all fit at the same time; otherwise the number of the first table that does not, from 1\n'
+    )),
+    'Cpp_TriangularQFindAB': ('int', (
+        ('q1', 'double', '', False, (), 0),
+        ('mode', 'double', '', False, (), 0),
+        ('q2', 'double', '', False, (), 0),
+        ('p1', 'double', '', False, (), 0),
+        ('p2', 'double', '', False, (), 0),
+        ('a', 'double*', 'out', False, (('1', '1', None),), 0),
+        ('b', 'double*', 'out', False, (('1', '1', None),), 0),
+    ), (
+        'int Cpp_TriangularQFindAB(double q1, double mode, double q2, double p1, double p2, double* a, double* b);\n'
+        '\n'
+        'The bounds of a triangular distribution with a given mode, whose distribution function is p1 at q1 and p2\n'
+        "at q2. With the mode between the quantiles they come from at most 501 steps of Newton's method; nothing\n"
+        'tells when those were not enough.\n'
+        '\n'
+        'q1: the lower quantile\n'
+        'mode: the mode\n'
+        'q2: the upper quantile\n'
+        'p1: probability up to q1\n'
+        'p2: probability up to q2\n'
+        'a: out, one number: the lower bound\n'
+        'b: out, one number: the upper bound\n'
+        'returns 0\n'
     )),
     'Cpp_VMergeTablesDblSPV': ('int', (
         ('a', 'Hostarray**', 'in', False, (), 0),
@@ -3517,6 +3560,17 @@ FUNCTIONS = {
         'sa: in, host array of String; its descriptor may be null\n'
         "returns the array's data, or null when there is no array or it holds none\n"
     )),
+    'Increase1Col': ('OLECHAR*', (
+        ('column', 'OLECHAR*', 'in', False, (('1', '1', None),), 0),
+    ), (
+        'OLECHAR* Increase1Col(const OLECHAR* column);\n'
+        '\n'
+        'The column behind a column. No letter is added: Z gives A, and ZZ gives AA.\n'
+        '\n'
+        'column: in, one text: the letters of a column\n'
+        'returns a new text, which the caller frees\n'
+        'raises  std::bad_alloc when memory is short\n'
+    )),
     'KORVEL_Version': ('int', (
     ), (
         'int KORVEL_Version(void);\n'
@@ -3705,6 +3759,19 @@ FUNCTIONS = {
         'means: out, p * degree + 1 numbers, or p * degree + p * (p - 1) / 2 + 1 numbers when interactions is -1\n'
         'standardDeviations: out, p * degree + 1 numbers, or p * degree + p * (p - 1) / 2 + 1 numbers when interactions is -1; 0 for each refused term\n'
         'returns 0\n'
+    )),
+    'SimplifyRange': ('OLECHAR*', (
+        ('value', 'OLECHAR*', 'in', False, (('1', '1', None),), 0),
+    ), (
+        'OLECHAR* SimplifyRange(const OLECHAR* value);\n'
+        '\n'
+        'Sorts the ranges of a list by their first columns and joins ranges that follow each other. Where a range\n'
+        'does not follow the one before it, the last column of that one stands without its dollar. A text without a\n'
+        'comma, with ranges on several sheets, with rows, or that is no such list, comes back as it is.\n'
+        '\n'
+        'value: in, one text: the list of ranges\n'
+        'returns a new text, which the caller frees\n'
+        'raises  std::bad_alloc when memory is short\n'
     )),
     'VB_BiplotTransData': ('int', (
         ('rowCoordinates', 'double*', 'in', False, (('rows', 'axes', None),), 0),
@@ -5627,94 +5694,6 @@ FUNCTIONS = {
         'nOut: out, one integer: the number of groups\n'
         'out: out, rows by cols numbers; the first nOut rows are the result, those below keep the sorted input\n'
         'w: in, rows weights\n'
-        'returns 0\n'
-    )),
-    'VB_M_InfoQuali': ('int', (
-        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
-        ('n', 'int', '', False, (), 0),
-        ('p', 'int', '', False, (('number', '1', None),), 0),
-        ('modes', 'OLECHAR**', 'out', False, (('p', '1', None),), 0),
-        ('modeFrequencies', 'double*', 'out', False, (('p', '1', None),), 0),
-        ('categoryCounts', 'int*', 'out', False, (('p', '1', None),), 0),
-        ('categories', 'OLECHAR**', 'out', False, (('p', 'n', None),), 0),
-        ('frequencies', 'double*', 'out', False, (('p', 'n', None),), 0),
-        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
-        ('total', 'int*', 'out', False, (('1', '1', None),), 0),
-        ('sort', 'short int', '', False, (), 0),
-    ), (
-        'int VB_M_InfoQuali(OLECHAR* const* data, int n, int p, OLECHAR** modes, double* modeFrequencies, int* categoryCounts, OLECHAR** categories, double* frequencies, const double* weights, int* total, short int sort);\n'
-        '\n'
-        'The categories of each variable, in tables as wide as there are rows.\n'
-        '\n'
-        'data: in, n by p texts\n'
-        'n: number of rows\n'
-        'p: number of variables\n'
-        'modes: out, p texts: the mode of each variable\n'
-        'modeFrequencies: out, p numbers: its frequency\n'
-        'categoryCounts: out, p integers: the number of categories\n'
-        'categories: out, p by n texts: the names\n'
-        'frequencies: out, p by n numbers: the frequencies\n'
-        'weights: in, n weights\n'
-        'total: out, one integer: the sum of the numbers of categories\n'
-        'sort: -1: the categories are sorted\n'
-        'returns 0\n'
-    )),
-    'VB_M_InfoQuali2': ('int', (
-        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
-        ('n', 'int', '', False, (), 0),
-        ('p', 'int', '', False, (('number', '1', None),), 0),
-        ('width', 'int', '', False, (), 0),
-        ('categoryCounts', 'int*', 'out', False, (('p', '1', None),), 0),
-        ('modes', 'OLECHAR**', 'out', False, (('p', '1', None),), 0),
-        ('modeFrequencies', 'double*', 'out', False, (('p', '1', None),), 0),
-        ('categories', 'OLECHAR**', 'out', False, (('p', 'width', None),), 0),
-        ('frequencies', 'double*', 'out', False, (('p', 'width', None),), 0),
-        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
-        ('total', 'int*', 'out', False, (('1', '1', None),), 0),
-        ('sort', 'short int', '', False, (), 0),
-    ), (
-        'int VB_M_InfoQuali2(OLECHAR* const* data, int n, int p, int width, int* categoryCounts, OLECHAR** modes, double* modeFrequencies, OLECHAR** categories, double* frequencies, const double* weights, int* total, short int sort);\n'
-        '\n'
-        "The categories of each variable, in tables of a width of the caller's; more categories are not kept.\n"
-        '\n'
-        'data: in, n by p texts\n'
-        'n: number of rows\n'
-        'p: number of variables\n'
-        'width: columns of the tables\n'
-        'categoryCounts: out, p integers: the number of categories\n'
-        'modes: out, p texts: the mode of each variable\n'
-        'modeFrequencies: out, p numbers: its frequency\n'
-        'categories: out, p by width texts: the names\n'
-        'frequencies: out, p by width numbers: the frequencies\n'
-        'weights: in, n weights\n'
-        'total: out, one integer: the sum of the numbers of categories\n'
-        'sort: -1: the categories are sorted\n'
-        'returns 0\n'
-    )),
-    'VB_M_InfoQualiValid': ('int', (
-        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
-        ('n', 'int', '', False, (), 0),
-        ('p', 'int', '', False, (('number', '1', None),), 0),
-        ('width', 'int', '', False, (), 0),
-        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
-        ('categories', 'OLECHAR**', 'in', False, (('p', 'width', None),), 0),
-        ('counts', 'double*', 'out', False, (('p', 'width', None),), 0),
-        ('newCategoryFound', 'short int*', 'out', False, (('1', '1', None),), 0),
-        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
-    ), (
-        'int VB_M_InfoQualiValid(OLECHAR* const* data, int n, int p, int width, const int* categoryCounts, OLECHAR* const* categories, double* counts, short int* newCategoryFound, const double* weights);\n'
-        '\n'
-        'Counts the rows of each category by their weights.\n'
-        '\n'
-        'data: in, n by p texts\n'
-        'n: number of rows\n'
-        'p: number of variables\n'
-        'width: columns of the tables of categories\n'
-        'categoryCounts: in, p integers: the number of known categories of each variable\n'
-        'categories: in, p by width texts: their names\n'
-        'counts: out, p by width numbers: the sum of the weights of each\n'
-        'newCategoryFound: out, one flag: -1 when a text is no known category, otherwise 0\n'
-        'weights: in, n weights\n'
         'returns 0\n'
     )),
     'VB_M_InvGeneralized': ('int', (
@@ -10923,25 +10902,5 @@ FUNCTIONS = {
         '\n'
         'value: the number\n'
         'label: in, narrow text, NUL-terminated\n'
-    )),
-    'isQuali': ('short int', (
-        ('type', 'int', '', False, (), 0),
-    ), (
-        'short int isQuali(int type);\n'
-        '\n'
-        'Whether a column is qualitative: the types 2, 4 and 5.\n'
-        '\n'
-        "type: code of the column's type\n"
-        'returns -1 for a qualitative column, otherwise 0\n'
-    )),
-    'isQualiPure': ('short int', (
-        ('type', 'int', '', False, (), 0),
-    ), (
-        'short int isQualiPure(int type);\n'
-        '\n'
-        'Whether a column is qualitative and nothing else: the types 2 and 4.\n'
-        '\n'
-        "type: code of the column's type\n"
-        'returns -1 for a purely qualitative column, otherwise 0\n'
     )),
 }
