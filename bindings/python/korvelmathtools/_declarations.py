@@ -100,6 +100,24 @@ FUNCTIONS = {
         'nB: number of elements of b\n'
         'returns -1 when the numbers are the same and so is every text, letter by letter; otherwise 0\n'
     )),
+    'Cpp_CheckUniqueCatByVar': ('int', (
+        ('categories', 'OLECHAR**', 'in', False, (('p', 'width', None),), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('width', 'int', '', False, (), 0),
+        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
+    ), (
+        'int Cpp_CheckUniqueCatByVar(OLECHAR* const* categories, int p, int width, const int* categoryCounts);\n'
+        '\n'
+        'Whether a name is used twice: in a slot of one variable, and in a later slot of the same or of any other\n'
+        'variable. Equal names in the same slot of two variables are not noticed. Empty names are equal to each\n'
+        'other.\n'
+        '\n'
+        'categories: in, p by width texts: a row of names for each variable\n'
+        'p: number of variables\n'
+        'width: columns of the table; slots beyond it are empty\n'
+        'categoryCounts: in, p integers: the number of slots of each variable\n'
+        'returns 1 when a name is used twice, otherwise 0\n'
+    )),
     'Cpp_CopyDblToMVDbl': ('int', (
         ('m', 'double*', 'in', False, (('rows', 'cols', None),), 0),
         ('rows', 'int', '', False, (), 0),
@@ -220,6 +238,22 @@ FUNCTIONS = {
         'success: out, one flag: -1, or 0 when there were too many letters\n'
         'descending: not 0: from the largest mean down; 0: from the smallest one up\n'
         'returns 0\n'
+    )),
+    'Cpp_GetMaxCat': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (), 0),
+        ('categoryCounts', 'int*', 'out', False, (('p', '1', None),), 0),
+    ), (
+        'int Cpp_GetMaxCat(OLECHAR* const* data, int n, int p, int* categoryCounts);\n'
+        '\n'
+        'The number of different texts in each column, the empty one left out.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of columns\n'
+        'categoryCounts: out, p integers: the numbers\n'
+        'returns the largest number; 0 when there is no column\n'
     )),
     'Cpp_GetStatusMemory': ('int', (
         ('amount', 'int', '', False, (('number', '1', None),), 0),
@@ -977,6 +1011,130 @@ FUNCTIONS = {
         'rows: rows of the table\n'
         'cols: columns of the table\n'
         'marks: inout, rows by cols integers: 1 where the number is missing; the others stay\n'
+        'returns 0\n'
+    )),
+    'Cpp_M_InfoQuali3': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('width', 'int', '', False, (), 0),
+        ('count', 'int', '', False, (('number', '1', None),), 0),
+        ('modes', 'OLECHAR**', 'out', False, (('p', '1', None),), 0),
+        ('modeFrequencies', 'double*', 'out', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'out', False, (('p', 'width', None),), 0),
+        ('frequencies', 'double*', 'out', False, (('p', 'width', None),), 0),
+        ('weightedFrequencies', 'double*', 'out', False, (('p', 'width', None),), 0),
+        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
+        ('total', 'int*', 'out', False, (('1', '1', None),), 0),
+        ('sort', 'short int', '', False, (), 0),
+    ), (
+        'int Cpp_M_InfoQuali3(OLECHAR* const* data, int n, int p, int width, int count, OLECHAR** modes, double* modeFrequencies, OLECHAR** categories, double* frequencies, double* weightedFrequencies, const double* weights, int* total, short int sort);\n'
+        '\n'
+        'The categories of variables that all have the same number of them. The mode is that of the numbers of rows.\n'
+        'It is looked for among the first `count` slots of each variable, and so many are sorted, whatever the\n'
+        'variable has: empty slots come before all names.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'width: columns of the tables\n'
+        'count: number of categories of every variable\n'
+        'modes: out, p texts: the mode of each variable\n'
+        'modeFrequencies: out, p numbers: its number of rows\n'
+        'categories: out, p by width texts: the names\n'
+        'frequencies: out, p by width numbers: the numbers of rows\n'
+        'weightedFrequencies: out, p by width numbers: the sums of the weights\n'
+        'weights: in, n weights\n'
+        'total: out, one integer: p times count\n'
+        'sort: -1: the categories are sorted\n'
+        'returns 0\n'
+    )),
+    'Cpp_M_InfoQuali3_ST': ('int', (
+        ('data', 'ST_MVect*', 'in', False, (), 0),
+        ('weights', 'double*', 'in', True, (('data.nbrowsmax', '1', None),), 0),
+        ('info', 'ST_QualiInfo*', 'inout', False, (('category', '1', None),), 0),
+    ), (
+        'int Cpp_M_InfoQuali3_ST(ST_MVect* data, const double* weights, ST_QualiInfo* info);\n'
+        '\n'
+        'The categories of each variable of a labelled table, in order of first appearance, with their numbers of\n'
+        'rows and their weights. The empty text is no category. The arrays of the record are filled as far as they\n'
+        'go; none is resized.\n'
+        '\n'
+        'Of the record are read `withRecode`, `codeStart`, `withSort`, `noWeights` and `withLongLabels`, each of the\n'
+        'flags set when it is -1. These are written:\n'
+        '\n'
+        '- `VarLabels`: the labels of the columns, `CLabels` of the table;\n'
+        '- `NbCat`: the number of categories of each variable; 1 for a column without any, whose slots stay as they\n'
+        'are;\n'
+        '- `CatNames`: the text of the category; with `withLongLabels` the label of the variable, "-" and the text,\n'
+        'so that each row starts a category of its own;\n'
+        '- `CatFreq`: the number of rows, and `CatFreqW`: the sum of their weights, or again the number with\n'
+        '`noWeights`;\n'
+        '- `Codes`, with `withRecode`: `codeStart` for the first category of the variable and one more for each next\n'
+        'one; missing for an empty text;\n'
+        '- `Count`: the number of variables; `NbCatTotal`: the sum of `NbCat`; `FreqMax`: the largest number of rows\n'
+        'of a category, unless it was larger before; `SumW`: the sum of the weights that are not missing, or the\n'
+        'number of rows with `noWeights`.\n'
+        '\n'
+        'With `withSort` the categories of each variable are sorted as `VB_M_InfoQuali` sorts them, and the codes\n'
+        'follow their categories.\n'
+        '\n'
+        'data: in, labelled table of texts. All columns are read down to the longest one: `nbrowsmax` rows of `nbcols`\n'
+        'weights: in, data.nbrowsmax weights, a weight for each row; may be null with `noWeights`\n'
+        'info: inout, category statistics: the record\n'
+        'returns 0\n'
+    )),
+    'Cpp_M_InfoQualiNoMiss': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('modes', 'OLECHAR**', 'out', False, (('p', '1', None),), 0),
+        ('modeFrequencies', 'double*', 'out', False, (('p', '1', None),), 0),
+        ('categoryCounts', 'int*', 'out', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'out', False, (('p', 'n', None),), 0),
+        ('frequencies', 'double*', 'out', False, (('p', 'n', None),), 0),
+        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
+        ('total', 'int*', 'out', False, (('1', '1', None),), 0),
+        ('sort', 'short int', '', False, (), 0),
+    ), (
+        'int Cpp_M_InfoQualiNoMiss(OLECHAR* const* data, int n, int p, OLECHAR** modes, double* modeFrequencies, int* categoryCounts, OLECHAR** categories, double* frequencies, const double* weights, int* total, short int sort);\n'
+        '\n'
+        'The same function under the name that sibling modules know.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'modes: out, p texts: the mode of each variable\n'
+        'modeFrequencies: out, p numbers: its frequency\n'
+        'categoryCounts: out, p integers: the number of categories\n'
+        'categories: out, p by n texts: the names\n'
+        'frequencies: out, p by n numbers: the frequencies\n'
+        'weights: in, n weights\n'
+        'total: out, one integer: the sum of the numbers of categories\n'
+        'sort: -1: the categories are sorted\n'
+        'returns 0\n'
+    )),
+    'Cpp_M_InfoQualiValid_ST': ('int', (
+        ('data', 'ST_MVect*', 'in', False, (), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('reference', 'ST_QualiInfo*', 'in', False, (('category', '1', None),), 0),
+        ('result', 'ST_QualiInfo*', 'inout', False, (('category', '1', None),), 0),
+        ('newCategoryFound', 'short int*', 'out', False, (('1', '1', None),), 0),
+        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
+    ), (
+        'int Cpp_M_InfoQualiValid_ST(ST_MVect* data, int n, int p, ST_QualiInfo* reference, ST_QualiInfo* result, short int* newCategoryFound, const double* weights);\n'
+        '\n'
+        'Counts the rows of each category on records. A text that is no known category is passed over when\n'
+        '`IgnoreNewCategoryInPred` of the result is not 0.\n'
+        '\n'
+        'data: in, labelled table of texts, n by p\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'reference: in, category statistics that have the known categories: `NbCat` and `CatNames`\n'
+        'result: inout, category statistics: `CatFreq` receives the number of rows of each, `CatFreqW` the sum of their weights; all slots of the p variables are cleared first\n'
+        'newCategoryFound: out, one flag: -1 when a text that is no known category ended the function, otherwise 0\n'
+        'weights: in, n weights\n'
         'returns 0\n'
     )),
     'Cpp_M_InsertMissingDbl': ('int', (
@@ -5694,6 +5852,94 @@ FUNCTIONS = {
         'nOut: out, one integer: the number of groups\n'
         'out: out, rows by cols numbers; the first nOut rows are the result, those below keep the sorted input\n'
         'w: in, rows weights\n'
+        'returns 0\n'
+    )),
+    'VB_M_InfoQuali': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('modes', 'OLECHAR**', 'out', False, (('p', '1', None),), 0),
+        ('modeFrequencies', 'double*', 'out', False, (('p', '1', None),), 0),
+        ('categoryCounts', 'int*', 'out', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'out', False, (('p', 'n', None),), 0),
+        ('frequencies', 'double*', 'out', False, (('p', 'n', None),), 0),
+        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
+        ('total', 'int*', 'out', False, (('1', '1', None),), 0),
+        ('sort', 'short int', '', False, (), 0),
+    ), (
+        'int VB_M_InfoQuali(OLECHAR* const* data, int n, int p, OLECHAR** modes, double* modeFrequencies, int* categoryCounts, OLECHAR** categories, double* frequencies, const double* weights, int* total, short int sort);\n'
+        '\n'
+        'The categories of each variable, in tables as wide as there are rows.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'modes: out, p texts: the mode of each variable\n'
+        'modeFrequencies: out, p numbers: its frequency\n'
+        'categoryCounts: out, p integers: the number of categories\n'
+        'categories: out, p by n texts: the names\n'
+        'frequencies: out, p by n numbers: the frequencies\n'
+        'weights: in, n weights\n'
+        'total: out, one integer: the sum of the numbers of categories\n'
+        'sort: -1: the categories are sorted\n'
+        'returns 0\n'
+    )),
+    'VB_M_InfoQuali2': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('width', 'int', '', False, (), 0),
+        ('categoryCounts', 'int*', 'out', False, (('p', '1', None),), 0),
+        ('modes', 'OLECHAR**', 'out', False, (('p', '1', None),), 0),
+        ('modeFrequencies', 'double*', 'out', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'out', False, (('p', 'width', None),), 0),
+        ('frequencies', 'double*', 'out', False, (('p', 'width', None),), 0),
+        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
+        ('total', 'int*', 'out', False, (('1', '1', None),), 0),
+        ('sort', 'short int', '', False, (), 0),
+    ), (
+        'int VB_M_InfoQuali2(OLECHAR* const* data, int n, int p, int width, int* categoryCounts, OLECHAR** modes, double* modeFrequencies, OLECHAR** categories, double* frequencies, const double* weights, int* total, short int sort);\n'
+        '\n'
+        "The categories of each variable, in tables of a width of the caller's; more categories are not kept.\n"
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'width: columns of the tables\n'
+        'categoryCounts: out, p integers: the number of categories\n'
+        'modes: out, p texts: the mode of each variable\n'
+        'modeFrequencies: out, p numbers: its frequency\n'
+        'categories: out, p by width texts: the names\n'
+        'frequencies: out, p by width numbers: the frequencies\n'
+        'weights: in, n weights\n'
+        'total: out, one integer: the sum of the numbers of categories\n'
+        'sort: -1: the categories are sorted\n'
+        'returns 0\n'
+    )),
+    'VB_M_InfoQualiValid': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('width', 'int', '', False, (), 0),
+        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'in', False, (('p', 'width', None),), 0),
+        ('counts', 'double*', 'out', False, (('p', 'width', None),), 0),
+        ('newCategoryFound', 'short int*', 'out', False, (('1', '1', None),), 0),
+        ('weights', 'double*', 'in', False, (('n', '1', None),), 0),
+    ), (
+        'int VB_M_InfoQualiValid(OLECHAR* const* data, int n, int p, int width, const int* categoryCounts, OLECHAR* const* categories, double* counts, short int* newCategoryFound, const double* weights);\n'
+        '\n'
+        'Counts the rows of each category by their weights.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'width: columns of the tables of categories\n'
+        'categoryCounts: in, p integers: the number of known categories of each variable\n'
+        'categories: in, p by width texts: their names\n'
+        'counts: out, p by width numbers: the sum of the weights of each\n'
+        'newCategoryFound: out, one flag: -1 when a text is no known category, otherwise 0\n'
+        'weights: in, n weights\n'
         'returns 0\n'
     )),
     'VB_M_InvGeneralized': ('int', (
@@ -10902,5 +11148,25 @@ FUNCTIONS = {
         '\n'
         'value: the number\n'
         'label: in, narrow text, NUL-terminated\n'
+    )),
+    'isQuali': ('short int', (
+        ('type', 'int', '', False, (), 0),
+    ), (
+        'short int isQuali(int type);\n'
+        '\n'
+        'Whether a column is qualitative: the types 2, 4 and 5.\n'
+        '\n'
+        "type: code of the column's type\n"
+        'returns -1 for a qualitative column, otherwise 0\n'
+    )),
+    'isQualiPure': ('short int', (
+        ('type', 'int', '', False, (), 0),
+    ), (
+        'short int isQualiPure(int type);\n'
+        '\n'
+        'Whether a column is qualitative and nothing else: the types 2 and 4.\n'
+        '\n'
+        "type: code of the column's type\n"
+        'returns -1 for a purely qualitative column, otherwise 0\n'
     )),
 }
