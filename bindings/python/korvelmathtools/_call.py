@@ -189,7 +189,8 @@ class _Call:
             return self.array_argument(p)
         return self.other_argument(p)
 
-    def array_argument(self, p):
+    def given_or_made(self, p, empty, type_):
+        """The array of an argument; None where it is absent."""
         room = self.room(p)
         if p.name not in self.arrays:
             if p.nullable:
@@ -198,12 +199,14 @@ class _Call:
                 raise TypeError(f"{self.name}: {p.name} is not given")
             scalar = p.rooms[0][:2] == ("1", "1")
             shape = () if scalar else room[0] if p.rooms[0].columns == "1" else room
-            array = numpy.zeros(shape, NUMBERS[element_of(p.type)][1], "F")
-            self.arrays[p.name] = array
-            self.made.append((p.name, array))
-        array = self.arrays[p.name]
-        self.check_shape(p, array, room)
-        return ctypes.c_void_p(array.ctypes.data)
+            self.arrays[p.name] = numpy.full(shape, empty, type_, "F")
+            self.made.append((p.name, self.arrays[p.name]))
+        self.check_shape(p, self.arrays[p.name], room)
+        return self.arrays[p.name]
+
+    def array_argument(self, p):
+        array = self.given_or_made(p, 0, NUMBERS[element_of(p.type)][1])
+        return None if array is None else ctypes.c_void_p(array.ctypes.data)
 
     def check_shape(self, p, array, room):
         if room is None:
@@ -215,17 +218,9 @@ class _Call:
             self.fail(p, f"has {array.size} cells, not {rows * columns}", ValueError)
 
     def text_argument(self, p):
-        room = self.room(p)
-        if p.name not in self.arrays:
-            if p.nullable:
-                return None
-            if p.direction != "out":
-                raise TypeError(f"{self.name}: {p.name} is not given")
-            array = numpy.full(room[0] if p.rooms[0].columns == "1" else room, "", object, "F")
-            self.arrays[p.name] = array
-            self.made.append((p.name, array))
-        array = self.arrays[p.name]
-        self.check_shape(p, array, room)
+        array = self.given_or_made(p, "", object)
+        if array is None:
+            return None
         try:
             texts = Texts(array.ravel(order="F").tolist())
         except TypeError as error:
