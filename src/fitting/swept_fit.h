@@ -7,10 +7,10 @@
 #define KORVEL_FITTING_SWEPT_FIT_H
 
 #include "containers/matrix.h"
+#include "containers/packed_symmetric.h"
 #include "fitting/least_squares.h"
 #include "fitting/term_columns.h"
 #include "linalg/packed_sweep.h"
-#include "linalg/packed_symmetric.h"
 
 #include <cmath>
 #include <limits>

@@ -1,9 +1,9 @@
 #include "fitting/tolerance_screening.h"
 
 #include "containers/cells.h"
+#include "containers/packed_symmetric.h"
 #include "fitting/least_squares.h"
 #include "linalg/packed_sweep.h"
-#include "linalg/packed_symmetric.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "linalg/packed_sweep.h"
 
 #include "containers/cells.h"
-#include "linalg/packed_symmetric.h"
+#include "containers/packed_symmetric.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "linalg/products_packed.h"
 
+#include "containers/packed_symmetric.h"
 #include "containers/views.h"
 #include "linalg/packed_sweep.h"
-#include "linalg/packed_symmetric.h"
 #include "linalg/product_forms.h"
 
 #include <cmath>

@@ -1,5 +1,6 @@
 #include "tables/symmetric.h"
 
+#include "containers/packed_symmetric.h"
 #include "containers/views.h"
 
 #include <algorithm>
@@ -91,7 +92,7 @@ void M_CopySymMatToVector(matrix<double>* x, int n, matrix<double>* v)
         [n](auto in, auto& out) {
             for (int j = 0; j < n; ++j) {
                 for (int i = j; i < n; ++i) {
-                    out.set(korvel::packedPlace(i, j), in.get(i, j));
+                    out.set(korvel::packedPlace(i + 1, j + 1), in.get(i, j));
                 }
             }
         },
@@ -104,8 +105,8 @@ void M_CopyVectorToSymMat(matrix<double>* v, int n, matrix<double>* x)
         [n](auto in, auto& out) {
             for (int j = 0; j < n; ++j) {
                 for (int i = j; i < n; ++i) {
-                    out.set(i, j, in[korvel::packedPlace(i, j)]);
-                    out.set(j, i, in[korvel::packedPlace(i, j)]);
+                    out.set(i, j, in[korvel::packedPlace(i + 1, j + 1)]);
+                    out.set(j, i, in[korvel::packedPlace(i + 1, j + 1)]);
                 }
             }
         },

@@ -2,6 +2,7 @@
 // read, nothing is written, and no error is raised. An array of chunks that has no entries may be null.
 
 #include "containers/host_chunks.h"
+#include "containers/packed_symmetric.h"
 #include "containers/record_copies.h"
 #include "containers/stacked_slices.h"
 #include "random/sampling.h"

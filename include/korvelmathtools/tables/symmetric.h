@@ -9,25 +9,6 @@
 #include "containers/matrix.h"
 #include "platform/export.h"
 
-#include <cstdint>
-
-namespace korvel
-{
-
-/** Where cell (i, j) of a symmetric table, j <= i, both from 0, stands in the packed triangle. */
-[[nodiscard]] constexpr std::int64_t packedPlace(int i, int j) noexcept
-{
-    return std::int64_t{i} * (i + 1) / 2 + j;
-}
-
-/** Elements of the packed triangle of order `n`; none below 1. */
-[[nodiscard]] constexpr int packedLength(int n) noexcept
-{
-    return n > 0 ? static_cast<int>(packedPlace(n, 0)) : 0;
-}
-
-} // namespace korvel
-
 /**
  * Makes a table symmetric: both cells of a pair (i, j), (j, i) become their mean `(a + b) / 2`. A missing
  * cell (equal to `MISSING_DBL`) takes the value of the other; two missing ones stay. The diagonal stays.

@@ -1,5 +1,6 @@
 #include "frames/tables/symmetric.h"
 
+#include "containers/packed_symmetric.h"
 #include "frames/frame.h"
 #include "tables/symmetric.h"
 

@@ -2,8 +2,8 @@
  * @file
  * Where the elements of a packed symmetric table stand: the lower triangle, row after row.
  */
-#ifndef KORVEL_LINALG_PACKED_SYMMETRIC_H
-#define KORVEL_LINALG_PACKED_SYMMETRIC_H
+#ifndef KORVEL_CONTAINERS_PACKED_SYMMETRIC_H
+#define KORVEL_CONTAINERS_PACKED_SYMMETRIC_H
 
 #include <cstdint>
 
@@ -20,6 +20,12 @@ namespace korvel
 [[nodiscard]] constexpr std::int64_t packedPlace(std::int64_t i, std::int64_t j) noexcept
 {
     return i < j ? packedRow(j) + i : packedRow(i) + j;
+}
+
+/** Elements of a table of order `n`; none below 1. */
+[[nodiscard]] constexpr int packedLength(int n) noexcept
+{
+    return n > 0 ? static_cast<int>(packedPlace(n, n) + 1) : 0;
 }
 
 } // namespace korvel
