@@ -5,8 +5,8 @@
  *
  * Sizes are passed beside the tables and may differ from their own: a cell outside reads the table's
  * `oobValue`, and what is stored there is lost. So do the sizes of blocks that do not add up to the rows, or
- * columns, of the other table. Results are none of the operands. All run on the calling thread, but for
- * products with a single block that are said to be those of `M_ProductAB`.
+ * columns, of the other table. A size below 0 counts as 0. Results are none of the operands. All run on the
+ * calling thread, but for products with a single block that are said to be those of `M_ProductAB`.
  *
  * The products without transposing first look at the structure of the operands: a cell counts as non-zero
  * when it is NaN or differs from 0.0. A row is *zero* when all its cells are zeros, and *diagonal* when all
