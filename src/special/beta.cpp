@@ -31,7 +31,7 @@ struct tails {
         return {Scale::of(ratio), Scale::of1Minus(ratio), status};
     }
 
-    [[nodiscard]] tails turned() const { return {complement, ratio, status}; }
+    [[nodiscard]] constexpr tails turned() const { return {complement, ratio, status}; }
 };
 
 /** a / (a + b) and b / (a + b). The place does not matter where it is inside. */
@@ -60,7 +60,8 @@ expansion_result complementByExpansion(const beta_choice& c)
 template <class Scale>
 expansion_result ratioByWholeSteps(const beta_choice& c)
 {
-    const int steps = static_cast<int>(std::ceil(c.b)) - 1;
+    const int whole = static_cast<int>(c.b);
+    const int steps = whole == c.b ? whole - 1 : whole;
     const double fraction = c.b - steps;
     const double start = differenceOfSteps<Scale>(fraction, c.a, c.y, c.x, steps, betaEpsilon);
     if (c.way == beta_way::wholeAndSeries) {
@@ -117,24 +118,26 @@ tails<Scale> byWay(const beta_choice& c)
     }
 }
 
-/** All weight at one place: at 1 for a `b` of 0, at 0 for an `a` of 0, which infinite ones are turned into.
- */
+/** What is left when all weight is at one place, or the place asked for is at an end. */
 template <class Scale>
-tails<Scale> allAbove()
+tails<Scale> ofWeightAtOnePlace(double a, double b, double x, double y)
 {
-    return {Scale::zero, Scale::one, 0};
+    constexpr tails<Scale> allAbove{Scale::zero, Scale::one, 0};
+    if (x == 0.0 || y == 0.0) {
+        return x == 0.0 ? allAbove : allAbove.turned();
+    }
+    if (std::isinf(a) && std::isinf(b)) {
+        return x < 0.5 ? allAbove : allAbove.turned();
+    }
+    return b == 0.0 || std::isinf(a) ? allAbove : allAbove.turned();
 }
 
 /** What arguments that are in order come to. */
 template <class Scale>
 tails<Scale> ratioOf(double a, double b, double x, double y)
 {
-    const bool allAtOne = b == 0.0 || (std::isinf(a) && !std::isinf(b));
-    const bool allAtZero = a == 0.0 || (std::isinf(b) && !std::isinf(a));
-    const bool allAtHalf = std::isinf(a) && std::isinf(b);
-    if (x == 0.0 || y == 0.0 || allAtOne || allAtZero || allAtHalf) {
-        const bool isAbove = x == 0.0 || (y != 0.0 && (allAtOne || (allAtHalf && x < 0.5)));
-        return isAbove ? allAbove<Scale>() : allAbove<Scale>().turned();
+    if (std::min(x, y) == 0.0 || std::min(a, b) == 0.0 || std::isinf(std::max(a, b))) {
+        return ofWeightAtOnePlace<Scale>(a, b, x, y);
     }
     const beta_choice chosen = chooseBetaWay(a, b, x, y);
     const tails<Scale> found = byWay<Scale>(chosen);
@@ -145,7 +148,7 @@ tails<Scale> ratioOf(double a, double b, double x, double y)
 int refusal(double a, double b, double x, double y)
 {
     constexpr double tolerance = 3.0 * DBL_EPSILON;
-    if (std::isnan(a) || std::isnan(b) || std::isnan(x) || std::isnan(y)) {
+    if (std::isunordered(a, b) || std::isunordered(x, y)) {
         return 9;
     }
     if (a < 0.0 || b < 0.0) {

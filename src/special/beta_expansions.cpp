@@ -45,8 +45,8 @@ private:
     double b_;
     int count_ = 0;
     double reciprocalFactorial_ = 1.0; ///< 1 / (2 n + 1)!
-    std::array<double, mostTerms> c_{};
-    std::array<double, mostTerms> d_{};
+    std::array<double, mostTerms> c_;
+    std::array<double, mostTerms> d_;
 };
 
 /** The Taylor series of 1 - gamma(1 + a) P(a, x) / x^a, where P is the incomplete gamma ratio. */
@@ -67,12 +67,15 @@ double lowerGammaSeries(double a, double x, double epsilon)
 }
 
 /** Q(a, x), the complement of the incomplete gamma ratio, for a <= 1 and x < 1.1. */
-double upperGammaOfSmall(double a, double x, double epsilon)
+double upperGammaOfSmall(double a, double x, double logX, double epsilon)
 {
+    if (a == 0.5 && x < 0.25) {
+        return 1.0 - errorFunction(std::sqrt(x));
+    }
     const double series = lowerGammaSeries(a, x, epsilon);
-    const double exponent = a * std::log(x);
+    const double exponent = a * logX;
     const double h = reciprocalGammaExcess(a);
-    const bool isSmall = x < 0.25 ? exponent > -0.13394 : a < x / 2.59 || exponent > -0.13394;
+    const bool isSmall = exponent > -0.13394 || (x >= 0.25 && a < x / 2.59);
     if (isSmall) {
         const double l = expMinus1(exponent);
         return std::max(0.0, ((l + 1.0) * series - l) * (h + 1.0) - h);
@@ -80,9 +83,14 @@ double upperGammaOfSmall(double a, double x, double epsilon)
     return 1.0 - std::exp(exponent) * (h + 1.0) * (1.0 - series);
 }
 
-/** Q(a, x) exp(x) gamma(a) / x^a by a continued fraction, for a <= 1 and x >= 1.1. */
+/** Q(a, x) exp(x) gamma(a) / x^a by a continued fraction, for a <= 1 and x >= 1.1, or a = 1/2 and x >= 1/4.
+ */
 double scaledUpperGammaOfLarge(double a, double x, double epsilon)
 {
+    if (a == 0.5) {
+        const double root = std::sqrt(x);
+        return scaledErrorComplement(root) / root * rootOfPi;
+    }
     double oddNumerator = 1.0;
     double numerator = 1.0;
     double oddDenominator = x;
@@ -102,21 +110,6 @@ double scaledUpperGammaOfLarge(double a, double x, double epsilon)
     return last;
 }
 
-/** Q(a, x) / r for a <= 1, where Q is the complement of the incomplete gamma ratio, and r exp(-x) x^a /
- * gamma(a). */
-double scaledUpperGamma(double a, double x, double logR, double epsilon)
-{
-    if (a == 0.5) {
-        const double root = std::sqrt(x);
-        return x < 0.25 ? (1.0 - errorFunction(root)) * std::exp(-logR)
-                        : scaledErrorComplement(root) / root * rootOfPi;
-    }
-    if (x < 1.1) {
-        return upperGammaOfSmall(a, x, epsilon) * std::exp(-logR);
-    }
-    return scaledUpperGammaOfLarge(a, x, epsilon);
-}
-
 } // namespace
 
 template <class Scale>
@@ -129,16 +122,27 @@ expansion_result addExpansionForLargeA(double start, double a, double b, double 
     if (b * z == 0.0) {
         return {start, 1};
     }
-    const double logR = std::log(b) + log1pOrMissing(reciprocalGammaExcess(b)) + b * std::log(z) + nu * logX;
-    const double logScale = logR - (logGammaQuotient(b, a) + b * std::log(nu));
+    // The scale is r = exp(-z) z^b / gamma(b) over nu^b gamma(a) / gamma(a + b). Both powers go together in
+    // it.
+    const double quotient = logGammaQuotient(b, a);
+    const double logScale =
+        std::log(b * (reciprocalGammaExcess(b) + 1.0)) + b * std::log(-logX) + nu * logX - quotient;
     if (logScale <= MISSING_DBL) {
         return {start, 2};
     }
-    const double startPerScale = start == Scale::zero ? 0.0 : std::exp(Scale::log(start) - logScale);
+    const double scale = Scale::ofExp(logScale);
+    const double startPerScale = Scale::ratio(start, scale);
     const double v = 0.25 / (nu * nu);
     const double squareOfHalfLog = logX * 0.25 * logX;
     expansion_coefficients coefficients(b);
-    double j = scaledUpperGamma(b, z, logR, epsilon);
+    double j = 0.0;
+    if (z >= 1.1 || (b == 0.5 && z >= 0.25)) {
+        j = scaledUpperGammaOfLarge(b, z, epsilon);
+    } else {
+        const double logNu = std::log(nu);
+        const double logR = logScale + (quotient + b * logNu);
+        j = upperGammaOfSmall(b, z, logNu + std::log(-logX), epsilon) * std::exp(-logR);
+    }
     double sum = j;
     double power = 1.0;
     for (int n = 0; n < mostTerms; ++n) {
@@ -154,7 +158,7 @@ expansion_result addExpansionForLargeA(double start, double a, double b, double 
             break;
         }
     }
-    return {Scale::sum(start, Scale::ofProduct(logScale, sum)), 0};
+    return {Scale::sum(start, Scale::product(logScale, scale, sum)), 0};
 }
 
 template expansion_result addExpansionForLargeA<plain_scale>(double, double, double, double, double, double);

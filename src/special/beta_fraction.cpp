@@ -9,20 +9,42 @@ namespace korvel
 namespace
 {
 
-/** Convergents of a continued fraction, of which the last has the denominator 1. */
+/** Two convergents of a continued fraction, the last and the one before, up to a common factor. */
 struct convergents {
     double numeratorBefore;
     double denominatorBefore;
-    double last;
+    double numerator;
+    double denominator;
 
-    /** Adds a quotient: `numerator` / (`denominator` + what comes after). */
-    void add(double numerator, double denominator)
+    /** Adds a quotient: `above` / (`below` + what comes after). */
+    void add(double above, double below)
     {
-        const double newNumerator = numerator * numeratorBefore + denominator * last;
-        const double newDenominator = numerator * denominatorBefore + denominator;
-        numeratorBefore = last / newDenominator;
-        denominatorBefore = 1.0 / newDenominator;
-        last = newNumerator / newDenominator;
+        const double newNumerator = above * numeratorBefore + below * numerator;
+        const double newDenominator = above * denominatorBefore + below * denominator;
+        numeratorBefore = numerator;
+        denominatorBefore = denominator;
+        numerator = newNumerator;
+        denominator = newDenominator;
+    }
+
+    void shrink()
+    {
+        constexpr double large = 1e100;
+        if (denominator > large) {
+            const double factor = 1.0 / denominator;
+            numeratorBefore *= factor;
+            denominatorBefore *= factor;
+            numerator *= factor;
+            denominator = 1.0;
+        }
+    }
+
+    /** Whether the two are the same, relative to the one before, without a division. */
+    [[nodiscard]] bool agree(double epsilon) const
+    {
+        const double crossed = numeratorBefore * denominator;
+        const double last = numerator * denominatorBefore;
+        return std::fabs(last - crossed) <= epsilon * last;
     }
 };
 
@@ -38,25 +60,23 @@ double continuedFraction(double a, double b, double x, double y, double lambda, 
     }
     // All parts are taken per a, so that none overflows.
     const double first = (lambda + 1.0) / (1.0 + 1.0 / a);
-    convergents fraction{0.0, 1.0 / first, 1.0 / first};
+    convergents fraction{0.0, 1.0, 1.0, first};
     double perWidth = 1.0 / (a + 1.0);
-    for (int n = 1; n <= mostTerms; ++n) {
-        const double before = fraction.last;
+    for (int n = 1; n <= mostTerms && !fraction.agree(epsilon); ++n) {
         const double v = n * (b - n) * x;
-        const double numerator = (a + (n - 1)) * perWidth * ((a + b + (n - 1)) * perWidth) * (v * x);
+        const double above = (a + (n - 1)) * perWidth * ((a + b + (n - 1)) * perWidth) * (v * x);
         const double vPerWidth = v * perWidth;
         perWidth = 1.0 / (a + 1.0 + 2.0 * n);
-        const double denominator = n + vPerWidth + (a + n) * perWidth * (lambda + 1.0 + n * (1.0 + y));
-        fraction.add(numerator, denominator);
-        if (!std::isfinite(fraction.last)) {
+        const convergents before = fraction;
+        fraction.add(above, n + vPerWidth + (a + n) * perWidth * (lambda + 1.0 + n * (1.0 + y)));
+        if (!std::isfinite(fraction.denominator)) {
             // Only parameters beyond 1e100 overflow, of which these terms are no share.
-            return Scale::times(factor, before);
-        }
-        if (std::fabs(fraction.last - before) <= epsilon * fraction.last) {
+            fraction = before;
             break;
         }
+        fraction.shrink();
     }
-    return Scale::times(factor, fraction.last);
+    return Scale::times(factor, fraction.numerator / fraction.denominator);
 }
 
 template double continuedFraction<plain_scale>(double, double, double, double, double, double);

@@ -54,12 +54,14 @@ private:
     void computeOne(int i)
     {
         // The series to the power r.
-        const double r = -0.5 * (i + 1.0);
+        const double r = -0.5 * (i + 1.0); // a half or a whole number, so that the weights below are exact
         power_[0] = r * series_[0];
         for (int m = 2; m <= i; ++m) {
             double sum = 0.0;
+            double weight = r + 1.0 - m;
             for (int j = 1; j < m; ++j) {
-                sum += (j * r - (m - j)) * series_[at(j - 1)] * power_[at(m - j - 1)];
+                sum += weight * series_[at(j - 1)] * power_[at(m - j - 1)];
+                weight += r + 1.0;
             }
             power_[at(m - 1)] = r * series_[at(m - 1)] + sum / m;
         }
@@ -76,10 +78,10 @@ private:
     double twoDifferences_;
     double evenPowerOfH_ = 1.0;
     double sum_ = 1.0;
-    coefficients series_{};
-    coefficients power_{}; ///< the series to a power
-    coefficients c_{};
-    coefficients d_{};
+    coefficients series_;
+    coefficients power_; ///< the series to a power
+    coefficients c_;
+    coefficients d_;
 };
 
 } // namespace

@@ -10,7 +10,9 @@ namespace korvel
 template <class Scale>
 double ratioForTinyB(double a, double b, double x, double epsilon)
 {
-    if (!Scale::isLogarithmic && a * std::log(x) < exponentLimit) {
+    constexpr double smallestPower = 3.307553003638408e-308; // exp(-708)
+    const double powerOfX = Scale::ofPower(x, a);
+    if (!Scale::isLogarithmic && powerOfX < smallestPower) {
         return Scale::zero;
     }
     const double tolerance = epsilon / a;
@@ -25,7 +27,7 @@ double ratioForTinyB(double a, double b, double x, double epsilon)
         sum += term;
     } while (term > tolerance);
     // 1/B(a, b) is b.
-    return Scale::times1Plus(Scale::times(Scale::ofPower(x, a), b / a), a * sum);
+    return Scale::times1Plus(Scale::times(powerOfX, b / a), a * sum);
 }
 
 double complementForTinyA(double a, double b, double x, double epsilon)
@@ -67,8 +69,9 @@ double powerSeries(double a, double b, double x, double epsilon)
     double term = 0.0;
     do {
         n += 1.0;
-        product *= (1.0 - b / n) * x;
-        term = product / (a + n);
+        const double inverse = 1.0 / (n * (a + n));
+        product *= (n - b) * x * (inverse * (a + n));
+        term = product * (inverse * n);
         sum += term;
     } while (n < mostTerms && std::fabs(term) > tolerance);
     return Scale::times1Plus(first, a * sum);
@@ -88,8 +91,8 @@ double differenceOfSteps(double a, double b, double x, double y, int steps, doub
     }
     double term = 1.0;
     double sum = 1.0;
-    for (int i = 1; i < steps; ++i) {
-        term *= (a + b + (i - 1)) / (a + i) * x;
+    for (double i = 1.0; i < steps; ++i) {
+        term *= (a + b + (i - 1.0)) / (a + i) * x;
         sum += term;
         if (i > greatestTerm && term <= epsilon * sum) {
             break;

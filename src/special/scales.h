@@ -8,13 +8,11 @@
 
 #include "special/elementary.h"
 
+#include <cfloat>
 #include <cmath>
 
 namespace korvel
 {
-
-/** What exp takes at least. */
-inline constexpr double exponentLimit = -708.0;
 
 /** Probabilities as they are. */
 struct plain_scale {
@@ -28,19 +26,22 @@ struct plain_scale {
     static double ofExp(double x) { return std::exp(x); }
     static double ofPower(double x, double a) { return std::pow(x, a); }
 
-    /** exp(x) times a positive number, which does not underflow before the product does. */
-    static double ofProduct(double x, double factor)
+    /** exp(x), which is given as `value` too, times a positive number; it does not underflow before the
+     * product does. */
+    static double product(double x, double value, double factor)
     {
-        return x < exponentLimit ? std::exp(x + std::log(factor)) : std::exp(x) * factor;
+        return value < DBL_MIN ? std::exp(x + std::log(factor)) : value * factor;
     }
+
+    /** One value over another, as an ordinary number; 0 when both are 0. */
+    static double ratio(double value, double other) { return value == 0.0 ? 0.0 : value / other; }
 
     /** The value on this scale times an ordinary number, and times 1 + x. */
     static double times(double value, double x) { return value * x; }
     static double times1Plus(double value, double x) { return value * (x + 1.0); }
 
-    /** The sum of two values, the logarithm of one, and 1 less a value. */
+    /** The sum of two values, and 1 less a value. */
     static double sum(double value, double other) { return value + other; }
-    static double log(double value) { return logOrMissing(value); }
     static double complement(double value) { return 1.0 - value; }
 };
 
@@ -54,11 +55,11 @@ struct log_scale {
     static double of1Minus(double x) { return log1pOrMissing(-x); }
     static double ofExp(double x) { return std::fmax(x, MISSING_DBL); }
     static double ofPower(double x, double a) { return a * logOrMissing(x); }
-    static double ofProduct(double x, double factor) { return x + logOrMissing(factor); }
+    static double product(double x, double /*value*/, double factor) { return x + logOrMissing(factor); }
+    static double ratio(double value, double other) { return std::exp(value - other); }
     static double times(double value, double x) { return value + logOrMissing(x); }
     static double times1Plus(double value, double x) { return value + log1pOrMissing(x); }
     static double sum(double value, double other) { return logOfSum(value, other); }
-    static double log(double value) { return value; }
     static double complement(double value) { return logOfComplement(value); }
 };
 
