@@ -1403,6 +1403,92 @@ Public Declare PtrSafe Function Cpp_V_Trim2 Lib "KORVELMathTools.dll" ( _
 ' The version of the library that is loaded.
 Public Declare PtrSafe Function KORVEL_Version Lib "KORVELMathTools.dll" () As Long
 
+' ---- qualitative/binary_tables.h
+
+' 0 for a number closer to 0 than the machine epsilon, 1 for any other.
+Public Declare PtrSafe Function VB_M_Binarize Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef result As Double) As Long
+
+' 0 for a number closer to 0 than the machine epsilon, 1 for any other, in place.
+Public Declare PtrSafe Function VB_M_Binarize2 Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long) As Long
+
+' The same of a chunked table.
+Public Declare PtrSafe Function VB_M_Binarize2SPV Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal p As Long, ByVal n As Long) As Long
+
+' Whether a table looks like a disjunctive one. rowFlags (Integer) may be null.
+Public Declare PtrSafe Function VB_M_IsDisjTable Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef rowFlags As Any, ByRef rowSum As Long) As Integer
+
+' Whether a vector has at most two different values.
+Public Declare PtrSafe Function Cpp_V_IsBinaryDbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal skipMissing As Integer) As Integer
+
+' Whether each element of a vector is one of two values.
+Public Declare PtrSafe Function Cpp_V_IsBinaryDblXY Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal a As Double, ByVal b As Double, _
+    ByVal skipMissing As Integer) As Integer
+
+' Whether each column of a labelled table has at most two different values, as `Cpp_V_IsBinaryDbl`
+' tells it of its first `Count` rows.
+Public Declare PtrSafe Function Cpp_M_IsBinaryDbl_ST Lib "KORVELMathTools.dll" ( _
+    ByVal x As LongPtr, ByVal skipMissing As Integer) As Integer
+
+' Makes a vector of two values one of 0 and 1, the smaller value becoming 0.
+Public Declare PtrSafe Function Cpp_V_ConvertBinaryTo01Dbl Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long) As Long
+
+' Each column, followed by 1 less the column.
+Public Declare PtrSafe Function Cpp_M_ConvertBinarytoDisjTable Lib "KORVELMathTools.dll" ( _
+    ByRef x As Double, ByVal n As Long, ByVal p As Long, ByRef result As Double) As Long
+
+' ---- qualitative/category_codes.h
+
+' The code of each text: `firstCode` for the first category of its variable, and one more for each
+' next one.
+Public Declare PtrSafe Function VB_M_ReplaceStrByCodes Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByRef categoryCounts As Long, _
+    ByVal categories As LongPtr, ByRef rowFlags As Integer, ByVal firstCode As Long, _
+    ByRef result As Double) As Long
+
+' The same from a labelled table into another one.
+Public Declare PtrSafe Function Cpp_M_ReplaceStrByCodes_ST Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByRef categoryCounts As Long, _
+    ByVal categories As LongPtr, ByRef rowFlags As Integer, ByVal firstCode As Long, _
+    ByVal result As LongPtr) As Long
+
+' The same into a chunked table.
+Public Declare PtrSafe Function Cpp_M_ReplaceStrByCodesSPV Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByRef categoryCounts As Long, _
+    ByVal categories As LongPtr, ByRef rowFlags As Integer, ByVal firstCode As Long, _
+    ByVal result As LongPtr) As Long
+
+' The code of each text, from 1 on.
+Public Declare PtrSafe Function Cpp_M_ReplaceCatByCodes Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByRef categoryCounts As Long, _
+    ByVal categories As LongPtr, ByRef result As Double) As Long
+
+' The same from a labelled table into another one.
+Public Declare PtrSafe Function Cpp_M_ReplaceCatByCodes_ST Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByRef categoryCounts As Long, _
+    ByVal categories As LongPtr, ByVal result As LongPtr) As Long
+
+' Codes from 0 on in the order in which texts first appear in the whole table, column after column.
+' rowFlags (Integer) may be null.
+Public Declare PtrSafe Function VB_M_ReplaceStrByCodesBinary Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByRef rowFlags As Any, _
+    ByRef result As Double) As Long
+
+' Replaces texts by others.
+Public Declare PtrSafe Function Cpp_M_RecodeDataWithCodes_ST Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByVal codes As LongPtr, _
+    ByVal codeCount As Long, ByVal result As LongPtr) As Long
+
+' 1 for each element that is the given text, 0 for all others.
+Public Declare PtrSafe Function Cpp_V_RecodeToBinary Lib "KORVELMathTools.dll" ( _
+    ByVal column As LongPtr, ByVal n As Long, ByVal value As LongPtr, ByRef result As Double) As Long
+
 ' ---- qualitative/category_counts.h
 
 ' The number of different texts in each column, the empty one left out.
@@ -1472,6 +1558,19 @@ Public Declare PtrSafe Function isQuali Lib "KORVELMathTools.dll" ( _
 ' Whether a column is qualitative and nothing else: the types 2 and 4.
 Public Declare PtrSafe Function isQualiPure Lib "KORVELMathTools.dll" ( _
     ByVal typeValue As Long) As Integer
+
+' ---- qualitative/disjunctive_tables.h
+
+' The disjunctive table of a table of texts.
+Public Declare PtrSafe Function VB_BuildDisjunctiveTable Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal n As Long, ByVal p As Long, ByVal totalColumns As Long, _
+    ByRef categoryCounts As Long, ByVal categories As LongPtr, ByRef frequencies As Double, _
+    ByRef result As Double, ByVal coding As Long, ByVal firstCategoryOption As Long) As Long
+
+' The disjunctive table of a record.
+Public Declare PtrSafe Function Cpp_BuildDisjunctiveTable_ST Lib "KORVELMathTools.dll" ( _
+    ByVal data As LongPtr, ByVal info As LongPtr, ByVal result As LongPtr, ByVal coding As Long, _
+    ByVal firstCategoryOption As Long) As Long
 
 ' ---- random/indicator.h
 

@@ -61,11 +61,15 @@ public:
 
     [[nodiscard]] vector_slots<T> operator[](int j) { return vector_slots<T>(column(j)); }
 
+    [[nodiscard]] bool has(int j) const { return static_cast<std::size_t>(j) < record_->Vectors.size(); }
+
     [[nodiscard]] matrix<T>& column(int j)
     {
-        const auto k = static_cast<std::size_t>(j);
-        return k < record_->Vectors.size() ? record_->Vectors[k].Vect : none_;
+        return has(j) ? record_->Vectors[static_cast<std::size_t>(j)].Vect : none_;
     }
+
+    /** Stores into element i of column j. */
+    void set(int i, int j, const T& value) { storeChecked(column(j), i, value); }
 
 private:
     cST_MVect<T>* record_;

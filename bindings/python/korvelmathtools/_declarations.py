@@ -59,6 +59,24 @@ FUNCTIONS = {
         'result: inout, n by p numbers; rows whose sum of squares is not above 1e-12 stay as they are. May be x\n'
         'returns 0\n'
     )),
+    'Cpp_BuildDisjunctiveTable_ST': ('int', (
+        ('data', 'ST_MVect*', 'in', False, (), 0),
+        ('info', 'ST_QualiInfo*', 'in', False, (('category', '1', None),), 0),
+        ('result', 'ST_MVect*', 'inout', False, (), 0),
+        ('coding', 'int', '', False, (), 0),
+        ('firstCategoryOption', 'int', '', False, (), 0),
+    ), (
+        'int Cpp_BuildDisjunctiveTable_ST(ST_MVect* data, ST_QualiInfo* info, ST_MVect* result, int coding, int firstCategoryOption);\n'
+        '\n'
+        'The disjunctive table of a record.\n'
+        '\n'
+        'data: in, labelled table of texts; all columns are read down to the longest one\n'
+        'info: in, category statistics: `NbCat`, `CatNames` and `CatFreq` of its columns\n'
+        'result: inout, labelled table of numbers: each column that is needed and there receives as many rows, and is resized where it can be; its counts and labels stay\n'
+        'coding: 0, 1, 2 or 3\n'
+        'firstCategoryOption: 1, 2 or another value\n'
+        'returns 0\n'
+    )),
     'Cpp_CheckForMarginalSums': ('int', (
         ('table', 'double*', 'in', False, (('rows', 'cols', None),), 0),
         ('rows', 'int', '', False, (), 0),
@@ -317,6 +335,22 @@ FUNCTIONS = {
         'positions: in, n integers: the columns, counted from 1; one below 1 marks nothing\n'
         'n: rows\n'
         'table: inout, n by max(positions) integers, or more columns, one after the other\n'
+        'returns 0\n'
+    )),
+    'Cpp_M_ConvertBinarytoDisjTable': ('int', (
+        ('x', 'double*', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (), 0),
+        ('result', 'double*', 'out', False, (('n', '2 * p', None),), 0),
+    ), (
+        'int Cpp_M_ConvertBinarytoDisjTable(const double* x, int n, int p, double* result);\n'
+        '\n'
+        'Each column, followed by 1 less the column. Missing numbers are numbers like any other.\n'
+        '\n'
+        'x: in, n by p numbers\n'
+        'n: number of rows\n'
+        'p: number of columns\n'
+        'result: out, n by 2 * p numbers\n'
         'returns 0\n'
     )),
     'Cpp_M_CopyBlockSPV2': ('int', (
@@ -1244,6 +1278,19 @@ FUNCTIONS = {
         'g: inout, labelled table of numbers whose columns receive n by n; its counts stay as they are\n'
         'returns 0\n'
     )),
+    'Cpp_M_IsBinaryDbl_ST': ('short int', (
+        ('x', 'ST_MVect*', 'in', False, (), 0),
+        ('skipMissing', 'short int', '', False, (), 0),
+    ), (
+        'short int Cpp_M_IsBinaryDbl_ST(ST_MVect* x, short int skipMissing);\n'
+        '\n'
+        'Whether each column of a labelled table has at most two different values, as `Cpp_V_IsBinaryDbl` tells it\n'
+        'of its first `Count` rows.\n'
+        '\n'
+        'x: in, labelled table of numbers\n'
+        'skipMissing: -1: missing numbers are passed over, and at the start a NaN too; otherwise they make the result false\n'
+        'returns -1 when all have, otherwise 0\n'
+    )),
     'Cpp_M_IsLong_ST': ('short int', (
         ('x', 'ST_MVect*', 'in', False, (('table', '1', None),), 0),
         ('rows', 'int', '', False, (), 0),
@@ -1607,6 +1654,26 @@ FUNCTIONS = {
         's: in, n by n numbers, of which only the lower triangle is read\n'
         'returns the form; 0.0 for n below 1\n'
     )),
+    'Cpp_M_RecodeDataWithCodes_ST': ('int', (
+        ('data', 'ST_MVect*', 'in', False, (), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (), 0),
+        ('codes', 'ST_MVect*', 'in', False, (), 0),
+        ('codeCount', 'int', '', False, (('number', '1', None),), 0),
+        ('result', 'ST_MVect*', 'inout', False, (), 0),
+    ), (
+        'int Cpp_M_RecodeDataWithCodes_ST(ST_MVect* data, int n, int p, ST_MVect* codes, int codeCount, ST_MVect* result);\n'
+        '\n'
+        'Replaces texts by others.\n'
+        '\n'
+        'data: in, labelled table of texts, n by p\n'
+        'n: number of rows\n'
+        'p: number of columns\n'
+        'codes: in, labelled table of two columns: the texts to look for, and what replaces them; of equal ones the first counts\n'
+        'codeCount: number of texts to look for; below 1 the result is left alone\n'
+        'result: inout, labelled table of texts whose columns receive n by p texts; one that is not looked for stays\n'
+        'returns 0\n'
+    )),
     'Cpp_M_RemoveRowsStr2': ('int', (
         ('x', 'OLECHAR**', 'inout', False, (('rows', 'cols', None),), 0),
         ('rows', 'int', '', False, (), 0),
@@ -1684,6 +1751,47 @@ FUNCTIONS = {
         'wholeRow: -1: all cells of a row with a mark become missing; otherwise only the cell in the same column\n'
         'returns 0\n'
     )),
+    'Cpp_M_ReplaceCatByCodes': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'in', False, (('p', 'max(categoryCounts)', None),), 0),
+        ('result', 'double*', 'inout', False, (('n', 'p', None),), 0),
+    ), (
+        'int Cpp_M_ReplaceCatByCodes(OLECHAR* const* data, int n, int p, const int* categoryCounts, OLECHAR* const* categories, double* result);\n'
+        '\n'
+        'The code of each text, from 1 on. Of equal names the first counts. A text that is no category leaves its\n'
+        'place in the result as it was.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'categoryCounts: in, p integers: the number of categories of each variable\n'
+        'categories: in, p by max(categoryCounts) texts: their names, a row for each variable\n'
+        'result: inout, n by p numbers: the codes\n'
+        'returns 0\n'
+    )),
+    'Cpp_M_ReplaceCatByCodes_ST': ('int', (
+        ('data', 'ST_MVect*', 'in', False, (), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'in', False, (('p', 'max(categoryCounts)', None),), 0),
+        ('result', 'ST_MVect*', 'inout', False, (), 0),
+    ), (
+        'int Cpp_M_ReplaceCatByCodes_ST(ST_MVect* data, int n, int p, const int* categoryCounts, OLECHAR* const* categories, ST_MVect* result);\n'
+        '\n'
+        'The same from a labelled table into another one.\n'
+        '\n'
+        'data: in, labelled table of texts, n by p\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'categoryCounts: in, p integers: the number of categories of each variable\n'
+        'categories: in, p by max(categoryCounts) texts: their names, a row for each variable\n'
+        'result: inout, labelled table of numbers whose columns receive n by p codes\n'
+        'returns 0\n'
+    )),
     'Cpp_M_ReplaceMissingByStr_ST': ('int', (
         ('x', 'ST_MVect*', 'inout', False, (('table', '1', None),), 0),
         ('rows', 'int', '', False, (), 0),
@@ -1714,6 +1822,54 @@ FUNCTIONS = {
         'rows: rows of the table\n'
         'cols: columns of the table\n'
         'val: what a missing number becomes\n'
+        'returns 0\n'
+    )),
+    'Cpp_M_ReplaceStrByCodesSPV': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'in', False, (('p', 'max(categoryCounts)', None),), 0),
+        ('rowFlags', 'short int*', 'in', False, (('n', '1', None),), 0),
+        ('firstCode', 'int', '', False, (), 0),
+        ('result', 'Hostarray**', 'inout', False, (), 0),
+    ), (
+        'int Cpp_M_ReplaceStrByCodesSPV(OLECHAR* const* data, int n, int p, const int* categoryCounts, OLECHAR* const* categories, const short int* rowFlags, int firstCode, Hostarray** result);\n'
+        '\n'
+        'The same into a chunked table.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'categoryCounts: in, p integers: the number of categories of each variable\n'
+        'categories: in, p by max(categoryCounts) texts: their names, a row for each variable\n'
+        'rowFlags: in, n flags: not 0 leaves a row out\n'
+        'firstCode: the code of a first category\n'
+        'result: inout, p columns that each receive n codes\n'
+        'returns 0\n'
+    )),
+    'Cpp_M_ReplaceStrByCodes_ST': ('int', (
+        ('data', 'ST_MVect*', 'in', False, (), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'in', False, (('p', 'max(categoryCounts)', None),), 0),
+        ('rowFlags', 'short int*', 'in', False, (('n', '1', None),), 0),
+        ('firstCode', 'int', '', False, (), 0),
+        ('result', 'ST_MVect*', 'inout', False, (), 0),
+    ), (
+        'int Cpp_M_ReplaceStrByCodes_ST(ST_MVect* data, int n, int p, const int* categoryCounts, OLECHAR* const* categories, const short int* rowFlags, int firstCode, ST_MVect* result);\n'
+        '\n'
+        'The same from a labelled table into another one.\n'
+        '\n'
+        'data: in, labelled table of texts, n by p\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'categoryCounts: in, p integers: the number of categories of each variable\n'
+        'categories: in, p by max(categoryCounts) texts: their names, a row for each variable\n'
+        'rowFlags: in, n flags: not 0 leaves a row out\n'
+        'firstCode: the code of a first category\n'
+        'result: inout, labelled table of numbers whose columns receive n by p codes\n'
         'returns 0\n'
     )),
     'Cpp_M_RowSumNorm': ('double', (
@@ -2683,6 +2839,20 @@ FUNCTIONS = {
         'm: out, one integer: how many they are\n'
         'returns 0\n'
     )),
+    'Cpp_V_ConvertBinaryTo01Dbl': ('int', (
+        ('x', 'double*', 'inout', False, (('n', '1', None),), 0),
+        ('n', 'int', '', False, (('number', '1', None),), 0),
+    ), (
+        'int Cpp_V_ConvertBinaryTo01Dbl(double* x, int n);\n'
+        '\n'
+        'Makes a vector of two values one of 0 and 1, the smaller value becoming 0. The first value is the first\n'
+        'number that is neither missing nor a NaN; the second one is the next that differs from it, or 0 when there\n'
+        'is none. Other numbers stay. Nothing happens when the first value is the last element.\n'
+        '\n'
+        'x: inout, n numbers\n'
+        'n: number of elements\n'
+        'returns 0\n'
+    )),
     'Cpp_V_CopyDoubleToLong': ('int', (
         ('x', 'double*', 'in', False, (('n', '1', None),), 0),
         ('n', 'int', '', False, (('number', '1', None),), 0),
@@ -2968,6 +3138,38 @@ FUNCTIONS = {
         'val: the value\n'
         'bSort: -1: the vector is sorted first; otherwise it is taken to be sorted\n'
         'returns 0\n'
+    )),
+    'Cpp_V_IsBinaryDbl': ('short int', (
+        ('x', 'double*', 'in', False, (('n', '1', None),), 0),
+        ('n', 'int', '', False, (('number', '1', None),), 0),
+        ('skipMissing', 'short int', '', False, (), 0),
+    ), (
+        'short int Cpp_V_IsBinaryDbl(const double* x, int n, short int skipMissing);\n'
+        '\n'
+        'Whether a vector has at most two different values.\n'
+        '\n'
+        'x: in, n numbers\n'
+        'n: number of elements\n'
+        'skipMissing: -1: missing numbers are passed over, and at the start a NaN too; otherwise they make the result false\n'
+        'returns -1 when there are at least two elements from the first that is kept on, and they have at most two values; -1 for n below 1 unless missing numbers are passed over; otherwise 0\n'
+    )),
+    'Cpp_V_IsBinaryDblXY': ('short int', (
+        ('x', 'double*', 'in', False, (('n', '1', None),), 0),
+        ('n', 'int', '', False, (('number', '1', None),), 0),
+        ('a', 'double', '', False, (), 0),
+        ('b', 'double', '', False, (), 0),
+        ('skipMissing', 'short int', '', False, (), 0),
+    ), (
+        'short int Cpp_V_IsBinaryDblXY(const double* x, int n, double a, double b, short int skipMissing);\n'
+        '\n'
+        'Whether each element of a vector is one of two values.\n'
+        '\n'
+        'x: in, n numbers\n'
+        'n: number of elements\n'
+        'a: a value\n'
+        'b: another value\n'
+        'skipMissing: -1: missing numbers are passed over, and at the start a NaN too\n'
+        'returns -1 when there are at least two elements from the first that is kept on, and each is one of the values; -1 for n below 1 unless missing numbers are passed over; otherwise 0\n'
     )),
     'Cpp_V_IsWeightsAndAll1_ST': ('short int', (
         ('x', 'SAFEARRAY**', 'in', False, (), 0),
@@ -3262,6 +3464,22 @@ FUNCTIONS = {
         'x: inout, n numbers, sorted in place\n'
         'n: number of elements\n'
         'out: out, 13 numbers; all missing for n below 1\n'
+        'returns 0\n'
+    )),
+    'Cpp_V_RecodeToBinary': ('int', (
+        ('column', 'OLECHAR**', 'in', False, (('n', '1', None),), 0),
+        ('n', 'int', '', False, (('number', '1', None),), 0),
+        ('value', 'OLECHAR*', 'in', False, (('1', '1', None),), 0),
+        ('result', 'double*', 'out', False, (('n', '1', None),), 0),
+    ), (
+        'int Cpp_V_RecodeToBinary(OLECHAR* const* column, int n, const OLECHAR* value, double* result);\n'
+        '\n'
+        '1 for each element that is the given text, 0 for all others.\n'
+        '\n'
+        'column: in, n texts\n'
+        'n: number of elements\n'
+        'value: in, one text; it may be empty\n'
+        'result: out, n numbers\n'
         'returns 0\n'
     )),
     'Cpp_V_Reverse2Bool': ('int', (
@@ -3994,6 +4212,34 @@ FUNCTIONS = {
         'alpha: 1: rows stay as they are; 0: columns do\n'
         'rowResult: out, rows + extraRows by axes numbers\n'
         'columnResult: out, columns by axes numbers\n'
+        'returns 0\n'
+    )),
+    'VB_BuildDisjunctiveTable': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('totalColumns', 'int', '', False, (), 0),
+        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'in', False, (('p', 'max(categoryCounts)', None),), 0),
+        ('frequencies', 'double*', 'in', False, (('p', 'max(categoryCounts)', None),), 0),
+        ('result', 'double*', 'out', False, (('n', 'totalColumns', None),), 0),
+        ('coding', 'int', '', False, (), 0),
+        ('firstCategoryOption', 'int', '', False, (), 0),
+    ), (
+        'int VB_BuildDisjunctiveTable(OLECHAR* const* data, int n, int p, int totalColumns, const int* categoryCounts, OLECHAR* const* categories, const double* frequencies, double* result, int coding, int firstCategoryOption);\n'
+        '\n'
+        'The disjunctive table of a table of texts.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'totalColumns: columns of the result\n'
+        'categoryCounts: in, p integers: the number of categories of each variable\n'
+        'categories: in, p by max(categoryCounts) texts: their names, a row for each variable\n'
+        'frequencies: in, p by max(categoryCounts) numbers: their frequencies\n'
+        'result: out, n by totalColumns numbers\n'
+        'coding: 0, 1, 2 or 3\n'
+        'firstCategoryOption: 1, 2 or another value\n'
         'returns 0\n'
     )),
     'VB_CheckTolerance': ('int', (
@@ -4938,6 +5184,50 @@ FUNCTIONS = {
         'p: columns of the table; 0 stands for 1\n'
         'flagsIn: in, n flags, one for each row; only rows with -1 are looked at\n'
         'flagsOut: inout, n flags, one for each row: -1 for one that has nothing but missing cells; the others stay\n'
+        'returns 0\n'
+    )),
+    'VB_M_Binarize': ('int', (
+        ('x', 'double*', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (), 0),
+        ('result', 'double*', 'out', False, (('n', 'p', None),), 0),
+    ), (
+        'int VB_M_Binarize(const double* x, int n, int p, double* result);\n'
+        '\n'
+        '0 for a number closer to 0 than the machine epsilon, 1 for any other. A missing number stays missing.\n'
+        '\n'
+        'x: in, n by p numbers\n'
+        'n: number of rows\n'
+        'p: number of columns\n'
+        'result: out, n by p numbers; may be x\n'
+        'returns 0\n'
+    )),
+    'VB_M_Binarize2': ('int', (
+        ('x', 'double*', 'inout', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (), 0),
+    ), (
+        'int VB_M_Binarize2(double* x, int n, int p);\n'
+        '\n'
+        '0 for a number closer to 0 than the machine epsilon, 1 for any other, in place. A missing number becomes 1.\n'
+        '\n'
+        'x: inout, n by p numbers\n'
+        'n: number of rows\n'
+        'p: number of columns\n'
+        'returns 0\n'
+    )),
+    'VB_M_Binarize2SPV': ('int', (
+        ('x', 'Hostarray**', 'inout', False, (), 0),
+        ('p', 'int', '', False, (), 0),
+        ('n', 'int', '', False, (), 0),
+    ), (
+        'int VB_M_Binarize2SPV(Hostarray** x, int p, int n);\n'
+        '\n'
+        'The same of a chunked table.\n'
+        '\n'
+        'x: inout, p columns of n numbers\n'
+        'p: number of columns\n'
+        'n: number of rows\n'
         'returns 0\n'
     )),
     'VB_M_Center': ('int', (
@@ -6058,6 +6348,29 @@ FUNCTIONS = {
         'x: in, n by n numbers\n'
         'n: order\n'
         'returns -1 when all its cells exactly equal the first, and for n below 2; otherwise 0\n'
+    )),
+    'VB_M_IsDisjTable': ('short int', (
+        ('x', 'double*', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (), 0),
+        ('rowFlags', 'short int*', 'in', True, (('n', '1', None),), 0),
+        ('rowSum', 'int*', 'out', False, (('1', '1', None),), 0),
+    ), (
+        'short int VB_M_IsDisjTable(const double* x, int n, int p, const short int* rowFlags, int* rowSum);\n'
+        '\n'
+        'Whether a table looks like a disjunctive one.\n'
+        '\n'
+        'The reference row is the first one, or the last of the run of flagged rows that starts with the second. The\n'
+        'rows after it that are not flagged are compared with it: their sums must lie within 1e-12 of its truncated\n'
+        "sum, and the last column must have a value that differs from the reference row's. The other columns have no\n"
+        'influence, nor has the first flag.\n'
+        '\n'
+        'x: in, n by p numbers\n'
+        'n: number of rows\n'
+        'p: number of columns\n'
+        'rowFlags: in, n flags: -1 moves the reference row, any but 0 leaves a later row out. Null: no row is flagged\n'
+        'rowSum: out, one integer: the sum of the reference row, truncated\n'
+        'returns -1 for a disjunctive table, and for one without columns; otherwise 0\n'
     )),
     'VB_M_IsIn01': ('short int', (
         ('x', 'double*', 'in', False, (('rows', 'cols', None),), 0),
@@ -7655,6 +7968,50 @@ FUNCTIONS = {
         'rows: rows of the table\n'
         'cols: columns of the table\n'
         'val: what a missing number becomes\n'
+        'returns 0\n'
+    )),
+    'VB_M_ReplaceStrByCodes': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (('number', '1', None),), 0),
+        ('categoryCounts', 'int*', 'in', False, (('p', '1', None),), 0),
+        ('categories', 'OLECHAR**', 'in', False, (('p', 'max(categoryCounts)', None),), 0),
+        ('rowFlags', 'short int*', 'in', False, (('n', '1', None),), 0),
+        ('firstCode', 'int', '', False, (), 0),
+        ('result', 'double*', 'out', False, (('n', 'p', None),), 0),
+    ), (
+        'int VB_M_ReplaceStrByCodes(OLECHAR* const* data, int n, int p, const int* categoryCounts, OLECHAR* const* categories, const short int* rowFlags, int firstCode, double* result);\n'
+        '\n'
+        'The code of each text: `firstCode` for the first category of its variable, and one more for each next one.\n'
+        'Of equal names the first counts. A text that is no category, and a flagged row, gets the missing number.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of variables\n'
+        'categoryCounts: in, p integers: the number of categories of each variable\n'
+        'categories: in, p by max(categoryCounts) texts: their names, a row for each variable\n'
+        'rowFlags: in, n flags: not 0 leaves a row out\n'
+        'firstCode: the code of a first category\n'
+        'result: out, n by p numbers: the codes\n'
+        'returns 0\n'
+    )),
+    'VB_M_ReplaceStrByCodesBinary': ('int', (
+        ('data', 'OLECHAR**', 'in', False, (('n', 'p', None),), 0),
+        ('n', 'int', '', False, (), 0),
+        ('p', 'int', '', False, (), 0),
+        ('rowFlags', 'short int*', 'in', True, (('n', '1', None),), 0),
+        ('result', 'double*', 'out', False, (('n', 'p', None),), 0),
+    ), (
+        'int VB_M_ReplaceStrByCodesBinary(OLECHAR* const* data, int n, int p, const short int* rowFlags, double* result);\n'
+        '\n'
+        'Codes from 0 on in the order in which texts first appear in the whole table, column after column. The empty\n'
+        'text has a code like any other.\n'
+        '\n'
+        'data: in, n by p texts\n'
+        'n: number of rows\n'
+        'p: number of columns\n'
+        'rowFlags: in, n flags: not 0 gives a row missing numbers, and its texts no code. Null: no row is flagged\n'
+        'result: out, n by p numbers: the codes\n'
         'returns 0\n'
     )),
     'VB_M_RescaleByVect': ('int', (

@@ -1,0 +1,35 @@
+/**
+ * @file
+ * The categories of a caller's variables, as several flat functions take them.
+ */
+#ifndef KORVEL_FRAMES_KNOWN_CATEGORIES_H
+#define KORVEL_FRAMES_KNOWN_CATEGORIES_H
+
+#include "frames/frame.h"
+
+#include <algorithm>
+
+namespace korvel::frame
+{
+
+/** The number of categories of each of `p` variables, and their names in a table as wide as the largest
+ * number. */
+struct known_categories {
+    matrix<int> counts;
+    matrix<text> names;
+
+    known_categories(const int* categoryCounts, OLECHAR* const* categories, int p)
+        : counts(borrow(categoryCounts, p)), names(readTexts(categories, p, largest(counts)))
+    {
+    }
+
+private:
+    static int largest(const matrix<int>& counts)
+    {
+        return counts.nbElem == 0 ? 0 : *std::max_element(counts.data, counts.data + counts.nbElem);
+    }
+};
+
+} // namespace korvel::frame
+
+#endif
