@@ -135,6 +135,18 @@ class Guide(unittest.TestCase):
         self.assertGreater(len(fails), 20)
         self.assertEqual(sorted(told), sorted(fails))
 
+    def test_layouts_are_those_of_the_header(self):
+        header = (ROOT / "include/korvelmathtools/containers/caller_records.h").read_text(encoding="ascii")
+        page = (GUIDE / "layouts.md").read_text(encoding="utf-8")
+        records = re.findall(r"KORVEL_SIZE\((\w+), (\d+)\);", header)
+        self.assertEqual(len(records), 4)
+        for record, size in records:
+            section = re.search(rf"(?ms)^## [^\n]*: {record}$(.*?)^## ", page).group(1)
+            self.assertRegex(section, rf"\b{size} bytes\b", record)
+            fields = re.findall(rf"KORVEL_FIELD_AT\({record}, (\w+), (\d+), (\d+)\);", header)
+            shown = re.findall(r"(?m)^\| (\d+) \| (\d+) \| [^|]+ \| `(\w+)`", section)
+            self.assertEqual(shown, [(offset, bytes_, field) for field, offset, bytes_ in fields], record)
+
     def test_tasks(self):
         tasks = GUIDE / "tasks.md"
         rows = re.findall(r"(?m)^\| ([^|]+) \| (\[[^|]+) \|$", tasks.read_text(encoding="utf-8")) if tasks.is_file() else []

@@ -40,7 +40,7 @@ class Page:
             if name in self.functions and name.lower() == anchor:
                 return f"[{name}](@ref {name})"
         elif where == self.root / "docs" / REFERENCE:
-            return f"[{text}](files.html)"
+            return f"[{text}](@ref page_letters)"
         elif where in self.pages and not anchor:
             return f"[{text}](@ref {page_label(where)})"
         elif where.is_file() and (self.root / HEADERS) in where.parents:
