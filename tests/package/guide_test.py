@@ -128,7 +128,7 @@ class Guide(unittest.TestCase):
             result = " ".join(one_line(tag.text) for tag in function.doc.tagged("return"))
             by_result = function.result == "int" and re.match(r"0(?:; -?\d|, or -\d| when the table is complete)|1 when every free|"
                                                               r"the rank;", result)
-            by_argument = any(p.name in ("status", "error") and p.direction in ("out", "inout")
+            by_argument = any(p.name in ("status", "error", "success") and p.direction in ("out", "inout")
                               for p in function.parameters)
             if by_result or by_argument:
                 fails.append(name)
