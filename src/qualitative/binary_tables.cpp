@@ -137,7 +137,8 @@ short int M_IsDisjTable(matrix<double>* x, int n, int p, short int* rowFlags, in
                     if (std::abs(rowSumOf(cells, i, p) - rowSum) > 1e-12) {
                         return 0;
                     }
-                    lastVaries = lastVaries || cells.get(i, p - 1) != cells.get(reference, p - 1);
+                    lastVaries =
+                        lastVaries || std::abs(cells.get(i, p - 1) - cells.get(reference, p - 1)) > epsilon;
                 }
                 return korvel::flagOf(lastVaries);
             },

@@ -77,7 +77,9 @@ void M_InfoQualiValid(matrix<text>* data, int n, int p, int width, matrix<int>* 
     for (int j = 0; j < p; ++j) {
         indexNames(row_slots<const text>(*categories, j), (*categoryCounts)[j], known);
         const row_slots<double> sums(*counts, j);
-        const auto tally = [&](int i, int k) { addTo(sums, k, std::as_const(*weights)[i]); };
+        const auto tally = [&](int i, int k) {
+            addTo(sums, k, weights != nullptr ? std::as_const(*weights)[i] : 1.0);
+        };
         if (!countColumn(n, korvel::reading(*data).column(j, n), known, unknown_category::ends, tally)) {
             *newCategoryFound = -1;
             return;

@@ -16,10 +16,17 @@ struct coding_rule {
     int coding;
     int firstCategoryOption;
 
-    /** Whether a row of the category at position c, of the variable that starts in column `start`, has 1
-     * there. */
-    [[nodiscard]] bool marks(int c, int start) const
+    /**
+     * Whether a row of the category at position c, of the variable that starts in column `start` and has
+     * `count` categories, has 1 there. Where two categories are told apart by the -1 of the last one, neither
+     * has.
+     */
+    [[nodiscard]] bool marks(int c, int start, int count) const
     {
+        const bool noFirst = firstCategoryOption != 1 && firstCategoryOption != 2;
+        if (coding == 2 && count == 2 && noFirst) {
+            return false;
+        }
         return c > 0 || coding == 0 || firstCategoryOption == 2 || (firstCategoryOption == 1 && start == 0);
     }
 
@@ -49,7 +56,7 @@ void codeVariable(int n, const Column& column, int count, const Names& names, co
         for (int c = 0; c < count; ++c) {
             if (cell.empty()) {
                 result.set(i, start + c, MISSING_DBL);
-            } else if (rule.marks(c, start) && cell == names.get(c)) {
+            } else if (rule.marks(c, start, count) && cell == names.get(c)) {
                 result.set(i, start + c, 1.0);
             } else if (isLast && c < last && rule.marksLast()) {
                 result.set(i, start + c, rule.ofLast(c, last, frequencies));

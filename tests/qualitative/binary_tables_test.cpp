@@ -95,6 +95,14 @@ TEST(DisjunctiveTest, ComparesSumsAndTheLastColumn)
     EXPECT_EQ(isDisjunctive(1, {1, 0}, {}), (outcome{0, 1}));
 }
 
+TEST(DisjunctiveTest, PassesOverDifferencesWithinTheTolerance)
+{
+    EXPECT_EQ(isDisjunctive(2, {0.7, 0.7, 0.3, 0.3 + eps}, {}), (outcome{0, 1}));
+    EXPECT_EQ(isDisjunctive(2, {0.7, 0.7, 0.3, 0.3 + 2 * eps}, {}), (outcome{-1, 1}));
+    EXPECT_EQ(isDisjunctive(2, {1, 1, 0, notANumber}, {}), (outcome{0, 1})) << "no NaN is a difference";
+    EXPECT_EQ(isDisjunctive(2, {-1.5, -1.5, 0, 0.5}, {}), (outcome{-1, -1})) << "truncated towards 0";
+}
+
 TEST(DisjunctiveTest, ReadsFlagsFromTheSecondOn)
 {
     const doubles cells{1, 9, 0, 1, 0, 9, 1, 0};

@@ -64,6 +64,9 @@ TEST(CategoryValidation, AddsWeightsToKnownCategories)
     EXPECT_EQ(flag, 0);
     EXPECT_EQ(rowOf(counts, 0), (doubles{0, 5}));
     EXPECT_EQ(rowOf(counts, 1), (doubles{5, 2}));
+    M_InfoQualiValid(&data, 3, 2, 2, &known, &names, &counts, &flag, nullptr);
+    EXPECT_EQ(rowOf(counts, 0), (doubles{0, 2})) << "without weights all are 1";
+    EXPECT_EQ(rowOf(counts, 1), (doubles{2, 1}));
 }
 
 TEST(CategoryValidation, EndsAtAnUnknownCategory)

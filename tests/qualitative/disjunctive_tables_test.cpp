@@ -76,7 +76,14 @@ TEST(DisjunctiveTable, OfTwoCategoriesWithoutTheFirst)
 {
     const doubles rows = table({u"a", u"a"}, {u"p", u"q"}, 2, 0);
     EXPECT_EQ((doubles{rows[6], rows[8]}), (doubles{0, 0})) << "a row in the first category";
-    EXPECT_EQ((doubles{rows[7], rows[9]}), (doubles{-1, 1})) << "one in the last has its own column too";
+    EXPECT_EQ((doubles{rows[7], rows[9]}), (doubles{-1, 0})) << "the -1 alone tells one in the last";
+    const doubles withFirst = table({u"a", u"a"}, {u"p", u"q"}, 2, 2);
+    EXPECT_EQ((doubles{withFirst[6], withFirst[8]}), (doubles{1, 0}));
+    EXPECT_EQ((doubles{withFirst[7], withFirst[9]}), (doubles{-1, 1}));
+    const doubles ofFirstVariable = table({u"a", u"a"}, {u"p", u"q"}, 2, 1);
+    EXPECT_EQ((doubles{ofFirstVariable[7], ofFirstVariable[9]}), (doubles{-1, 1}));
+    const doubles withoutMinus = table({u"a", u"a"}, {u"p", u"q"}, 1, 0);
+    EXPECT_EQ((doubles{withoutMinus[7], withoutMinus[9]}), (doubles{0, 1})) << "another coding";
 }
 
 TEST(DisjunctiveTable, OfAMissingOrUnknownCell)

@@ -67,6 +67,7 @@ inline void disjunctiveTable(const matrix<text>& data, int n, int p, const matri
     int b = 0;
     for (int j = 0; j < p; ++j) {
         const int k = counts[j];
+        const bool onlyMinus = coding == 2 && k == 2 && option != 1 && option != 2;
         for (int i = 0; i < n; ++i) {
             const text cell = data.getElement(i, j);
             for (int c = 1; c <= k; ++c) {
@@ -74,7 +75,7 @@ inline void disjunctiveTable(const matrix<text>& data, int n, int p, const matri
                     result.setElement(i, b + c - 1, MISSING_DBL);
                     continue;
                 }
-                if (cell == names.getElement(j, c - 1)) {
+                if (cell == names.getElement(j, c - 1) && !onlyMinus) {
                     if (c >= 2 || coding == 0 || option == 2 || (option == 1 && b == 0)) {
                         result.setElement(i, b + c - 1, 1.0);
                         continue;

@@ -24,7 +24,7 @@
  * @param categories       their names, `p` by `width`
  * @param counts           receives the sum of the weights of each, `p` by `width`; cleared first
  * @param newCategoryFound receives -1 when a cell is no known category, otherwise 0
- * @param weights          `n` weights
+ * @param weights          `n` weights; null: all are 1
  */
 KORVEL_API void M_InfoQualiValid(matrix<text>* data, int n, int p, int width, matrix<int>* categoryCounts,
                                  matrix<text>* categories, matrix<double>* counts,

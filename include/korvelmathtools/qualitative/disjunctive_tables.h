@@ -14,7 +14,8 @@
  *
  * With a coding other than 0 the column of the first category of a variable has its 1 only where the
  * first-category option says so: 1 for the variable that starts in the first column, 2 for all variables, any
- * other value for none. A cell that is no known category has 0 in all columns.
+ * other value for none. With coding 2 and any other value, a variable of two categories has no 1 at all: the
+ * -1 in its first column tells the last category. A cell that is no known category has 0 in all columns.
  */
 #ifndef KORVEL_QUALITATIVE_DISJUNCTIVE_TABLES_H
 #define KORVEL_QUALITATIVE_DISJUNCTIVE_TABLES_H
