@@ -19,14 +19,18 @@ struct known_categories {
     matrix<text> names;
 
     known_categories(const int* categoryCounts, OLECHAR* const* categories, int p)
-        : counts(borrow(categoryCounts, p)), names(readTexts(categories, p, largest(counts)))
+        : counts(borrow(categoryCounts, p)), names(readTexts(categories, p, largest(categoryCounts, p)))
     {
     }
 
 private:
-    static int largest(const matrix<int>& counts)
+    static int largest(const int* counts, int p)
     {
-        return counts.nbElem == 0 ? 0 : *std::max_element(counts.data, counts.data + counts.nbElem);
+        int most = 0;
+        for (int j = 0; j < p; ++j) {
+            most = std::max(most, counts[j]);
+        }
+        return most;
     }
 };
 

@@ -1,54 +1,23 @@
 #include "missing/column_modes.h"
 
-#include <cstddef>
-#include <string_view>
-#include <unordered_map>
+#include "qualitative/category_info.h"
+
+#include <algorithm>
 
 namespace korvel
 {
 
-namespace
+std::vector<text> modesOfColumns(const matrix<text>& table, int rows, int cols, matrix<double>* weights)
 {
-
-/** A text with the sum of the weights of its rows. */
-struct weighted_category {
-    const text* name;
-    double frequency;
-};
-
-text modeOfColumn(const matrix<text>& table, int rows, int j, const matrix<double>* weights)
-{
-    std::vector<weighted_category> categories;
-    std::unordered_map<std::u16string_view, std::size_t> places;
-    for (int i = 0; i < rows; ++i) {
-        const text& cell = table.getElement(i, j);
-        if (cell.empty()) {
-            continue;
-        }
-        const double weight = weights != nullptr ? (*weights)[i] : 1.0;
-        const auto [place, isNew] = places.try_emplace(cell, categories.size());
-        if (isNew) {
-            categories.push_back({&cell, weight});
-        } else {
-            categories[place->second].frequency += weight;
-        }
-    }
-    const weighted_category* mode = nullptr;
-    for (const weighted_category& category : categories) {
-        if (mode == nullptr || category.frequency > mode->frequency) {
-            mode = &category;
-        }
-    }
-    return mode != nullptr ? *mode->name : text();
-}
-
-} // namespace
-
-std::vector<text> modesOfColumns(const matrix<text>& table, int rows, int cols, const matrix<double>* weights)
-{
+    matrix<double> ones(weights == nullptr ? std::max(rows, 0) : 0, 1, 1.0);
     std::vector<text> modes;
-    for (int j = 0; j < cols; ++j) {
-        modes.push_back(modeOfColumn(table, rows, j, weights));
+    for (int j = 1; j <= cols; ++j) {
+        matrix<text> categories(std::max(rows, 1), 1, text());
+        matrix<double> frequencies(std::max(rows, 1), 1, 0.0);
+        int count = 0;
+        double frequency = 0.0;
+        M_InfoQuali2(table, rows, j, count, modes.emplace_back(), frequency, categories, frequencies,
+                     weights != nullptr ? *weights : ones, &count, 0);
     }
     return modes;
 }

@@ -18,7 +18,7 @@ namespace korvel
  * @param weights null: all are 1.0
  */
 [[nodiscard]] std::vector<text> modesOfColumns(const matrix<text>& table, int rows, int cols,
-                                               const matrix<double>* weights);
+                                               matrix<double>* weights);
 
 } // namespace korvel
 

@@ -5,6 +5,8 @@
 #include "qualitative/text_index.h"
 #include "statistics/stand_ins.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace
@@ -48,6 +50,14 @@ void replaceByCodes(const From& from, int n, int p, const matrix<int>& categoryC
     }
 }
 
+/** How many of `p` columns both records have. */
+template <class From, class To>
+int sharedColumns(int p, const cST_MVect<From>& from, const cST_MVect<To>& to)
+{
+    return static_cast<int>(
+        std::min({static_cast<std::size_t>(std::max(p, 0)), from.Vectors.size(), to.Vectors.size()}));
+}
+
 } // namespace
 
 void M_ReplaceStrByCodes(matrix<text>& data, int n, int p, matrix<int>& categoryCounts,
@@ -62,8 +72,9 @@ void M_ReplaceStrByCodes(cST_MVect<text>& data, int n, int p, matrix<int>& categ
                          matrix<text>& categories, matrix<short int>& rowFlags, int firstCode,
                          cST_MVect<double>& result)
 {
-    replaceByCodes<no_code::is_missing>(korvel::reading(data), n, p, categoryCounts, categories,
-                                        std::as_const(rowFlags), firstCode, korvel::writing(result));
+    replaceByCodes<no_code::is_missing>(korvel::reading(data), n, sharedColumns(p, data, result),
+                                        categoryCounts, categories, std::as_const(rowFlags), firstCode,
+                                        korvel::writing(result));
 }
 
 void M_ReplaceStrByCodesSPV(matrix<text>& data, int n, int p, matrix<int>& categoryCounts,
@@ -84,8 +95,9 @@ void M_ReplaceCatByCodes(matrix<text>& data, int n, int p, matrix<int>& category
 void M_ReplaceCatByCodes(cST_MVect<text>& data, int n, int p, matrix<int>& categoryCounts,
                          matrix<text>& categories, cST_MVect<double>& result)
 {
-    replaceByCodes<no_code::leaves_the_cell>(korvel::reading(data), n, p, categoryCounts, categories,
-                                             korvel::no_flags{}, 1, korvel::writing(result));
+    replaceByCodes<no_code::leaves_the_cell>(korvel::reading(data), n, sharedColumns(p, data, result),
+                                             categoryCounts, categories, korvel::no_flags{}, 1,
+                                             korvel::writing(result));
 }
 
 void M_ReplaceStrByCodesBinary(matrix<text>* data, int n, int p, short int* rowFlags, matrix<double>*& result)
@@ -124,7 +136,7 @@ void M_RecodeDataWithCodes_ST(cST_MVect<text>& data, int n, int p, cST_MVect<tex
     indexFirst(columns[0], codeCount, index);
     const auto replacements = columns[1];
     korvel::mapCells(
-        n, p,
+        n, sharedColumns(p, data, result),
         [&](const text& cell) {
             const int k = index.find(cell);
             return k >= 0 ? replacements.get(k) : cell;

@@ -56,7 +56,7 @@ TEST(DisjunctiveTable, MarksTheCategoryOfEachRow)
 TEST(DisjunctiveTable, CodesTheLastCategory)
 {
     EXPECT_EQ(row(u"c", u"q", 1, 0), (doubles{0, 0, 1, 0, 1}));
-    EXPECT_EQ(row(u"c", u"q", 2, 0), (doubles{-1, -1, 1, -1, 1}));
+    EXPECT_EQ(row(u"c", u"q", 2, 0), (doubles{-1, -1, 1, -1, 0}));
     EXPECT_EQ(row(u"c", u"q", 3, 0), (doubles{-0.25, -0.5, 1, -0.75, 1}));
     EXPECT_EQ(row(u"b", u"p", 2, 2), (doubles{0, 1, 0, 1, 0})) << "not the others";
     EXPECT_EQ(row(u"c", u"q", 4, 0), (doubles{0, 0, 1, 0, 1})) << "another coding writes nothing";

@@ -3,6 +3,7 @@
 #include "support/guarded.h"
 
 #include <gtest/gtest.h>
+#include <new>
 
 using namespace korvel::test;
 
@@ -59,6 +60,53 @@ TEST(FlatCategoryCodes, OfATableInEveryForm)
                                          5, chunks.argument()),
               0);
     EXPECT_EQ(chunks.values(), (caller_columns::columns{{6, missing, missing}, {5, 5, missing}}));
+    EXPECT_TRUE(x.memory.guardsIntact());
+}
+
+TEST(FlatCategoryCodes, OfNoVariable)
+{
+    known_texts x;
+    guarded<double> dense(doubles(6, 7.0));
+    ST_MVect data = x.record();
+    ST_MVect result = x.result();
+    caller_columns chunks({{7, 7, 7}, {7, 7, 7}});
+    const auto callAll = [&](int p, auto call) {
+        call([&] {
+            VB_M_ReplaceStrByCodes(x.data.data(), 3, p, x.counts.data(), x.names.data(), x.flags.data(), 5,
+                                   dense.data());
+        });
+        call([&] {
+            Cpp_M_ReplaceCatByCodes(x.data.data(), 3, p, x.counts.data(), x.names.data(), dense.data());
+        });
+        call([&] {
+            Cpp_M_ReplaceStrByCodes_ST(&data, 3, p, x.counts.data(), x.names.data(), x.flags.data(), 5,
+                                       &result);
+        });
+        call([&] { Cpp_M_ReplaceCatByCodes_ST(&data, 3, p, x.counts.data(), x.names.data(), &result); });
+        call([&] {
+            Cpp_M_ReplaceStrByCodesSPV(x.data.data(), 3, p, x.counts.data(), x.names.data(), x.flags.data(),
+                                       5, chunks.argument());
+        });
+    };
+    callAll(0, [](auto replace) { replace(); });
+    // No copy of the names can be made.
+    callAll(-1, [](auto replace) { EXPECT_THROW(replace(), std::bad_alloc); });
+    EXPECT_EQ(valuesOf(dense), doubles(6, 7.0));
+    EXPECT_EQ(columnIn(result, 0), (doubles{7, 7, 7}));
+    EXPECT_EQ(chunks.values(), (caller_columns::columns{{7, 7, 7}, {7, 7, 7}}));
+}
+
+TEST(FlatCategoryCodes, OfMoreVariablesThanTheRecordsHave)
+{
+    known_texts x;
+    guarded<int> counts{2, 1, 1};
+    text_block names({u"a", u"x", u"z", u"b", u"", u""});
+    ST_MVect data = x.record();
+    ST_MVect result = x.result();
+    Cpp_M_ReplaceStrByCodes_ST(&data, 3, 3, counts.data(), names.data(), x.flags.data(), 5, &result);
+    EXPECT_EQ(columnIn(result, 1), (doubles{5, 5, missing}));
+    Cpp_M_ReplaceCatByCodes_ST(&data, 3, 3, counts.data(), names.data(), &result);
+    EXPECT_EQ(columnIn(result, 0), (doubles{2, missing, 1}));
     EXPECT_TRUE(x.memory.guardsIntact());
 }
 
