@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 
 namespace report
@@ -93,29 +92,21 @@ number_column storeColumn(const std::string& name, const std::vector<parsed_numb
 
 } // namespace
 
-text_column::text_column(std::string columnName, std::size_t rows) : name(std::move(columnName)), block(rows)
+text_block::~text_block()
 {
+    std::for_each(texts_.begin(), texts_.end(), SysFreeString);
 }
 
 text_column::text_column(std::string columnName, const std::vector<std::string>& cells)
-    : text_column(std::move(columnName), cells.size())
+    : name(std::move(columnName)), block(cells.size())
 {
-    std::unordered_set<std::string_view> seen;
     for (std::size_t i = 0; i < cells.size(); ++i) {
         if (isMissing(cells[i])) {
             continue;
         }
         block[i] = toBstr(cells[i]).release();
         ++present;
-        if (seen.insert(cells[i]).second) {
-            categories.push_back(cells[i]);
-        }
     }
-}
-
-text_column::~text_column()
-{
-    std::for_each(block.begin(), block.end(), SysFreeString);
 }
 
 data_set::data_set(const csv_table& table)

@@ -26,25 +26,33 @@ struct number_column {
     int decimals = 0; ///< Most digits after the point in any cell.
 };
 
-/** A column of texts, as a block of BSTR that this object owns; a missing text is empty. */
-class text_column
+/** An array of BSTR, which this object owns: at first all are empty. */
+class text_block
 {
 public:
-    text_column(std::string name, const std::vector<std::string>& cells);
-    text_column(text_column&& other) noexcept = default;
-    text_column(const text_column&) = delete;
-    text_column& operator=(text_column&&) = delete;
-    text_column& operator=(const text_column&) = delete;
-    ~text_column();
+    explicit text_block(std::size_t size) : texts_(size) {}
+    text_block(text_block&& other) noexcept = default;
+    text_block(const text_block&) = delete;
+    text_block& operator=(text_block&&) = delete;
+    text_block& operator=(const text_block&) = delete;
+    ~text_block();
 
-    std::string name;
-    std::vector<OLECHAR*> block; ///< One BSTR for each row.
-    std::vector<std::string>
-        categories;  ///< The different texts, but for the empty one, in order of appearance.
-    int present = 0; ///< Texts that are not missing.
+    [[nodiscard]] OLECHAR** data() { return texts_.data(); }
+    [[nodiscard]] OLECHAR* const* data() const { return texts_.data(); }
+    OLECHAR*& operator[](std::size_t k) { return texts_[k]; }
+    OLECHAR* operator[](std::size_t k) const { return texts_[k]; }
 
 private:
-    text_column(std::string name, std::size_t rows);
+    std::vector<OLECHAR*> texts_;
+};
+
+/** A column of texts; a missing text is empty. */
+struct text_column {
+    text_column(std::string name, const std::vector<std::string>& cells);
+
+    std::string name;
+    text_block block; ///< One text for each row.
+    int present = 0;  ///< Texts that are not missing; one at least.
 };
 
 /**

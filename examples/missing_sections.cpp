@@ -12,13 +12,6 @@ namespace report
 namespace
 {
 
-constexpr int shareDecimals = 1;
-
-std::string percent(int count, int all)
-{
-    return rounded(100.0 * count / all, shareDecimals);
-}
-
 // What is missing in one row, counted by the library in a copy of the row.
 int missingInRow(const data_set& data, int row)
 {
@@ -53,7 +46,7 @@ text_table missingColumns(data_set& data)
         {{"column", alignment::left}, {"missing", alignment::point}, {"% of rows", alignment::point}});
     const auto add = [&](const std::string& name, int missing) {
         if (missing > 0) {
-            table.add({shownName(name), shown(missing), percent(missing, data.rows)});
+            table.add({shownName(name), shown(missing), shownPercent(missing, data.rows)});
         }
     };
     for (const number_column& column : data.numberColumns) {
@@ -80,7 +73,7 @@ text_table missingRows(data_set& data)
     }
     for (const auto& [missing, rows] : rowsByCount) {
         const auto count = static_cast<int>(rows.size());
-        table.add({shown(missing), shown(count), percent(count, data.rows), listed(rows)});
+        table.add({shown(missing), shown(count), shownPercent(count, data.rows), listed(rows)});
     }
     return table;
 }

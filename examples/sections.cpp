@@ -15,7 +15,8 @@ std::span<const section> sections()
         section{"Principal components of the correlations, over the rows without missing numbers",
                 componentShares},
         section{"Loadings of the components that make up 90 %", componentLoadings},
-        section{"Texts", frequencies},
+        section{"Texts", texts},
+        section{"Categories, with their share of the texts that are not missing", categories},
         section{"Columns with missing cells", missingColumns},
         section{"Rows with missing cells", missingRows},
     };

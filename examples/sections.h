@@ -43,8 +43,11 @@ text_table componentShares(data_set& data);
 /** The correlations of the columns with the leading components. */
 text_table componentLoadings(data_set& data);
 
-/** The most frequent values of each column of texts. */
-text_table frequencies(data_set& data);
+/** How many categories each column of texts has, and the most frequent one. */
+text_table texts(data_set& data);
+
+/** The most frequent categories of each column of texts; a column without equal texts is left out. */
+text_table categories(data_set& data);
 
 /** How many cells each column misses; a column that misses none is left out. */
 text_table missingColumns(data_set& data);

@@ -129,6 +129,11 @@ std::string shown(int count)
     return std::to_string(count);
 }
 
+std::string shownPercent(int count, int all)
+{
+    return rounded(100.0 * count / all, 1);
+}
+
 std::string shownName(const std::string& name)
 {
     constexpr int widest = 24;

@@ -57,6 +57,9 @@ std::string rounded(double number, int decimals);
 
 std::string shown(int count);
 
+/** What percentage of `all` a count is. */
+std::string shownPercent(int count, int all);
+
 /** The name of a column, cut to a width that leaves room for figures. */
 std::string shownName(const std::string& name);
 

@@ -55,6 +55,27 @@ bool isUtf8(std::string_view text)
     return true;
 }
 
+void append(std::string& utf8, char32_t character)
+{
+    const auto add = [&utf8](char32_t byte) { utf8 += static_cast<char>(static_cast<unsigned char>(byte)); };
+    const auto addLast = [&add](char32_t bits) { add(0x80U | (bits & 0x3FU)); };
+    if (character < 0x80) {
+        add(character);
+    } else if (character < 0x800) {
+        add(0xC0U | (character >> 6U));
+        addLast(character);
+    } else if (character < 0x10000) {
+        add(0xE0U | (character >> 12U));
+        addLast(character >> 6U);
+        addLast(character);
+    } else {
+        add(0xF0U | (character >> 18U));
+        addLast(character >> 12U);
+        addLast(character >> 6U);
+        addLast(character);
+    }
+}
+
 struct range {
     char32_t first;
     char32_t last;
@@ -102,13 +123,7 @@ std::string asUtf8(std::string bytes)
     }
     std::string converted;
     for (const char byte : bytes) {
-        const auto c = static_cast<unsigned char>(byte);
-        if (c < 0x80) {
-            converted += byte;
-        } else {
-            converted += static_cast<char>(0xC0U | (c >> 6U));
-            converted += static_cast<char>(0x80U | (c & 0x3FU));
-        }
+        append(converted, static_cast<unsigned char>(byte));
     }
     return converted;
 }
@@ -131,6 +146,22 @@ bstr_pointer toBstr(std::string_view utf8)
         throw std::bad_alloc();
     }
     return text;
+}
+
+std::string toUtf8(OLECHAR* bstr)
+{
+    std::string utf8;
+    char32_t leading = 0;
+    for (UINT k = 0; k < SysStringLen(bstr); ++k) {
+        const char32_t unit = bstr[k];
+        if (unit >= 0xD800 && unit < 0xDC00) {
+            leading = unit - 0xD7C0;
+        } else {
+            append(utf8, leading == 0 ? unit : (leading << 10U) | (unit & 0x3FFU));
+            leading = 0;
+        }
+    }
+    return utf8;
 }
 
 int displayWidth(std::string_view utf8)

@@ -26,6 +26,9 @@ using bstr_pointer = std::unique_ptr<OLECHAR, bstr_free>;
 /** A BSTR with the text in UTF-16. */
 bstr_pointer toBstr(std::string_view utf8);
 
+/** The text of a BSTR, which holds UTF-16. */
+std::string toUtf8(OLECHAR* bstr);
+
 /** Columns that a text takes on a terminal: none for a combining mark, two for an East Asian wide character.
  */
 int displayWidth(std::string_view utf8);
