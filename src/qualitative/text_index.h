@@ -120,13 +120,19 @@ private:
 
     static constexpr std::size_t smallest = 64; ///< As every size, a power of two.
 
+    /** The comparison of the standard library looks at one unit after the other. */
+    static bool areEqual(const text& a, const text& b)
+    {
+        return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+    }
+
     /** Where the text stands, or the empty place where it belongs. */
     [[nodiscard]] std::size_t placeOf(const hashed_text& key) const
     {
         const std::size_t last = places_.size() - 1;
         std::size_t k = static_cast<std::size_t>(key.hash()) & last;
         while (places_[k].key != nullptr &&
-               (places_[k].hash != key.hash() || *places_[k].key != key.value())) {
+               (places_[k].hash != key.hash() || !areEqual(*places_[k].key, key.value()))) {
             k = (k + 1) & last;
         }
         return k;
