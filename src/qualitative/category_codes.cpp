@@ -25,7 +25,7 @@ void indexFirst(const Names& names, int count, korvel::text_index& index)
 }
 
 /** What becomes of a row that is left out, and of a cell that is no category. */
-enum class no_code { is_missing, leaves_the_cell };
+enum class no_code { isMissing, leavesTheCell };
 
 /** The codes of each variable: `firstCode` for its first category, and one more for each next one. */
 template <no_code rule, class From, class Flags, class To>
@@ -41,7 +41,7 @@ void replaceByCodes(const From& from, int n, int p, const matrix<int>& categoryC
                     const int k = rowFlags[i] == 0 ? index.find(cells[i]) : -1;
                     if (k >= 0) {
                         codes.set(i, static_cast<double>(firstCode) + k);
-                    } else if (rule == no_code::is_missing) {
+                    } else if (rule == no_code::isMissing) {
                         codes.set(i, MISSING_DBL);
                     }
                 }
@@ -64,40 +64,40 @@ void M_ReplaceStrByCodes(matrix<text>& data, int n, int p, matrix<int>& category
                          matrix<text>& categories, matrix<short int>& rowFlags, int firstCode,
                          matrix<double>& result)
 {
-    replaceByCodes<no_code::is_missing>(korvel::reading(data), n, p, categoryCounts, categories,
-                                        std::as_const(rowFlags), firstCode, korvel::writing(result));
+    replaceByCodes<no_code::isMissing>(korvel::reading(data), n, p, categoryCounts, categories,
+                                       std::as_const(rowFlags), firstCode, korvel::writing(result));
 }
 
 void M_ReplaceStrByCodes(cST_MVect<text>& data, int n, int p, matrix<int>& categoryCounts,
                          matrix<text>& categories, matrix<short int>& rowFlags, int firstCode,
                          cST_MVect<double>& result)
 {
-    replaceByCodes<no_code::is_missing>(korvel::reading(data), n, sharedColumns(p, data, result),
-                                        categoryCounts, categories, std::as_const(rowFlags), firstCode,
-                                        korvel::writing(result));
+    replaceByCodes<no_code::isMissing>(korvel::reading(data), n, sharedColumns(p, data, result),
+                                       categoryCounts, categories, std::as_const(rowFlags), firstCode,
+                                       korvel::writing(result));
 }
 
 void M_ReplaceStrByCodesSPV(matrix<text>& data, int n, int p, matrix<int>& categoryCounts,
                             matrix<text>& categories, matrix<short int>& rowFlags, int firstCode,
                             matrix<double>** result)
 {
-    replaceByCodes<no_code::is_missing>(korvel::reading(data), n, p, categoryCounts, categories,
-                                        std::as_const(rowFlags), firstCode, korvel::writing(result));
+    replaceByCodes<no_code::isMissing>(korvel::reading(data), n, p, categoryCounts, categories,
+                                       std::as_const(rowFlags), firstCode, korvel::writing(result));
 }
 
 void M_ReplaceCatByCodes(matrix<text>& data, int n, int p, matrix<int>& categoryCounts,
                          matrix<text>& categories, matrix<double>& result)
 {
-    replaceByCodes<no_code::leaves_the_cell>(korvel::reading(data), n, p, categoryCounts, categories,
-                                             korvel::no_flags{}, 1, korvel::writing(result));
+    replaceByCodes<no_code::leavesTheCell>(korvel::reading(data), n, p, categoryCounts, categories,
+                                           korvel::no_flags{}, 1, korvel::writing(result));
 }
 
 void M_ReplaceCatByCodes(cST_MVect<text>& data, int n, int p, matrix<int>& categoryCounts,
                          matrix<text>& categories, cST_MVect<double>& result)
 {
-    replaceByCodes<no_code::leaves_the_cell>(korvel::reading(data), n, sharedColumns(p, data, result),
-                                             categoryCounts, categories, korvel::no_flags{}, 1,
-                                             korvel::writing(result));
+    replaceByCodes<no_code::leavesTheCell>(korvel::reading(data), n, sharedColumns(p, data, result),
+                                           categoryCounts, categories, korvel::no_flags{}, 1,
+                                           korvel::writing(result));
 }
 
 void M_ReplaceStrByCodesBinary(matrix<text>* data, int n, int p, short int* rowFlags, matrix<double>*& result)

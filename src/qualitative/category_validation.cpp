@@ -12,7 +12,7 @@ namespace
 using korvel::column_slots;
 using korvel::row_slots;
 
-enum class unknown_category { ends, is_passed_over };
+enum class unknown_category { ends, isPassedOver };
 
 /** The positions of known names by their text; of equal names it is the last one. */
 template <class Names>
@@ -60,7 +60,7 @@ void addTo(const Frequencies& frequencies, int k, double number)
 
 unknown_category ruleOf(const cST_QualiInfo& result)
 {
-    return result.IgnoreNewCategoryInPred == 0 ? unknown_category::ends : unknown_category::is_passed_over;
+    return result.IgnoreNewCategoryInPred == 0 ? unknown_category::ends : unknown_category::isPassedOver;
 }
 
 } // namespace
