@@ -108,6 +108,9 @@ line_kinds kindsOfEntries(matrixSparse& block, int size)
 void multiplyTransposedBlock(const matrix<double>& A, int n, int offset, const matrix<double>& block,
                              int size, matrix<double>& C)
 {
+    if (n < 1) {
+        return;
+    }
     const part_read left(A, 0, offset);
     const part_read right(block);
     const part_written result(C, 0, offset);
@@ -214,9 +217,6 @@ void M_BlockProductABck(matrixSparse* A, int n, matrix3D<matrixSparse>* blocks, 
 void M_BlockProductATrBck(matrix<double>* A, int n, matrix3D<matrix<double>>* blocks, int nBlocks,
                           matrix<int>* sizes, matrix<double>* C)
 {
-    if (n < 1) {
-        return;
-    }
     const block_list list(*blocks, nBlocks, *sizes);
     list.forEach([&](const matrix<double>& block, int size, int offset) {
         multiplyTransposedBlock(*A, n, offset, block, size, *C);

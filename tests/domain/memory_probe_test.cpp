@@ -10,6 +10,7 @@
 
 #if !defined(_WIN32)
 #include "support/address_space.h"
+#include "support/leaks.h"
 
 #include <cstdlib>
 #endif
@@ -109,6 +110,9 @@ namespace
 
 TEST(MemoryProbeDeathTest, NothingFitsWhereNothingIsLeft)
 {
+#if defined(KORVEL_TESTS_SEE_LEAKS)
+    GTEST_SKIP() << "the sanitizer needs address space of its own";
+#endif
     if (!addressSpaceCanBeLimited()) {
         GTEST_SKIP() << "the emulator ignores limits";
     }

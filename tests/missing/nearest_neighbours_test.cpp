@@ -205,11 +205,11 @@ TEST(NearestNeighbours, AreRowsWithoutFlag)
 
 TEST(NearestNeighbours, AreNoneAtAnInfiniteDistanceOrANaN)
 {
-    survey far{3, {0, -1, 0}, {infinite, 1, 2, 10, missing, 20}, {}, {}};
+    survey distant{3, {0, -1, 0}, {infinite, 1, 2, 10, missing, 20}, {}, {}};
     const numbers weights{0, 1, 1};
     const matrix<double> w(3, 1, const_cast<double*>(weights.data()), true);
-    far.fill(&w);
-    EXPECT_EQ(far.primary[4], 20);
+    distant.fill(&w);
+    EXPECT_EQ(distant.primary[4], 20);
     survey unknown{3, {0, -1, 0}, {notANumber, 1, 2, 10, missing, 20}, {}, {}};
     unknown.fill(&w);
     EXPECT_EQ(unknown.primary[4], 20) << "a NaN is a cell, but at no distance";
