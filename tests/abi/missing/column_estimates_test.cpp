@@ -1,6 +1,5 @@
 #include "containers/missing.h"
 #include "korvelmathtools/KORVELMathTools.h"
-#include "support/automation_watch.h"
 #include "support/caller_tables.h"
 #include "support/guarded.h"
 
@@ -62,7 +61,6 @@ TEST(FlatColumnEstimates, AreModes)
     text_block x(texts{u"a", u"b", u"b", u"", u"x", u"", u"", u"y"});
     guarded<double> w{5, 2, 2, 9};
     BSTR const kept = x.data()[0];
-    const automation_watch watch;
     EXPECT_EQ(VB_EstimateRowsWithMissingMode(x.data(), 4, 2, w.data()), 0);
     EXPECT_EQ(x.values(), (texts{u"a", u"b", u"b", u"a", u"x", u"y", u"y", u"y"}));
     EXPECT_EQ(x.data()[0], kept);
