@@ -104,6 +104,27 @@ struct tables {
     }
 };
 
+/** Fills dense tables, and copies of them by the twin. */
+void expectSameDense(tables& ours, const shape& size)
+{
+    matrix<double> plainA(ours.a);
+    matrix<double> plainB(ours.b);
+    matrix<text> plainC(ours.c);
+    const int n = size.rows;
+    const auto primary = numbersOf({&plainA, nullptr}, plainA, n, size.p, ours.weights);
+    const auto second = numbersOf({&plainB, nullptr}, plainB, n, size.q, ours.weights);
+    const auto third = textsOf(plainC, plainC, n, size.s, ours.weights);
+    korvel::reference::fillByNearest(primary, second, third, n, ours.flags.data());
+    auto* a = &ours.a;
+    auto* b = &ours.b;
+    auto* c = &ours.c;
+    EstimateRowsWithMissingNN(a, n, a, n, size.p, ours.flags.data(), b, b, size.q, c, c, size.s,
+                              &ours.weights);
+    EXPECT_TRUE(sameTable(ours.a, plainA));
+    EXPECT_TRUE(sameTable(ours.b, plainB));
+    EXPECT_TRUE(sameTexts(ours.c, plainC));
+}
+
 template <class Compare>
 void forRandomTablesOfEachShape(Compare compare)
 {
@@ -136,22 +157,7 @@ TEST(NearestNeighboursTwins, OfDenseTables)
 {
     forRandomTablesOfEachShape([](random_cells& cells, const draw_kind& kind, const shape& size) {
         tables ours(cells, kind, size);
-        matrix<double> plainA(ours.a);
-        matrix<double> plainB(ours.b);
-        matrix<text> plainC(ours.c);
-        const int n = size.rows;
-        const auto primary = numbersOf({&plainA, nullptr}, plainA, n, size.p, ours.weights);
-        const auto second = numbersOf({&plainB, nullptr}, plainB, n, size.q, ours.weights);
-        const auto third = textsOf(plainC, plainC, n, size.s, ours.weights);
-        korvel::reference::fillByNearest(primary, second, third, n, ours.flags.data());
-        auto* a = &ours.a;
-        auto* b = &ours.b;
-        auto* c = &ours.c;
-        EstimateRowsWithMissingNN(a, n, a, n, size.p, ours.flags.data(), b, b, size.q, c, c, size.s,
-                                  &ours.weights);
-        EXPECT_TRUE(sameTable(ours.a, plainA));
-        EXPECT_TRUE(sameTable(ours.b, plainB));
-        EXPECT_TRUE(sameTexts(ours.c, plainC));
+        expectSameDense(ours, size);
     });
 }
 
@@ -283,22 +289,7 @@ TEST(NearestNeighboursTwins, OfTablesOfManyCandidates)
             }
         }
         ours.a.oobValue = -1.0;
-        matrix<double> plainA(ours.a);
-        matrix<double> plainB(ours.b);
-        matrix<text> plainC(ours.c);
-        const int n = size.rows;
-        const auto primary = numbersOf({&plainA, nullptr}, plainA, n, size.p, ours.weights);
-        const auto second = numbersOf({&plainB, nullptr}, plainB, n, size.q, ours.weights);
-        const auto third = textsOf(plainC, plainC, n, size.s, ours.weights);
-        korvel::reference::fillByNearest(primary, second, third, n, ours.flags.data());
-        auto* a = &ours.a;
-        auto* b = &ours.b;
-        auto* c = &ours.c;
-        EstimateRowsWithMissingNN(a, n, a, n, size.p, ours.flags.data(), b, b, size.q, c, c, size.s,
-                                  &ours.weights);
-        EXPECT_TRUE(sameTable(ours.a, plainA));
-        EXPECT_TRUE(sameTable(ours.b, plainB));
-        EXPECT_TRUE(sameTexts(ours.c, plainC));
+        expectSameDense(ours, size);
     }
 }
 

@@ -195,6 +195,12 @@ TEST(ConvertBinary, CodesTheSmallerValueAsZero)
     EXPECT_EQ(converted({MISSING_DBL, 3, MISSING_DBL, 1}), (doubles{MISSING_DBL, 1, MISSING_DBL, 0}));
     EXPECT_EQ(converted({MISSING_DBL, 3}), (doubles{MISSING_DBL, 3})) << "the first is the last element";
     EXPECT_EQ(converted({MISSING_DBL, MISSING_DBL}), (doubles{MISSING_DBL, MISSING_DBL}));
+    EXPECT_EQ(converted({-infinite, 5, -infinite, 2}), (doubles{-infinite, 1, -infinite, 0}))
+        << "what is below a missing number is passed over";
+    const doubles behindNaN = converted({notANumber, belowSentinel, 5, notANumber, 2});
+    EXPECT_TRUE(std::isnan(behindNaN[0]) && std::isnan(behindNaN[3])) << "so is a NaN";
+    EXPECT_EQ((doubles{behindNaN[1], behindNaN[2], behindNaN[4]}), (doubles{belowSentinel, 1, 0}));
+    EXPECT_EQ(converted({infinite, 5}), (doubles{infinite, 0})) << "an infinity is not the same as itself";
     EXPECT_EQ(converted({3}), doubles{3});
     EXPECT_EQ(converted({}), doubles{});
 }

@@ -119,6 +119,37 @@ TEST(CategoryCodes, AreThoseOfThePlainSearchInEveryForm)
     }
 }
 
+// Cells behind the end of a result reach its spare slot alone.
+TEST(CategoryCodes, EndWithTheResult)
+{
+    cST_MVect<text> data(3, 1);
+    const std::vector<text> cells{u"b", u"a", u"?"};
+    std::copy(cells.begin(), cells.end(), data.Vectors[0].Vect.data);
+    matrix<text> names = textTable(1, {u"a", u"b"});
+    matrix<int> counts(1, 1, 2);
+    matrix<short int> flags(3, 1);
+    cST_MVect<double> codes(1, 1);
+    M_ReplaceStrByCodes(data, 3, 1, counts, names, flags, 5, codes);
+    EXPECT_EQ(cellsOf(codes.Vectors[0].Vect), doubles{6});
+    EXPECT_EQ(codes.Vectors[0].Vect.oobValue, MISSING_DBL);
+    M_ReplaceCatByCodes(data, 3, 1, counts, names, codes);
+    EXPECT_EQ(cellsOf(codes.Vectors[0].Vect), doubles{2});
+    EXPECT_EQ(codes.Vectors[0].Vect.oobValue, 1.0) << "the unknown text stores nothing";
+
+    cST_MVect<text> replacements(2, 2);
+    replacements.Vectors[0].Vect[0] = u"a";
+    replacements.Vectors[1].Vect[0] = u"1";
+    cST_MVect<text> recoded(1, 1);
+    M_RecodeDataWithCodes_ST(data, 3, 1, replacements, 1, recoded);
+    EXPECT_EQ(textsOf(recoded.Vectors[0].Vect), std::vector<text>{u"b"});
+    EXPECT_EQ(recoded.Vectors[0].Vect.oobValue, u"?");
+
+    matrix<double> marks(2, 1, 77.0);
+    V_RecodeToBinary(&data.Vectors[0].Vect, 3, u"?", &marks);
+    EXPECT_EQ(cellsOf(marks), (doubles{0, 0}));
+    EXPECT_EQ(marks.oobValue, 1.0);
+}
+
 TEST(CategoryCodes, OfAWholeTableFollowFirstAppearance)
 {
     matrix<text> data = textTable(3, {u"b", u"", u"a", u"a", u"c", u"b"});

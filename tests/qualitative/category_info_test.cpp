@@ -166,6 +166,27 @@ TEST(CategoryInfo, OfOneVariableTakesTablesOfAnyShape)
     }
 }
 
+TEST(CategoryInfo, OfOneVariableWithoutTextsIsWhatStandsInTheFirstSlot)
+{
+    const matrix<text> data = textVector({u"", u""});
+    matrix<double> weights = vectorOf(doubles{1, 2});
+    for (const short int sort : {short{0}, short{-1}}) {
+        matrix<text> names = textTable(1, {u"old", u"older"});
+        matrix<double> frequencies = vectorOf(doubles{77, 78});
+        int count = 0;
+        int total = 100;
+        text mode;
+        double modeFrequency = 0;
+        M_InfoQuali2(data, 2, 1, count, mode, modeFrequency, names, frequencies, weights, &total, sort);
+        EXPECT_EQ(count, 1);
+        EXPECT_EQ(total, 1);
+        EXPECT_EQ(mode, u"old");
+        EXPECT_EQ(modeFrequency, 77.0);
+        EXPECT_EQ(textsOf(names), (texts{u"old", u"older"}));
+        EXPECT_EQ((doubles{frequencies[0], frequencies[1]}), (doubles{77, 78}));
+    }
+}
+
 TEST(CategoryInfo, OfAFixedNumberLooksAtSoManySlots)
 {
     matrix<text> data = textTable(4, {u"10", u"9", u"10", u"", u"b", u"a", u"c", u"c"});

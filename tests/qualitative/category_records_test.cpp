@@ -143,6 +143,41 @@ TEST(CategoryRecords, LongLabelsMakeEachRowACategory)
     EXPECT_EQ(labelled::slots(*y.info.CatFreq), (doubles{1, 2, 0, 0, 0}));
 }
 
+TEST(CategoryRecords, SortOrTakeLongLabelsOnlyWhenTheFlagIsMinusOne)
+{
+    labelled x(3, {{u"b", u"a", u"b"}});
+    x.info.withRecode = -1;
+    x.info.withSort = 1;
+    x.info.withLongLabels = 1;
+    x.run(doubles(3, 1.0));
+    EXPECT_EQ(x.names(), (texts{u"b", u"a"}));
+    EXPECT_EQ(labelled::slots(*x.info.CatFreq), (doubles{2, 1, 0}));
+    EXPECT_EQ(x.codes(), (doubles{0, 1, 0}));
+}
+
+TEST(CategoryRecords, SortLongLabelsAsTheyStand)
+{
+    labelled x(5, {{u"10", u"9", u"", u"9"}});
+    x.info.withLongLabels = -1;
+    x.info.withRecode = -1;
+    x.info.withSort = -1;
+    x.info.codeStart = 1;
+    x.run({1, 2, 4, 8});
+    EXPECT_EQ(x.names(), (texts{u"v1-10", u"v1-9", u"v1-9"})) << "no number begins with the label";
+    EXPECT_EQ(labelled::slots(*x.info.CatFreqW), (doubles{1, 2, 8, 0, 0}));
+    EXPECT_EQ(x.codes(), (doubles{1, 2, MISSING_DBL, 3}));
+
+    labelled y(5, {{u"b", u"a"}, {u"b", u"a"}});
+    y.data.CLabels[0] = u"7";
+    y.info.withLongLabels = -1;
+    y.info.withRecode = -1;
+    y.info.withSort = -1;
+    y.run({1, 2});
+    EXPECT_EQ(y.names(0), (texts{u"7-b", u"7-a"})) << "both are the number of the label";
+    EXPECT_EQ(y.names(1), (texts{u"v2-a", u"v2-b"}));
+    EXPECT_EQ(y.codes(), (doubles{0, 1, 1, 0}));
+}
+
 TEST(CategoryRecords, OfAnEmptyColumnAreOneCategoryWhoseSlotStays)
 {
     labelled x(2, {{u"", u""}, {u"a", u"a"}});

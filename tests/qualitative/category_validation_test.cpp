@@ -177,6 +177,37 @@ TEST(CategoryValidation, OfOneVariableInSeveralColumns)
     EXPECT_EQ(column(*result.CatFreqW, 1), (doubles{30, 0, 0, 77}));
 }
 
+// A row behind the last weight weighs what the spare slot of the weights holds.
+TEST(CategoryValidation, ReadsTheSpareSlotBehindTheWeights)
+{
+    matrix<text> data = textVector({u"b", u"a", u"b"});
+    matrix<text> names = textTable(1, {u"a", u"b"});
+    matrix<int> known(1, 1, 2);
+    matrix<double> counts(1, 2, 77.0);
+    matrix<double> weights(1, 1, 1.0);
+    weights.oobValue = 0.25;
+    short int flag = 5;
+    M_InfoQualiValid(&data, 3, 1, 2, &known, &names, &counts, &flag, &weights);
+    EXPECT_EQ(rowOf(counts, 0), (doubles{0.25, 1.25}));
+    M_InfoQualiValid(data, 3, 1, 2, names, counts, &flag, weights);
+    EXPECT_EQ(rowOf(counts, 0), (doubles{0.25, 1.25}));
+
+    auto record = textRecord(3, {u"b", u"a", u"b"});
+    cST_QualiInfo reference, result;
+    setNames(reference, {{u"a", u"b"}});
+    setNames(result, {{}});
+    M_InfoQualiValid_ST(record, 3, 1, reference, result, &flag, weights);
+    EXPECT_EQ(column(*result.CatFreq, 0), (doubles{1, 2, 0, 0}));
+    EXPECT_EQ(column(*result.CatFreqW, 0), (doubles{0.25, 1.25, 0, 0}));
+    cST_Vect<int> sizes;
+    sizes.Vect.Redim(1, 1, 2);
+    matrix<double> second(2, 1, 10.0);
+    second.oobValue = 100.0;
+    M_InfoQualiValid_Plus_ST(1, record, 3, 1, 2, sizes, reference, result, weights, second, &flag);
+    EXPECT_EQ(column(*result.CatFreq, 0), (doubles{0.25, 1.25, 0, 0}));
+    EXPECT_EQ(column(*result.CatFreqW, 0), (doubles{10, 110, 0, 0}));
+}
+
 TEST(CategoryValidation, IsThatOfThePlainSearch)
 {
     int unknown = 0;

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numeric>
 
 using namespace korvel::test;
 
@@ -145,6 +146,21 @@ TEST(DisjunctiveTable, OfRecordsHasLabels)
     EXPECT_EQ(narrow.CLabels[0], u"");
 }
 
+TEST(DisjunctiveTable, OfTheFirstVariableIsWhatStartsInTheFirstColumn)
+{
+    matrix<text> data = textTable(1, {u"x", u"a", u"p"});
+    matrix<text> names = textTable(3, {u"x", u"a", u"p"});
+    matrix<int> counts(3, 1, 1);
+    matrix<double> sums(3, 1, 1.0);
+    matrix<double> result;
+    for (const int none : {0, -1}) {
+        counts[0] = none;
+        BuildDisjunctiveTable(data, 1, 3, 2, counts, names, sums, result, 1, 1);
+        EXPECT_EQ((doubles{result[0], result[1]}), (doubles{1, 0}))
+            << "variables without columns come before";
+    }
+}
+
 TEST(DisjunctiveTable, IsThatOfThePlainLoop)
 {
     for (std::uint64_t seed = 1; seed <= 300; ++seed) {
@@ -166,6 +182,66 @@ TEST(DisjunctiveTable, IsThatOfThePlainLoop)
         BuildDisjunctiveTable(data, n, p, total, counts, names, sums, result, coding, option);
         korvel::reference::disjunctiveTable(data, n, p, counts, names, sums, expected, coding, option);
         expectSame(result, expected);
+        if (HasFailure()) {
+            return;
+        }
+    }
+}
+
+TEST(DisjunctiveTable, OfRecordsIsThatOfThePlainLoop)
+{
+    for (std::uint64_t seed = 1; seed <= 600; ++seed) {
+        SCOPED_TRACE(seed);
+        random_cells cells(seed, odd_cells::all);
+        const int n = cells.integer(1, 12);
+        const int p = cells.integer(1, 3);
+        const int width = cells.integer(1, 5);
+        // Rows below a shorter column are empty, as is the spare slot.
+        cST_MVect<text> record(n, p);
+        matrix<text> data = randomTexts(cells, n, p, 4);
+        for (int j = 0; j < p; ++j) {
+            const int length = seed % 3 == 0 ? cells.integer(0, n) : n;
+            record.Vectors[static_cast<std::size_t>(j)].Vect.Redim(length, 1, text());
+            for (int i = 0; i < n; ++i) {
+                if (i < length) {
+                    record.Vectors[static_cast<std::size_t>(j)].Vect[i] = data.getElement(i, j);
+                } else {
+                    data.setElement(i, j, text());
+                }
+            }
+        }
+        const matrix<text> names = randomTexts(cells, p, width, 4);
+        const matrix<int> counts = cells.integers(p, 0, width);
+        matrix<double> sums(p, width, 0.0);
+        fillRandomly(cells, sums);
+        cST_QualiInfo info;
+        info.NbCat = new matrix<int>(counts);
+        info.CatNames = new cST_MVect<text>(width, p);
+        info.CatFreq = new cST_MVect<double>(width, p);
+        for (int j = 0; j < p; ++j) {
+            for (int k = 0; k < width; ++k) {
+                info.CatNames->Vectors[static_cast<std::size_t>(j)].Vect[k] = names.getElement(j, k);
+                info.CatFreq->Vectors[static_cast<std::size_t>(j)].Vect[k] = sums.getElement(j, k);
+            }
+        }
+        const int needed = std::accumulate(counts.data, counts.data + p, 0);
+        const int given = std::max(needed + cells.integer(-2, 2), 1);
+        const int coding = cells.integer(-1, 4);
+        const int option = cells.integer(0, 3);
+        cST_MVect<double> result(n + 3, given);
+        for (auto& column : result.Vectors) {
+            std::fill_n(column.Vect.data, column.Vect.nbElem, 77.0);
+        }
+        BuildDisjunctiveTable_ST(record, info, result, coding, option);
+        matrix<double> expected(n, std::max(needed, 1), 0.0);
+        korvel::reference::disjunctiveTable(data, n, p, counts, names, sums, expected, coding, option);
+        for (int c = 0; c < given; ++c) {
+            const matrix<double>& column = result.Vectors[static_cast<std::size_t>(c)].Vect;
+            ASSERT_EQ(column.nbrows, c < needed ? n : n + 3);
+            for (int i = 0; i < column.nbrows; ++i) {
+                EXPECT_SAME_BITS(column[i], c < needed ? expected.getElement(i, c) : 77.0) << "column " << c;
+            }
+        }
         if (HasFailure()) {
             return;
         }

@@ -56,7 +56,8 @@ KORVEL_API void M_InfoQuali2(matrix<text> const& data, int n, int p, int width, 
 
 /**
  * The categories of one variable, in tables that are not resized and of which slots that are left over stay
- * as they were.
+ * as they were. A column without any text counts as one category here too. Its slot is left over, so the mode
+ * and its frequency are what stands in the first slot.
  *
  * @param data          texts, `n` by `variable` at least, not modified
  * @param n             number of rows

@@ -64,4 +64,13 @@ TEST(FlatBinaryTables, ConvertTwoValues)
     EXPECT_EQ(valuesOf(result), (doubles{1, 0, 1, 0, 1, 0}));
     Cpp_M_ConvertBinarytoDisjTable(x.data(), 3, 0, result.data());
     EXPECT_TRUE(result.intact());
+    const doubles table{1, 0.25, 0, 5, 7, 7, 7, 7, 7};
+    for (const int distance : {0, 1}) {
+        guarded<double> cells(table);
+        double* const start = cells.data();
+        Cpp_M_ConvertBinarytoDisjTable(start + distance, 2, 2, start);
+        const doubles expected = distance == 0 ? doubles{1, 0.25, 0, 0.75, 0, 5, 1, -4, 7}
+                                               : doubles{0.25, 0, 0.75, 1, 5, 7, -4, -6, 7};
+        EXPECT_EQ(valuesOf(cells), expected) << "over its own input";
+    }
 }
