@@ -129,9 +129,10 @@ short int BuildGroupingForDiffs(matrix<double>& values, int valueColumn, matrix<
     }
     const pair_table significant(pairs, pairCount, firstPairColumn, secondPairColumn, significance);
     const std::vector<std::vector<int>> sets = sharingSets(reachOf(levels, significant));
-    // Where the first level has no value, the first column is that level's, and has no letter.
-    const bool firstIsMissing = values.nbrows > 0 && (positions.empty() || positions.front() > 0);
-    groupCount = firstIsMissing ? 1 : 0;
+    // The first column is the first level's, even where that level has no value or is not there: it has no
+    // letter then.
+    const bool firstHasNoLetter = positions.empty() || positions.front() > 0;
+    groupCount = firstHasNoLetter ? 1 : 0;
     for (std::size_t number = 0; number < sets.size(); ++number) {
         ++groupCount;
         if (groupCount > mostColumns) {

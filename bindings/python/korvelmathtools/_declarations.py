@@ -252,7 +252,7 @@ FUNCTIONS = {
         'sortResult: not 0: order, means and labels come back in the order of the levels; 0: in the order of the means\n'
         'order: out, k integers: the numbers of the levels\n'
         'labels: out, k by k texts: the letters of each level, letter c in column c. With more than 256 levels there are 256 columns. When the first mean in the order is missing, column 1 stays empty\n'
-        'groupCount: out, one integer: how many columns are taken; 257 when there was no room for the last letter\n'
+        'groupCount: out, one integer: how many columns are taken, 1 where there is no level; 257 when there was no room for the last letter\n'
         'success: out, one flag: -1, or 0 when there were too many letters\n'
         'descending: not 0: from the largest mean down; 0: from the smallest one up\n'
         'returns 0\n'

@@ -34,7 +34,8 @@
  * @param labels       every cell is cleared; then its first `k` rows receive the letters, letter c in column
  * c. Should the smallest mean be missing, and the order be ascending, column 1 stays empty and letters begin
  * in column 2. `k` columns are enough; columns that it does not have are lost
- * @param groupCount   receives how many columns are taken; 257 when there was no room for the last letter
+ * @param groupCount   receives how many columns are taken, 1 where there is no level; 257 when there was no
+ * room for the last letter
  * @param success      receives -1; 0 when there were too many letters: then the first ones are there
  * @param descending   not 0: from the largest mean down; 0: from the smallest one up
  * @throws std::bad_alloc when memory is short

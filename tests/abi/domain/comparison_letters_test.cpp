@@ -49,7 +49,7 @@ TEST(FlatComparisonLetters, OfNoLevelsAreNone)
     EXPECT_EQ(
         Cpp_GetCompMatrices(nullptr, 0, 0, nullptr, 0, nullptr, nullptr, groups.data(), success.data(), 0),
         0);
-    EXPECT_EQ(valuesOf(groups), ints{0});
+    EXPECT_EQ(valuesOf(groups), ints{1});
     EXPECT_THROW(
         Cpp_GetCompMatrices(nullptr, -1, 0, nullptr, 0, nullptr, nullptr, groups.data(), success.data(), 0),
         std::bad_alloc);

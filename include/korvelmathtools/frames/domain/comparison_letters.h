@@ -24,8 +24,8 @@
  * @param order        [out] k integers: the numbers of the levels
  * @param labels       [out] k by k texts: the letters of each level, letter c in column c. With more than 256
  * levels there are 256 columns. When the first mean in the order is missing, column 1 stays empty
- * @param groupCount   [out] one integer: how many columns are taken; 257 when there was no room for the last
- * letter
+ * @param groupCount   [out] one integer: how many columns are taken, 1 where there is no level; 257 when
+ * there was no room for the last letter
  * @param success      [out] one flag: -1, or 0 when there were too many letters
  * @param descending   not 0: from the largest mean down; 0: from the smallest one up
  * @return 0
