@@ -6,6 +6,7 @@
 #ifndef KORVEL_SPECIAL_SCALES_H
 #define KORVEL_SPECIAL_SCALES_H
 
+#include "platform/power.h"
 #include "special/elementary.h"
 
 #include <cfloat>
@@ -24,7 +25,7 @@ struct plain_scale {
     static double of(double x) { return x; }
     static double of1Minus(double x) { return 1.0 - x; }
     static double ofExp(double x) { return std::exp(x); }
-    static double ofPower(double x, double a) { return std::pow(x, a); }
+    static double ofPower(double x, double a) { return platform::power(x, a); }
 
     /** exp(x), which is given as `value` too, times a positive number; it does not underflow before the
      * product does. */

@@ -28,17 +28,11 @@ struct way_limits {
     double logarithm;
 };
 
-#if defined(_WIN32)
-constexpr double valueOfTinyB = 40.0; // the power of this system is less accurate: 26 was seen
-#else
-constexpr double valueOfTinyB = 15.0;
-#endif
-
 const std::map<std::string, way_limits>& limitsOfWays()
 {
     static const std::map<std::string, way_limits> limits{
         {"tinyBoth", {beta_way::tinyBoth, 5.0, 5.0}},
-        {"tinyB", {beta_way::tinyB, valueOfTinyB, 700.0}},
+        {"tinyB", {beta_way::tinyB, 15.0, 700.0}},
         {"tinyA", {beta_way::tinyA, 700.0, 700.0}},
         {"series", {beta_way::series, 250.0, 400.0}},
         {"complementSeries", {beta_way::complementSeries, 300.0, 200.0}},
