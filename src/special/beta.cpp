@@ -194,8 +194,9 @@ double betaln(double a, double b)
 {
     constexpr double large = 10.0;
     constexpr double halfLogOf2Pi = 0.9189385332046728;
-    const double p = std::min(a, b);
-    const double q = std::max(a, b);
+    // A NaN is one of the two, whichever argument it is.
+    const double p = a < b ? a : b;
+    const double q = a < b ? b : a;
     if (q < large) {
         return GammaLn(a) + GammaLn(b) - GammaLn(a + b);
     }

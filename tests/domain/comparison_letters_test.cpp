@@ -241,3 +241,67 @@ TEST(ComparisonLetters, ComeFromListedPairs)
     EXPECT_EQ(numbers(again.data, again.data + 3), (numbers{3, 2, 1}));
     EXPECT_EQ(cells, (numbers{10, 20, 30, 1, 2, 3}));
 }
+
+TEST(ComparisonLetters, LeaveTheRestOfALargerTableEmpty)
+{
+    for (const short int sortResult : {short{0}, short{-1}}) {
+        numbers cells{3, 1, 2};
+        matrix<double> means(3, 1, cells.data(), true);
+        matrix<int> significance = tableOf(3, allPairs(3));
+        matrix<int> order(3, 1);
+        matrix<text> labels(5, 300, text(u"?"));
+        int groups = 0;
+        short int success = 0;
+        GetCompMatrices(means, 3, 0, significance, sortResult, order, &labels, &groups, &success, 0);
+        const rows expected = sortResult == 0 ? rows{{u"A"}, {u"B"}, {u"C"}} : rows{{u"C"}, {u"A"}, {u"B"}};
+        for (int i = 0; i < 5; ++i) {
+            for (int j = 0; j < 300; ++j) {
+                const bool isLetter =
+                    i < 3 && j < 3 && expected[static_cast<std::size_t>(i)][0] == text(1, u"ABC"[j]);
+                EXPECT_EQ(labels.getElement(i, j), isLetter ? text(1, u"ABC"[j]) : text()) << i << ' ' << j;
+            }
+        }
+        EXPECT_EQ(groups, 3);
+    }
+}
+
+TEST(ComparisonLetters, FindEachOfManyPairs)
+{
+    for (const int k : {60, 258}) {
+        numbers listed;
+        matrix<int> significance(k, k);
+        std::vector<int> perPair;
+        for (const auto& [larger, smaller] : allPairs(k)) {
+            const bool differ = (larger * larger + 5 * smaller) % 7 < 2;
+            significance.vbset(larger, smaller, differ ? 1 : 0);
+            perPair.push_back(differ ? 1 : 0);
+            listed.push_back(larger);
+        }
+        const int count = static_cast<int>(listed.size());
+        for (const auto& [larger, smaller] : allPairs(k)) {
+            listed.push_back(smaller);
+        }
+        numbers means;
+        auto levels = vectorOf<double>({});
+        levels.Redim(k, 1);
+        for (int i = 0; i < k; ++i) {
+            means.push_back(i * 101 % k);
+            levels.data[i] = i + 1;
+        }
+        const display made = displayOf(means, significance, 0);
+        const matrix<double> pairTable(count, 2, listed.data(), true);
+        const matrix<int> flags(count, 1, perPair.data(), true);
+        matrix<double> values(k, 1, means.data(), true);
+        matrix<text> labels(k, k, text());
+        int groups = 0;
+        short int done = 0;
+        EXPECT_EQ(
+            BuildGroupingForDiffs(values, 1, pairTable, count, flags, labels, groups, levels, 1, 2, done, 0),
+            -1);
+        EXPECT_GT(groups, k / 2);
+        EXPECT_EQ(made.groups, groups);
+        for (std::size_t i = 0; i < labels.nbElem; ++i) {
+            ASSERT_EQ(made.labels.data[i], labels.data[i]) << k << ' ' << i;
+        }
+    }
+}

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <numeric>
 #include <vector>
 
@@ -88,6 +89,21 @@ TEST(CorrelationOrder, ByTheFirstEigenvectorSortsItsCells)
     incomplete.reorder(3);
     EXPECT_EQ(incomplete.labels, names) << "not with a missing cell";
     EXPECT_EQ(incomplete.cells[1], missing) << "the table is transposed";
+}
+
+TEST(CorrelationOrder, StaysWhereTheEigenvectorsDoNotConverge)
+{
+    correlations x;
+    x.cells = {1, 0, 1, 0, 1, 0, 1, 0, std::numeric_limits<double>::infinity()};
+    matrix<double> values;
+    matrix<double> vectors;
+    const matrix<double> table(3, 3, x.cells.data(), false);
+    ASSERT_EQ(M_Eigen(table, values, vectors, 3, -1), -1);
+    ASSERT_GT(vectors.data[1], vectors.data[0]) << "what there is by then would move the second variable up";
+    x.reorder(3);
+    EXPECT_EQ(x.labels, (words{u"a", u"b", u"c"}));
+    EXPECT_EQ(x.cells, (numbers{1, 0, 1, 0, 1, 0, 1, 0, 1}));
+    EXPECT_EQ(x.flags, (ints{0, 1, 2, 1, 11, 12, 2, 12, 22}));
 }
 
 TEST(CorrelationOrder, StaysByAnyOtherMethod)

@@ -31,6 +31,25 @@ bounds found(double q1, double mode, double q2, double p1, double p2)
     return made;
 }
 
+/** The upper bound by a plain loop, with other limits than the routine's. */
+double iterated(double q1, double mode, double q2, double p1, double p2, int mostSteps, double tolerance)
+{
+    double b = 0;
+    int steps = 0;
+    for (double start = 5; steps < mostSteps; start += 1) {
+        b = start * q2;
+        for (double change = tolerance; change >= tolerance && steps < mostSteps; ++steps) {
+            const double before = b;
+            b -= TriangularFunc(b, q1, mode, q2, p1, p2) / TriangularFuncDeriv(b, q1, mode, q2, p1, p2);
+            change = std::fabs(b - before);
+        }
+        if (b > mode) {
+            break;
+        }
+    }
+    return b;
+}
+
 struct distribution {
     const char* mode;
     double a;
@@ -120,6 +139,21 @@ TEST(TriangularDistribution, EndsWhenTheStepsAreSpent)
     // Nothing converges from a NaN: the last value stands.
     EXPECT_TRUE(std::isnan(found(1, 2, 3, notANumber, 0.8).b));
     EXPECT_TRUE(std::isnan(found(0, 0, 0, 0.2, 0.8).b)) << "no start is above the mode";
+}
+
+TEST(TriangularDistribution, StopsAfter501StepsInAllAndAStepBelowTheTolerance)
+{
+    // With equal quantiles at the mode the iteration wanders about the mode, and starts again when it ends
+    // below it.
+    EXPECT_SAME_BITS(found(-8, -8, -8, 0.05, 0.35).b, iterated(-8, -8, -8, 0.05, 0.35, 501, 1e-12));
+    EXPECT_NE(iterated(-8, -8, -8, 0.05, 0.35, 501, 1e-12), iterated(-8, -8, -8, 0.05, 0.35, 500, 1e-12));
+    EXPECT_NE(iterated(-8, -8, -8, 0.05, 0.35, 501, 1e-12), iterated(-8, -8, -8, 0.05, 0.35, 502, 1e-12));
+    // The last step but one is of 1e-12 to 2e-12 in the first, and the last one of 5e-13 to 1e-12 in the
+    // second.
+    EXPECT_SAME_BITS(found(-8, -8, -7, 0.10, 0.70).b, iterated(-8, -8, -7, 0.10, 0.70, 501, 1e-12));
+    EXPECT_NE(iterated(-8, -8, -7, 0.10, 0.70, 501, 1e-12), iterated(-8, -8, -7, 0.10, 0.70, 501, 2e-12));
+    EXPECT_SAME_BITS(found(-8, -8, -7, 0.05, 0.70).b, iterated(-8, -8, -7, 0.05, 0.70, 501, 1e-12));
+    EXPECT_NE(iterated(-8, -8, -7, 0.05, 0.70, 501, 1e-12), iterated(-8, -8, -7, 0.05, 0.70, 501, 5e-13));
 }
 
 TEST(TriangularDistribution, HasFunctionsThatAreZeroAtItsBounds)

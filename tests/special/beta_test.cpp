@@ -59,6 +59,10 @@ TEST(LogBeta, TestsNoArgument)
     EXPECT_EQ(betaln(0.0, 5.0), infinity);
     EXPECT_SAME_BITS(betaln(-8.0, 5.0), GammaLn(-8.0) + GammaLn(5.0) - GammaLn(-3.0));
     EXPECT_TRUE(std::isnan(betaln(-30.0, 20.0)));
+    for (const double other : {0.5, 9.0, 10.0, 12.0, nan}) {
+        EXPECT_TRUE(std::isnan(betaln(nan, other))) << other;
+        EXPECT_TRUE(std::isnan(betaln(other, nan))) << other;
+    }
 }
 
 struct outcome {
