@@ -120,7 +120,9 @@ class LinuxPackages(Packages):
     def test_wheel(self):
         folder = SCRATCH / "wheel"
         run(PYTHON, "-m", "pip", "install", "--no-index", "--no-deps", "--target", folder, self.file("*.whl"))
-        run(PYTHON, ROOT / "tests" / "bindings" / "python_test.py", env=dict(os.environ, PYTHONPATH=str(folder)))
+        shown = run(PYTHON, "-c", "import korvelmathtools as kmt; texts = ['b', 'a']; kmt.VB_SortQVectorStr(texts, 2, 1, 2, 0);"
+                    "print(kmt.LIBRARY_PATH, kmt.__version__, *texts)", env=dict(os.environ, PYTHONPATH=str(folder)))
+        self.assertEqual(shown.split(), [f"{folder}/korvelmathtools/libKORVELMathTools.so.{ABI}", VERSION, "a", "b"])
 
     def test_bad_options(self):
         kept = sorted(self.dist.iterdir())

@@ -61,7 +61,7 @@ class _Call:
         self.counts = {}
 
     def fail(self, parameter, message, kind=TypeError):
-        raise kind(f"{self.name}: {parameter.name} {message}")
+        raise kind(f"{self.name}: {spelled(parameter.name)} {message}")
 
     def run(self):
         parameters = self.flat._parameters
@@ -82,15 +82,18 @@ class _Call:
                     given[:] = target.tolist()
         if not self.made:
             return answer
-        names = [name for name, _ in self.made]
+        names = [spelled(name) for name, _ in self.made]
         cells = [array if array.ndim else array[()] for _, array in self.made]
         if self.flat._has_result:
-            names, cells = ["result", *names], [answer, *cells]
-        return collections.namedtuple(self.name, names, rename=True)(*cells)
+            names = ["result", *("result_" if name == "result" else name for name in names)]
+            cells = [answer, *cells]
+        return collections.namedtuple(self.name, names)(*cells)
 
     def numbers(self, p, value):
         """An array of the type that the function takes; the caller's own one where it is changed."""
         wanted = NUMBERS[element_of(p.type)][1]
+        if isinstance(value, numpy.ma.MaskedArray):
+            self.fail(p, "is a masked array: from_nan turns what is masked into missing numbers")
         if p.direction != "in":
             if not isinstance(value, numpy.ndarray) or value.dtype != wanted:
                 kind = f"{value.dtype}" if isinstance(value, numpy.ndarray) else type(value).__name__
@@ -114,26 +117,33 @@ class _Call:
         return array if array.flags.f_contiguous else numpy.asfortranarray(array)
 
     def text_cells(self, p, value):
+        """The texts; where they are changed, the caller's own array, or a copy of the caller's list."""
         array = numpy.array(value, dtype=object, order="F")
         if array.ndim > 2:
             self.fail(p, f"has {array.ndim} dimensions; vectors and tables have one or two", ValueError)
-        return value if isinstance(value, numpy.ndarray) and value.dtype == object and p.direction != "in" else array
+        if isinstance(value, str):
+            self.fail(p, "must be an array of texts, not str")
+        if p.direction == "in" or isinstance(value, list):
+            return array
+        if not isinstance(value, numpy.ndarray) or value.dtype != object or not value.flags.writeable:
+            self.fail(p, "is changed: it must be a list, or a writeable NumPy array of object")
+        return value
 
     def number(self, p):
         if p.name not in self.given:
             found = self.count_shown_by_arrays(p.name)
             if found is None:
-                raise TypeError(f"{self.name}: {p.name} is not given")
+                self.fail(p, "is not given")
             return found
         value = self.given[p.name]
         if p.type == "double":
             try:
-                return float(value)
+                return float(value if not isinstance(value, (str, bytes)) else None)
             except (TypeError, ValueError):
                 self.fail(p, f"must be a number, not {type(value).__name__}")
-        if isinstance(value, (bool, numpy.bool_)):
+        if isinstance(value, (bool, numpy.bool_)) and p.type == "short int":
             return -int(value)
-        if not isinstance(value, (int, numpy.integer)):
+        if not isinstance(value, (int, numpy.integer)) or isinstance(value, bool):
             self.fail(p, f"must be an integer, not {type(value).__name__}")
         least, most = INTEGERS[p.type]
         if not least <= value <= most:
@@ -196,7 +206,7 @@ class _Call:
             if p.nullable:
                 return None
             if p.direction != "out":
-                raise TypeError(f"{self.name}: {p.name} is not given")
+                self.fail(p, "is not given")
             scalar = p.rooms[0][:2] == ("1", "1")
             shape = () if scalar else room[0] if p.rooms[0].columns == "1" else room
             self.arrays[p.name] = numpy.full(shape, empty, type_, "F")
@@ -233,15 +243,19 @@ class _Call:
         if p.name not in self.given:
             if p.nullable:
                 return None
-            raise TypeError(f"{self.name}: {p.name} is not given")
+            self.fail(p, "is not given")
         value = self.given[p.name]
         if p.type == "const char*" and isinstance(value, str):
-            return ctypes.c_char_p(value.encode("latin-1"))
+            try:
+                return ctypes.c_char_p(value.encode("latin-1"))
+            except UnicodeEncodeError:
+                self.fail(p, "must be of 8-bit characters", ValueError)
         if element_of(p.type) == "OLECHAR" and isinstance(value, str):
             texts = Texts([value])
             self.texts[p.name] = (p._replace(direction="in"), texts, None)
             return ctypes.c_void_p(texts.cells[0])
         if isinstance(value, (ctypes._Pointer, ctypes.c_void_p, ctypes.Array)):
             return ctypes.cast(value, ctypes.c_void_p)
-        self.fail(p, f"must be an address of ctypes, not {type(value).__name__}")
+        kind = "a text" if element_of(p.type) in ("OLECHAR", "const char") else "an address of ctypes"
+        self.fail(p, f"must be {kind}, not {type(value).__name__}")
         return None

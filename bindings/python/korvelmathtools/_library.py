@@ -36,7 +36,7 @@ class Texts:
     def _made(self, value):
         if not isinstance(value, str):
             raise TypeError(f"a text is wanted, not {type(value).__name__}")
-        data = value.encode("utf-16-le")
+        data = value.encode("utf-16-le", "surrogatepass")
         made = self._system.SysAllocStringLen(data, len(data) // 2)
         if made is None:
             raise MemoryError
@@ -44,7 +44,7 @@ class Texts:
 
     def values(self):
         """What the texts are now. A null pointer is the empty text."""
-        return [ctypes.string_at(cell, self._system.SysStringByteLen(cell)).decode("utf-16-le") if cell else ""
+        return [ctypes.string_at(cell, self._system.SysStringByteLen(cell)).decode("utf-16-le", "surrogatepass") if cell else ""
                 for cell in self.cells]
 
     def __del__(self):
