@@ -1,5 +1,7 @@
 """The declarations of the flat functions for the Python package."""
 
+import keyword
+
 from .declarations import one_line
 
 PREAMBLE = '''\
@@ -12,6 +14,11 @@ ABI = "{abi}"
 # what a count of 0 stands for); description.
 FUNCTIONS = {{
 '''
+
+
+def spelled(name):
+    """The name of a parameter in Python, which keeps some words for itself."""
+    return f"{name}_" if keyword.iskeyword(name) else name
 
 
 def rooms_of(parameter):

@@ -1,0 +1,1 @@
+"""The worksheet functions of KORVELMathTools, apart from the office that calls them."""
