@@ -1,6 +1,5 @@
 #include "linalg/block_stripes.h"
 
-#include "linalg/block_columns.h"
 #include "linalg/product_forms.h"
 
 #include <algorithm>
@@ -95,6 +94,18 @@ line_kinds kindsOfLines(const part_read& part, int rows, int cols, bool ofRows)
         }
         return kinds;
     });
+}
+
+/** The diagonal of the left operand, as far as it goes. */
+std::vector<double> diagonalOf(const stripe_product& form)
+{
+    std::vector<double> diagonal(static_cast<std::size_t>(std::min(form.rows, form.depth)));
+    const double* cell = form.left.cells();
+    for (double& x : diagonal) {
+        x = *cell;
+        cell += form.left.stride() + 1;
+    }
+    return diagonal;
 }
 
 /** What a row and a column of some kind make where they meet. */
@@ -222,6 +233,18 @@ double checkedCell(const stripe_product& form, int r, int j, meeting lines)
 }
 
 } // namespace
+
+std::vector<run_of_kind> runsOf(const line_kinds& lines)
+{
+    std::vector<run_of_kind> runs;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (i == 0 || lines[i] != lines[i - 1]) {
+            runs.push_back({lines[i], static_cast<std::ptrdiff_t>(i), 0});
+        }
+        ++runs.back().count;
+    }
+    return runs;
+}
 
 line_kinds kindsOfRows(const stripe_product& form)
 {

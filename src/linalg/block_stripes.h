@@ -47,6 +47,15 @@ enum class line_kind : unsigned char { summed, diagonal, zero };
 
 using line_kinds = std::vector<line_kind>;
 
+/** Lines of one kind that stand one after the other. */
+struct run_of_kind {
+    line_kind kind;
+    std::ptrdiff_t first;
+    std::ptrdiff_t count;
+};
+
+[[nodiscard]] std::vector<run_of_kind> runsOf(const line_kinds& lines);
+
 /** The product of a block and a stripe, one of which stands left and the other right. */
 struct stripe_product {
     int rows = 0;

@@ -1,6 +1,6 @@
 #include "linalg/products_block.h"
 
-#include "linalg/block_columns.h"
+#include "linalg/block_operands.h"
 #include "linalg/block_stripes.h"
 #include "linalg/product_forms.h"
 #include "linalg/products.h"
@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace
 {
@@ -104,32 +105,20 @@ line_kinds kindsOfEntries(matrixSparse& block, int size)
     return kinds;
 }
 
-/** A table of which column `first` is the first one; a block is summed along its rows. */
-void multiplyTransposedBlock(const matrix<double>& A, int n, int offset, const matrix<double>& block,
-                             int size, matrix<double>& C)
+/** A stripe times a block that is summed along its rows. */
+void multiplyTransposed(const stripe_product& form, std::vector<double>& scratch)
 {
-    if (n < 1) {
+    if (korvel::blockDecides(form, {})) {
+        multiplyByTransposedBlock(form, scratch);
         return;
     }
-    const part_read left(A, 0, offset);
-    const part_read right(block);
-    const part_written result(C, 0, offset);
-    if (left.inside(n, size) && right.inside(size, size) && result.inside(n, size)) {
-        korvel::kernels::product form{n, size, size};
-        form.left = {{left.cells(), left.stride()}, false};
-        form.right = {{right.cells(), right.stride()}, false};
-        form.result = {result.cells(), result.stride()};
-        korvel::multiply(form);
-        result.leave(result.cells()[n - 1 + result.stride() * (size - 1)]);
-        return;
-    }
-    for (int i = 0; i < n; ++i) {
-        for (int j = 0; j < size; ++j) {
+    for (int i = 0; i < form.rows; ++i) {
+        for (int j = 0; j < form.cols; ++j) {
             double sum = 0.0;
-            for (int c = 0; c < size; ++c) {
-                sum += left.get(i, c) * right.get(j, c);
+            for (int c = 0; c < form.depth; ++c) {
+                sum += form.left.get(i, c) * form.right.get(j, c);
             }
-            result.set(i, j, sum);
+            form.result.set(i, j, sum);
         }
     }
 }
@@ -145,11 +134,11 @@ void M_BlockProductBckA(matrix3D<matrix<double>>* blocks, int nBlocks, matrix<in
         M_ProductAB(list.first(), size, size, *A, p, *C);
         return;
     }
-    korvel::block_columns together;
+    korvel::left_blocks together;
     list.forEach([&](const matrix<double>& block, int size, int offset) {
         const stripe_product form = blockTimesRows(block, size, *A, offset, p, *C);
         const line_kinds rows = kindsOfRows(form);
-        if (korvel::block_columns::suits(form, rows)) {
+        if (korvel::blockDecides(form, rows)) {
             together.add(form, rows);
             return;
         }
@@ -189,7 +178,12 @@ void M_BlockProductABck(matrix<double>* A, int n, matrix3D<matrix<double>>* bloc
     }
     list.forEach([&](const matrix<double>& block, int size, int offset) {
         const stripe_product form = columnsTimesBlock(*A, n, offset, block, size, *C);
-        multiplyStripe(form, kindsOfRows(form), kindsOfColumns(form), block_side::right);
+        const line_kinds cols = kindsOfColumns(form);
+        if (korvel::blockDecides(form, cols)) {
+            multiplyByBlock(form, cols);
+        } else {
+            multiplyStripe(form, kindsOfRows(form), cols, block_side::right);
+        }
     });
 }
 
@@ -218,8 +212,9 @@ void M_BlockProductATrBck(matrix<double>* A, int n, matrix3D<matrix<double>>* bl
                           matrix<int>* sizes, matrix<double>* C)
 {
     const block_list list(*blocks, nBlocks, *sizes);
+    std::vector<double> scratch;
     list.forEach([&](const matrix<double>& block, int size, int offset) {
-        multiplyTransposedBlock(*A, n, offset, block, size, *C);
+        multiplyTransposed(columnsTimesBlock(*A, n, offset, block, size, *C), scratch);
     });
 }
 
@@ -234,8 +229,10 @@ void M_BlockProductATrBck(matrixSparse* A, int n, matrix3D<matrixSparse>* blocks
     }
     const matrix<double> dense = A->to_matrix();
     matrix<double> product(std::max(n, 0), list.order(), 0.0);
+    std::vector<double> scratch;
     list.forEach([&](const matrixSparse& block, int size, int offset) {
-        multiplyTransposedBlock(dense, n, offset, expanded(block, size), size, product);
+        const matrix<double> cells = expanded(block, size);
+        multiplyTransposed(columnsTimesBlock(dense, n, offset, cells, size, product), scratch);
     });
     C->outputSparse(&product);
 }

@@ -1,0 +1,3 @@
+// Compiled for AVX-512; the warning at the head of product_avx2.cpp holds here too.
+#define KORVEL_KERNEL_SET avx512
+#include "linalg/kernels/block_sums_kernel.inc"
