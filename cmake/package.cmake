@@ -30,6 +30,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/docs/licences.md DESTINATION ${CMAKE_INSTALL
 if(WIN32)
     set(CPACK_GENERATOR ZIP)
     install(FILES ${PROJECT_SOURCE_DIR}/docs/windows.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+    install(FILES ${PROJECT_SOURCE_DIR}/docs/guide/pitfalls.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/guide
+        COMPONENT development)
     # The linker of MSVC wants an import library of its own kind.
     find_program(KORVEL_DLLTOOL NAMES llvm-dlltool llvm-dlltool-14)
     if(KORVEL_DLLTOOL)

@@ -22,7 +22,7 @@ from korveltools.declarations import one_line  # noqa: E402
 GUIDE = ROOT / "docs" / "guide"
 PAGES = sorted(GUIDE.glob("*.md"))
 # What is no subject of its own.
-GENERAL = {"index.md", "contract.md", "tasks.md"}
+GENERAL = {"index.md", "contract.md", "tasks.md", "pitfalls.md"}
 # What has no flat functions.
 CORE_ONLY = {"special.md"}
 STRICT = ["-pedantic-errors", "-Wall", "-Wextra", "-Werror", f"-I{ROOT}/include", f"-I{ROOT}/include/korvelmathtools"]

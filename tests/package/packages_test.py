@@ -84,6 +84,17 @@ class LinuxPackages(Packages):
         run("gcc", *STRICT_C, HERE / "consumer.c", "-o", program, *flags)
         run(program, env=dict(os.environ, LD_LIBRARY_PATH=f"{prefix}/lib"))
 
+    def build_the_example(self, prefix):
+        """In each way that it names itself: by CMake, and by one line with pkg-config."""
+        there = dict(os.environ, PKG_CONFIG_LIBDIR=f"{prefix}/lib/pkgconfig", LD_LIBRARY_PATH=f"{prefix}/lib")
+        example, build = ROOT / "examples" / "analysis", SCRATCH / "example"
+        run("cmake", "-S", example, "-B", build, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}")
+        run("cmake", "--build", build)
+        run("sh", "-c", f"cc analysis.c -o {build}/by_pkg_config $(pkg-config --cflags --libs korvelmathtools)", env=there,
+            cwd=example)
+        run(PYTHON, ROOT / "tests" / "bindings" / "analysis_test.py", build / "by_pkg_config", build / "analysis_c",
+            build / "analysis_cpp", env=there)
+
     def test_sums(self):
         self.check_sums()
         self.assertEqual(len(list(self.dist.iterdir())), 5)
@@ -101,6 +112,7 @@ class LinuxPackages(Packages):
             self.assertTrue((documents / name).is_file(), name)
         self.call_by_pkg_config(prefix)
         build_callers_by_cmake(prefix, SCRATCH / "callers_of_tarball")
+        self.build_the_example(prefix)
 
     def test_debian_packages(self):
         libraries = self.file(f"libkorvelmathtools{ABI}_{VERSION}_*.deb")
@@ -164,7 +176,8 @@ class WindowsPackages(Packages):
         documents = "share/doc/KORVELMathTools/"
         for name in ("bin/KORVELMathTools.dll", "lib/libKORVELMathTools.dll.a", "lib/KORVELMathTools.lib",
                      "include/korvelmathtools/KORVELMathTools.h", "share/KORVELMathTools/vba/KORVELMathTools.bas",
-                     documents + "reference.md", documents + "windows.md", documents + "licences/GPL-3.txt",
+                     documents + "reference.md", documents + "windows.md", documents + "guide/pitfalls.md",
+                     documents + "licences/GPL-3.txt",
                      documents + "licences/gcc-mingw-w64-base.txt", documents + "licences/mingw-w64-x86-64-dev.txt"):
             self.assertTrue((self.prefix / name).is_file(), name)
 
