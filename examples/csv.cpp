@@ -1,21 +1,29 @@
 #include "csv.h"
 
-#include "utf8.h"
+#include "encoding.h"
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <fstream>
-#include <iterator>
+#include <cerrno>
+#include <cstdio>
 #include <limits>
-#include <string_view>
-#include <utility>
+#include <memory>
+#include <system_error>
 
 namespace report
 {
 
 namespace
 {
+
+struct file_close {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+std::string lastError()
+{
+    return std::generic_category().message(errno);
+}
 
 std::string readWhole(const std::filesystem::path& path)
 {
@@ -27,144 +35,68 @@ std::string readWhole(const std::filesystem::path& path)
     if (kind == std::filesystem::file_type::directory) {
         throw csv_error("is a directory, not a file");
     }
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw csv_error("cannot be opened");
+    const std::unique_ptr<std::FILE, file_close> file(std::fopen(path.string().c_str(), "rb"));
+    if (file == nullptr) {
+        throw csv_error("cannot be opened: " + lastError());
     }
-    std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    if (file.bad()) {
-        throw csv_error("cannot be read");
+    std::string bytes;
+    // The size is known of a usual file only.
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    constexpr std::size_t block = std::size_t{1} << 20U;
+    if (!error && size < std::numeric_limits<std::size_t>::max() - block) {
+        bytes.reserve(static_cast<std::size_t>(size) + block);
+    }
+    for (;;) {
+        const std::size_t before = bytes.size();
+        bytes.resize(before + block);
+        const std::size_t count = std::fread(&bytes[before], 1, block, file.get());
+        bytes.resize(before + count);
+        if (count < block) {
+            break;
+        }
+    }
+    if (std::ferror(file.get()) != 0) {
+        throw csv_error("cannot be read: " + lastError());
     }
     return bytes;
 }
 
-// One row of the table, or its header; a quoted cell may stretch it over several lines of the file.
-struct record {
-    std::vector<std::string> cells;
-    std::size_t line = 0; // The line that it begins on, from 1.
-    bool blank = false;   // Nothing on it, neither a separator nor quotes.
-};
-
-// Takes a text apart, record by record.
-class record_reader
+// The first record that is not blank, or a blank one when all are.
+record headerOf(record_reader& reader)
 {
-public:
-    record_reader(std::string_view text, char separator) : rest_(text), separator_(separator) {}
-
-    [[nodiscard]] bool atEnd() const { return rest_.empty(); }
-
-    // The first record that is not blank, or a blank one when all are.
-    record header()
-    {
-        for (;;) {
-            record first = next();
-            if (!first.blank || atEnd()) {
-                return first;
-            }
-        }
+    record header;
+    while (reader.next(header) && header.blank) {
     }
+    return header;
+}
 
-    record next()
-    {
-        record result;
-        result.line = line_;
-        const std::string_view before = rest_;
-        do {
-            result.cells.push_back(nextCell());
-        } while (takeIf(separator_));
-        result.blank = trimmed(before.substr(0, before.size() - rest_.size())).empty();
-        takeLineEnd();
-        return result;
-    }
-
-private:
-    std::string nextCell()
-    {
-        std::string cell;
-        while (rest_.starts_with(' ')) {
-            rest_.remove_prefix(1);
-        }
-        if (takeIf('"')) {
-            cell = quotedPart();
-        }
-        // Whatever follows the closing quote belongs to the cell, as in most spreadsheets.
-        const std::size_t end =
-            std::min(rest_.find_first_of(std::array{separator_, '\r', '\n', '\0'}.data()), rest_.size());
-        cell += trimmed(rest_.substr(0, end));
-        rest_.remove_prefix(end);
-        return cell;
-    }
-
-    std::string quotedPart()
-    {
-        const std::size_t opened = line_;
-        std::string part;
-        for (;;) {
-            const std::size_t quote = rest_.find('"');
-            if (quote == std::string_view::npos) {
-                throw csv_error("line " + std::to_string(opened) + ": a quoted cell is not closed");
-            }
-            const std::string_view stretch = rest_.substr(0, quote);
-            line_ += static_cast<std::size_t>(std::count(stretch.begin(), stretch.end(), '\n'));
-            part += stretch;
-            rest_.remove_prefix(quote + 1);
-            if (!takeIf('"')) {
-                return part;
-            }
-            part += '"';
-        }
-    }
-
-    static std::string_view trimmed(std::string_view cell)
-    {
-        const std::size_t first = std::min(cell.find_first_not_of(' '), cell.size());
-        return cell.substr(first, cell.find_last_not_of(' ') + 1 - first);
-    }
-
-    void takeLineEnd()
-    {
-        const bool carriageReturn = takeIf('\r');
-        if (takeIf('\n') || carriageReturn) {
-            ++line_;
-        }
-    }
-
-    bool takeIf(char expected)
-    {
-        if (rest_.empty() || rest_.front() != expected) {
-            return false;
-        }
-        rest_.remove_prefix(1);
-        return true;
-    }
-
-    std::string_view rest_;
-    char separator_;
-    std::size_t line_ = 1;
-};
-
-char separatorOf(std::string_view text)
+char likelySeparator(std::string_view text)
 {
-    constexpr std::array candidates{',', ';', '\t'};
+    constexpr std::array candidates{',', ';', '\t', '|'};
     std::array<std::size_t, candidates.size()> cells{};
-    std::transform(candidates.begin(), candidates.end(), cells.begin(),
-                   [&](char candidate) { return record_reader(text, candidate).header().cells.size(); });
+    std::transform(candidates.begin(), candidates.end(), cells.begin(), [&](char candidate) {
+        record_reader reader(text, candidate, 1);
+        return headerOf(reader).cells.size();
+    });
     // The first one wins a tie, so a header of one cell counts as comma-separated.
     return candidates[static_cast<std::size_t>(std::max_element(cells.begin(), cells.end()) - cells.begin())];
 }
 
-std::vector<record> recordsOf(std::string_view text, char separator)
+// The separator in a first line `sep=;`, which is then taken off; nothing when there is no such line.
+std::optional<char> takeSeparatorLine(std::string_view& text)
 {
-    std::vector<record> records;
-    record_reader reader(text, separator);
-    records.push_back(reader.header());
-    while (!reader.atEnd()) {
-        records.push_back(reader.next());
+    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+    std::string_view line = text.substr(0, end);
+    if (line.starts_with('"') && line.ends_with('"')) {
+        line = line.substr(1, line.size() - 2);
     }
-    while (!records.empty() && records.back().blank) {
-        records.pop_back();
+    if (line.size() != 5 || !(line.starts_with("sep=") || line.starts_with("SEP="))) {
+        return std::nullopt;
     }
-    return records;
+    const char separator = line[4];
+    text.remove_prefix(end);
+    text.remove_prefix(text.starts_with("\r\n") ? 2 : text.empty() ? 0 : 1);
+    return separator;
 }
 
 std::string cellCount(std::size_t count)
@@ -174,47 +106,51 @@ std::string cellCount(std::size_t count)
 
 } // namespace
 
-csv_table readCsv(const std::filesystem::path& path)
+csv_file::csv_file(const std::filesystem::path& path, std::optional<char> separator) : bytes_(readWhole(path))
 {
-    const std::string text = asUtf8(readWhole(path));
-    if (text.find('\0') != std::string::npos) {
-        throw csv_error("holds zero bytes; save it as text in UTF-8");
+    if (const auto note = makeUtf8(bytes_)) {
+        notes_.push_back(*note);
     }
-    std::string_view table = text;
+    std::string_view table = bytes_;
     if (table.starts_with("\xEF\xBB\xBF")) {
         table.remove_prefix(3);
     }
-    csv_table result;
-    result.separator = separatorOf(table);
-    std::vector<record> records = recordsOf(table, result.separator);
-    if (records.empty()) {
+    const std::optional<char> told = takeSeparatorLine(table);
+    separator_ = separator ? *separator : told ? *told : likelySeparator(table);
+    record_reader reader(table, separator_, told ? 2 : 1);
+    const record header = headerOf(reader);
+    if (header.blank) {
         throw csv_error("is empty");
     }
-    const std::size_t columns = records.front().cells.size();
-    for (std::size_t j = 0; j < columns; ++j) {
-        const std::string& name = records.front().cells[j];
-        result.columns.push_back({name.empty() ? "(column " + std::to_string(j + 1) + ")" : name, {}});
+    for (const std::string_view name : header.cells) {
+        names_.emplace_back(name.empty() ? "(column " + std::to_string(names_.size() + 1) + ")" : name);
     }
-    for (auto row = records.begin() + 1; row != records.end(); ++row) {
-        if (row->blank && columns > 1) {
-            continue;
-        }
-        if (row->cells.size() != columns) {
-            throw csv_error("line " + std::to_string(row->line) + " has " + cellCount(row->cells.size()) +
-                            ", the header has " + std::to_string(columns));
-        }
-        for (std::size_t j = 0; j < columns; ++j) {
-            result.columns[j].cells.push_back(std::move(row->cells[j]));
-        }
-    }
-    const std::size_t rows = result.columns.front().cells.size();
-    if (rows == 0) {
-        throw csv_error("has a header and no rows");
-    }
-    if (rows > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
-        throw csv_error("has too many rows");
-    }
-    return result;
+    body_ = reader.rest();
+    firstLine_ = reader.line();
+}
+
+std::size_t csv_file::mostRows() const
+{
+    const auto count = [this](char end) { return std::count(body_.begin(), body_.end(), end); };
+    // Each row ends a line, and each of its cells but the last one is followed by a separator.
+    const auto lines = static_cast<std::size_t>(std::max(count('\n') + count('\r'), std::ptrdiff_t{0})) + 1;
+    return std::min(lines, body_.size() / names_.size() + 1);
+}
+
+double csv_file::shareBefore(const record& row) const
+{
+    const char* const at = row.cells[0].data();
+    const char* const begin = body_.data();
+    // A cell that was quoted does not stand in the file.
+    return at >= begin && at <= begin + body_.size()
+               ? static_cast<double>(at - begin) / static_cast<double>(body_.size())
+               : 0.0;
+}
+
+void csv_file::throwRagged(const record& row) const
+{
+    throw csv_error("line " + std::to_string(row.line) + " has " + cellCount(row.cells.size()) +
+                    ", the header has " + std::to_string(names_.size()));
 }
 
 } // namespace report

@@ -1,6 +1,5 @@
 #include "sections.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <map>
 #include <string>
@@ -12,21 +11,34 @@ namespace report
 namespace
 {
 
-// What is missing in one row, counted by the library in a copy of the row.
-int missingInRow(const data_set& data, int row)
+// Counts what is missing in one row: the library counts in a copy of the row.
+class row_counter
 {
-    const auto place = static_cast<std::size_t>(row);
-    std::vector<double> numbers;
-    for (const number_column& column : data.numberColumns) {
-        numbers.push_back(column.values[place]);
+public:
+    explicit row_counter(const data_set& data) : data_(data) {}
+
+    int missingIn(std::size_t row)
+    {
+        numbers_.clear();
+        for (const number_column& column : data_.numberColumns) {
+            numbers_.push_back(column.values[row]);
+        }
+        for (const date_column& column : data_.dateColumns) {
+            numbers_.push_back(column.days[row]);
+        }
+        texts_.clear();
+        for (const text_column& column : data_.textColumns) {
+            texts_.push_back(column.cells[row]);
+        }
+        return VB_V_NbMissing(numbers_.data(), static_cast<int>(numbers_.size())) +
+               VB_V_NbMissingStr(texts_.data(), static_cast<int>(texts_.size()));
     }
-    std::vector<OLECHAR*> texts;
-    for (const text_column& column : data.textColumns) {
-        texts.push_back(column.block[place]);
-    }
-    return VB_V_NbMissing(numbers.data(), static_cast<int>(numbers.size())) +
-           VB_V_NbMissingStr(texts.data(), static_cast<int>(texts.size()));
-}
+
+private:
+    const data_set& data_;
+    std::vector<double> numbers_;
+    std::vector<OLECHAR*> texts_;
+};
 
 std::string listed(const std::vector<int>& rows)
 {
@@ -40,42 +52,48 @@ std::string listed(const std::vector<int>& rows)
 
 } // namespace
 
-text_table missingColumns(data_set& data)
+section missingColumns(const data_set& data, const findings& found)
 {
     text_table table(
         {{"column", alignment::left}, {"missing", alignment::point}, {"% of rows", alignment::point}});
-    const auto add = [&](const std::string& name, int missing) {
+    const auto add = [&](const std::string& name, int present) {
+        const int missing = data.rowsUsed - present;
         if (missing > 0) {
-            table.add({shownName(name), shown(missing), shownPercent(missing, data.rows)});
+            table.add({shownName(name), shown(missing), shownPercent(missing, data.rowsUsed)});
         }
     };
-    for (const number_column& column : data.numberColumns) {
-        add(column.name, VB_V_NbMissing(column.values, data.rows));
+    for (std::size_t j = 0; j < data.numberColumns.size(); ++j) {
+        add(data.numberColumns[j].name, found.distributions[j].count);
     }
-    for (const text_column& column : data.textColumns) {
-        add(column.name, VB_V_NbMissingStr(column.block.data(), data.rows));
+    for (std::size_t j = 0; j < data.textColumns.size(); ++j) {
+        add(data.textColumns[j].name, found.inventories[j].count);
     }
-    return table;
+    for (const date_column& column : data.dateColumns) {
+        add(column.name, keptOf(data, column.days.data()).count());
+    }
+    return {"Columns with missing cells", {table}, {}, {}};
 }
 
-text_table missingRows(data_set& data)
+section missingRows(const data_set& data, const findings&)
 {
     text_table table({{"missing cells", alignment::point},
                       {"rows", alignment::point},
                       {"% of rows", alignment::point},
                       {"which", alignment::left}});
+    row_counter counter(data);
     std::map<int, std::vector<int>> rowsByCount;
     for (int row = 0; row < data.rows; ++row) {
-        const int missing = missingInRow(data, row);
+        const auto place = static_cast<std::size_t>(row);
+        const int missing = data.leftOut[place] != 0 ? 0 : counter.missingIn(place);
         if (missing > 0) {
             rowsByCount[missing].push_back(row + 1);
         }
     }
     for (const auto& [missing, rows] : rowsByCount) {
         const auto count = static_cast<int>(rows.size());
-        table.add({shown(missing), shown(count), shownPercent(count, data.rows), listed(rows)});
+        table.add({shown(missing), shown(count), shownPercent(count, data.rowsUsed), listed(rows)});
     }
-    return table;
+    return {"Rows with missing cells", {table}, {}, {}};
 }
 
 } // namespace report

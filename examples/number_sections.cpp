@@ -11,12 +11,8 @@ namespace report
 namespace
 {
 
-constexpr short int visualBasicTrue = -1;
-constexpr short int visualBasicFalse = 0;
-
-constexpr short int weightsAreFrequencies = visualBasicTrue; // Each row counts as one observation.
-
 constexpr int shapeDecimals = 3;
+constexpr const char* overflowNote = "the figure, or a sum on the way to it, is larger than any number.";
 
 // A mean deserves more decimals than its numbers have.
 int meanDecimals(const number_column& column)
@@ -30,78 +26,78 @@ int quartileDecimals(const number_column& column)
     return column.decimals + 2;
 }
 
-struct extreme {
-    double value = missingNumber;
-    int row = 0; // From 1; 0 when there is no value.
-};
-
-// A missing value is below all others, so the smallest is searched without them.
-extreme smallest(const data_set& data, const number_column& column)
-{
-    std::vector<double> present;
-    std::vector<int> rows;
-    for (int i = 0; i < data.rows; ++i) {
-        if (VB_IsMissingValueDbl(column.values[i]) == 0) {
-            present.push_back(column.values[i]);
-            rows.push_back(i + 1);
-        }
-    }
-    if (present.empty()) {
-        return {};
-    }
-    int position = 0;
-    const double value =
-        VB_V_MinAndMinPos(present.data(), static_cast<int>(present.size()), &position, visualBasicFalse);
-    return {value, rows[static_cast<std::size_t>(position - 1)]};
-}
-
-extreme largest(const data_set& data, const number_column& column)
-{
-    if (column.present == 0) {
-        return {};
-    }
-    extreme found;
-    found.value = VB_V_MaxAndMaxPos(column.values, data.rows, &found.row);
-    return found;
-}
-
 std::string shownRow(const extreme& found)
 {
-    return found.row == 0 ? "-" : shown(found.row);
+    return found.row == 0 ? std::string(noFigure) : shown(found.row);
 }
 
-// The standard error of an estimate. A constant column has no estimate, and its standard error is 0.
-std::string errorOf(double estimate, double error)
+constexpr std::size_t mostGroups = 20;
+
+// The groups to be shown, in their order: those of most rows when there are many.
+std::vector<const row_group*> shownGroups(const grouping& groups)
 {
-    return rounded(VB_IsMissingValueDbl(estimate) != 0 ? missingNumber : error, shapeDecimals);
+    std::vector<const row_group*> largest;
+    for (const row_group& group : groups.groups) {
+        largest.push_back(&group);
+    }
+    if (largest.size() > mostGroups) {
+        std::ranges::stable_sort(
+            largest, [](const row_group* a, const row_group* b) { return a->rows.size() > b->rows.size(); });
+        largest.resize(mostGroups);
+        std::ranges::sort(largest);
+    }
+    return largest;
 }
 
 } // namespace
 
-text_table location(data_set& data)
+section notesOnFile(const data_set& data, const findings& found)
 {
-    text_table table({{"column", alignment::left},
-                      {"n", alignment::point},
-                      {"missing", alignment::point},
-                      {"mean", alignment::point},
-                      {"st.dev.", alignment::point},
-                      {"sum", alignment::point}});
-    for (const number_column& column : data.numberColumns) {
-        double mean = missingNumber;
-        double deviation = missingNumber;
-        if (column.present > 0) {
-            VB_V_MeanStdev(column.values, data.rows, &mean, &deviation, data.leftOut.data(),
-                           data.weights.data(), visualBasicTrue, weightsAreFrequencies);
-        }
-        const double sum = VB_V_Sum(column.values, data.rows, data.leftOut.data(), data.weights.data());
-        table.add({shownName(column.name), shown(column.present), shown(data.rows - column.present),
-                   shown(mean, meanDecimals(column)), shown(deviation, meanDecimals(column)),
-                   shown(sum, column.decimals)});
+    section result{"Notes on the file", {}, data.notes, {}};
+    if (data.isWeighted()) {
+        result.notes.push_back(
+            found.areCounts == flatTrue
+                ? "Weights in " + shownName(data.weightColumn) +
+                      ": all are whole numbers, so a row counts as that many observations."
+                : "Weights in " + shownName(data.weightColumn) +
+                      ": not all are whole numbers, so they say how much a row counts beside the others, not"
+                      " how many observations it is.");
     }
-    return table;
+    return result;
 }
 
-text_table quartiles(data_set& data)
+section location(const data_set& data, const findings& found)
+{
+    std::vector<text_table::heading> headings{
+        {"column", alignment::left}, {"n", alignment::point}, {"missing", alignment::point}};
+    if (data.isWeighted()) {
+        headings.push_back({"weight", alignment::point});
+    }
+    for (const char* title : {"mean", "st.dev.", "sum"}) {
+        headings.push_back({title, alignment::point});
+    }
+    text_table table(headings);
+    for (std::size_t j = 0; j < data.numberColumns.size(); ++j) {
+        const number_column& column = data.numberColumns[j];
+        const distribution& figures = found.distributions[j];
+        std::vector<std::string> cells{shownName(column.name), shown(figures.count),
+                                       shown(data.rowsUsed - figures.count)};
+        if (data.isWeighted()) {
+            cells.push_back(shownWeight(figures.weight));
+        }
+        const bool isWhole = found.areCounts == flatTrue;
+        cells.push_back(shown(figures.mean, meanDecimals(column)));
+        cells.push_back(shown(figures.deviation, meanDecimals(column)));
+        cells.push_back(shown(figures.sum, isWhole ? column.decimals : meanDecimals(column)));
+        table.add(cells);
+    }
+    section result{"Numbers", {table}, {}, {}};
+    result.explain(noFigure, "a mean needs one number, a standard deviation two.");
+    result.explain(tooLarge, overflowNote);
+    return result;
+}
+
+section quartiles(const data_set& data, const findings& found)
 {
     text_table table({{"column", alignment::left},
                       {"min", alignment::point},
@@ -111,20 +107,22 @@ text_table quartiles(data_set& data)
                       {"75 %", alignment::point},
                       {"max", alignment::point},
                       {"row", alignment::point}});
-    for (const number_column& column : data.numberColumns) {
-        const auto quantile = [&](double share) {
-            const double value = VB_V_QuantileM(column.values, data.rows, data.leftOut.data(), share);
-            return shown(value, quartileDecimals(column));
-        };
-        const extreme min = smallest(data, column);
-        const extreme max = largest(data, column);
-        table.add({shownName(column.name), shown(min.value, column.decimals), shownRow(min), quantile(0.25),
-                   quantile(0.5), quantile(0.75), shown(max.value, column.decimals), shownRow(max)});
+    for (std::size_t j = 0; j < data.numberColumns.size(); ++j) {
+        const number_column& column = data.numberColumns[j];
+        const distribution& figures = found.distributions[j];
+        const int decimals = quartileDecimals(column);
+        table.add({shownName(column.name), shown(figures.min.value, column.decimals), shownRow(figures.min),
+                   shown(figures.lowerQuartile, decimals), shown(figures.median, decimals),
+                   shown(figures.upperQuartile, decimals), shown(figures.max.value, column.decimals),
+                   shownRow(figures.max)});
     }
-    return table;
+    section result{"Range and quartiles", {table}, {}, {}};
+    result.explain(noFigure, "the column has no numbers.");
+    result.explain(tooLarge, overflowNote);
+    return result;
 }
 
-text_table shape(data_set& data)
+section shape(const data_set& data, const findings& found)
 {
     text_table table({{"column", alignment::left},
                       {"skewness", alignment::point},
@@ -134,40 +132,71 @@ text_table shape(data_set& data)
                       {"geom. mean", alignment::point},
                       {"geom. s.d.", alignment::point},
                       {"harm. mean", alignment::point}});
-    for (const number_column& column : data.numberColumns) {
-        double skewness = missingNumber;
-        double skewnessError = missingNumber;
-        double kurtosis = missingNumber;
-        double kurtosisError = missingNumber;
-        if (column.present > 0) {
-            double mean = 0;
-            double variance = 0;
-            double populationSkewness = 0;
-            double populationKurtosis = 0;
-            // The sample's skewness and kurtosis are made from those of the population, which are the ones
-            // asked for when the variance is not the unbiased one.
-            VB_V_MeanVarSkewPKurtP(column.values, data.rows, &mean, &variance, &populationSkewness,
-                                   &populationKurtosis, &skewness, &kurtosis, &skewnessError, &kurtosisError,
-                                   data.leftOut.data(), data.weights.data(), visualBasicFalse,
-                                   weightsAreFrequencies);
-        }
-        // These two means are for positive numbers. The harmonic mean would have a value for negative ones
-        // too.
-        double geometricMean = missingNumber;
-        double geometricDeviation = missingNumber;
-        double harmonicMean = missingNumber;
-        if (VB_V_Min(column.values, data.rows, data.leftOut.data()) > 0) {
-            Cpp_V_GMeanGSD(column.values, data.rows, data.leftOut.data(), data.weights.data(), &geometricMean,
-                           &geometricDeviation);
-            harmonicMean =
-                Cpp_V_HarmonicMean(column.values, data.rows, data.leftOut.data(), data.weights.data());
-        }
-        table.add({shownName(column.name), rounded(skewness, shapeDecimals), errorOf(skewness, skewnessError),
-                   rounded(kurtosis, shapeDecimals), errorOf(kurtosis, kurtosisError),
-                   shown(geometricMean, meanDecimals(column)), rounded(geometricDeviation, shapeDecimals),
-                   shown(harmonicMean, meanDecimals(column))});
+    for (std::size_t j = 0; j < data.numberColumns.size(); ++j) {
+        const number_column& column = data.numberColumns[j];
+        const shape_figures& figures = found.shapes[j];
+        table.add({shownName(column.name), rounded(figures.skewness, shapeDecimals),
+                   rounded(figures.skewnessError, shapeDecimals), rounded(figures.kurtosis, shapeDecimals),
+                   rounded(figures.kurtosisError, shapeDecimals),
+                   shown(figures.geometricMean, meanDecimals(column)),
+                   rounded(figures.geometricDeviation, shapeDecimals),
+                   shown(figures.harmonicMean, meanDecimals(column))});
     }
-    return table;
+    section result{"Shape", {table}, {}, {}};
+    result.explain(noFigure,
+                   "a skewness needs three numbers that are not all equal, a kurtosis four; a geometric or"
+                   " harmonic mean needs all numbers above 0.");
+    result.explain(tooLarge, overflowNote);
+    return result;
+}
+
+section groups(const data_set& data, const findings& found)
+{
+    if (!data.groups) {
+        return {};
+    }
+    std::vector<text_table::heading> headings{{"column", alignment::left},
+                                              {shownName(data.groups->column), alignment::left},
+                                              {"n", alignment::point},
+                                              {"missing", alignment::point}};
+    if (data.isWeighted()) {
+        headings.push_back({"weight", alignment::point});
+    }
+    for (const char* title : {"mean", "st.dev.", "25 %", "median", "75 %"}) {
+        headings.push_back({title, alignment::point});
+    }
+    const std::vector<const row_group*> largest = shownGroups(*data.groups);
+    text_table table(headings);
+    for (const number_column& column : data.numberColumns) {
+        if (column.name == data.groups->column) {
+            continue;
+        }
+        std::string name = shownName(column.name);
+        for (const row_group* group : largest) {
+            const distribution figures =
+                distributionOf(keptOf(data, column.values, group->rows), found.areCounts);
+            std::vector<std::string> cells{name, shownName(group->name), shown(figures.count),
+                                           shown(static_cast<int>(group->rows.size()) - figures.count)};
+            if (data.isWeighted()) {
+                cells.push_back(shownWeight(figures.weight));
+            }
+            cells.push_back(shown(figures.mean, meanDecimals(column)));
+            cells.push_back(shown(figures.deviation, meanDecimals(column)));
+            for (const double quartile : {figures.lowerQuartile, figures.median, figures.upperQuartile}) {
+                cells.push_back(shown(quartile, quartileDecimals(column)));
+            }
+            table.add(cells);
+            name.clear();
+        }
+    }
+    section result{"Groups by " + shownName(data.groups->column), {table}, {}, {}};
+    result.explain(noFigure, "a mean and quartiles need one number in the group, a standard deviation two.");
+    result.explain(tooLarge, overflowNote);
+    if (largest.size() < data.groups->groups.size()) {
+        result.notes.push_back("The " + std::to_string(mostGroups) + " largest of " +
+                               std::to_string(data.groups->groups.size()) + " groups are shown.");
+    }
+    return result;
 }
 
 } // namespace report

@@ -1,122 +1,107 @@
 /**
  * @file
- * report FILE.csv...: prints a statistical report on each file, computed by KORVELMathTools.
- * report FILE.csv... --y COLUMN: prints the regression of that column on the others instead.
+ * report FILE.csv...: prints a statistical report on each file, computed by KORVELMathTools, and with --html
+ * FILE writes it as a page too. report --help tells the other options.
  *
- * Everything goes through the library's flat functions with plain arrays, as from a macro. Exit code 0; 1
- * when a file could not be read (one line on the error stream tells why, the other files are reported all the
- * same) or a column is not there; 2 without a file.
+ * Everything goes through the library's flat functions with plain arrays, as from a macro.
  */
-#include "csv.h"
-#include "data_set.h"
-#include "regression.h"
-#include "sections.h"
-#include "utf8.h"
+#include "document.h"
+#include "options.h"
+#include "output.h"
+#include "report_document.h"
 
 #include <algorithm>
 #include <exception>
 #include <filesystem>
 #include <iostream>
-#include <optional>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace
 {
 
-std::string counted(std::size_t count, const std::string& thing)
+constexpr int failed = 1;
+constexpr int misused = 2;
+
+void complain(const std::string& about, const std::exception& error)
 {
-    return ", " + std::to_string(count) + " " + thing + (count == 1 ? "" : "s");
+    std::cerr << "report: " << about << ": " << error.what() << '\n';
 }
 
-std::string titleOf(const std::string& fileName, const report::data_set& data)
+// A page that takes the place of its own data would be a loss.
+void checkPage(const report::options& asked)
 {
-    constexpr int nameWidth = 60;
-    std::string title = report::displayText(fileName, nameWidth) + counted(data.leftOut.size(), "row");
-    if (!data.numberColumns.empty()) {
-        title += counted(data.numberColumns.size(), "column") + " of numbers";
-    }
-    if (!data.textColumns.empty()) {
-        title += counted(data.textColumns.size(), "column") + " of text";
-    }
-    return title;
-}
-
-void printSections(report::data_set& data, std::ostream& out)
-{
-    for (const report::section& section : report::sections()) {
-        const report::text_table table = section.make(data);
-        if (!table.empty()) {
-            out << '\n' << section.title << '\n';
-            table.print(out);
+    for (const std::string& file : asked.files) {
+        std::error_code error;
+        if (asked.page && std::filesystem::equivalent(file, *asked.page, error)) {
+            throw std::runtime_error("is the file of the data; name another one for the page");
         }
     }
 }
 
-void printTitle(const std::string& title, std::ostream& out)
+int reportOnAll(const report::options& asked)
 {
-    out << title << '\n' << std::string(static_cast<std::size_t>(report::displayWidth(title)), '=') << '\n';
-}
-
-/** What is asked for: files, and the column that a regression explains. */
-struct request {
-    std::vector<std::string> files;
-    std::optional<std::string> response;
-};
-
-/** Nothing when it cannot be understood. */
-std::optional<request> requestOf(const std::vector<std::string>& words)
-{
-    request asked;
-    for (std::size_t k = 0; k < words.size(); ++k) {
-        if (words[k] != "--y") {
-            asked.files.push_back(words[k]);
-        } else if (++k < words.size()) {
-            asked.response = words[k];
-        } else {
-            return std::nullopt;
+    try {
+        checkPage(asked);
+    } catch (const std::exception& error) {
+        complain(*asked.page, error);
+        return failed;
+    }
+    int status = 0;
+    std::vector<report::document> documents;
+    for (const std::string& file : asked.files) {
+        try {
+            documents.push_back(report::documentOn(file, asked));
+        } catch (const std::exception& error) {
+            complain(file, error);
+            status = failed;
+            continue;
+        }
+        std::ostringstream text;
+        report::printText(documents.back(), text);
+        try {
+            report::writeOut(text.str());
+        } catch (const std::exception& error) {
+            complain("the report", error);
+            return failed;
+        }
+        if (!asked.page) {
+            documents.clear();
         }
     }
-    return asked.files.empty() ? std::nullopt : std::optional(asked);
-}
-
-void printReport(const std::filesystem::path& path, const std::optional<std::string>& response,
-                 std::ostream& out)
-{
-    report::data_set data(report::readCsv(path));
-    const std::string title = titleOf(path.filename().string(), data);
-    if (response) {
-        // Nothing is printed of a file that does not have the column.
-        std::ostringstream regression;
-        report::printRegression(data, *response, regression);
-        printTitle(title, out);
-        out << regression.str();
-    } else {
-        printTitle(title, out);
-        printSections(data, out);
+    // A page on a part of the files would not be the one that is asked for.
+    if (asked.page && status == 0) {
+        std::ostringstream page;
+        report::printPage(documents, page);
+        try {
+            report::writeFile(*asked.page, page.str());
+        } catch (const std::exception& error) {
+            complain(*asked.page, error);
+            status = failed;
+        }
     }
-    out << '\n';
+    return status;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const auto asked = requestOf(std::vector<std::string>(argv + std::min(argc, 1), argv + argc));
-    if (!asked) {
-        std::cerr << "usage: report FILE.csv... [--y COLUMN]\n";
-        return 2;
-    }
-    int status = 0;
-    for (const std::string& file : asked->files) {
-        try {
-            printReport(file, asked->response, std::cout);
-        } catch (const std::exception& error) {
-            std::cout.flush();
-            std::cerr << "report: " << file << ": " << error.what() << '\n';
-            status = 1;
+    try {
+        const report::options asked =
+            report::optionsOf(std::vector<std::string>(argv + std::min(argc, 1), argv + argc));
+        if (asked.help) {
+            report::writeOut(std::string(report::usageLine()) + '\n' + report::helpText());
+            return 0;
         }
+        return reportOnAll(asked);
+    } catch (const report::usage_error& error) {
+        std::cerr << "report: " << error.what() << '\n' << report::usageLine() << '\n';
+        return misused;
+    } catch (const std::exception& error) {
+        complain("the report", error);
+        return failed;
     }
-    return std::cout.flush() ? status : 1;
 }

@@ -43,39 +43,6 @@ decoded decodeFirst(std::string_view text)
     return {character, length};
 }
 
-bool isUtf8(std::string_view text)
-{
-    while (!text.empty()) {
-        const decoded first = decodeFirst(text);
-        if (first.length == 0) {
-            return false;
-        }
-        text.remove_prefix(first.length);
-    }
-    return true;
-}
-
-void append(std::string& utf8, char32_t character)
-{
-    const auto add = [&utf8](char32_t byte) { utf8 += static_cast<char>(static_cast<unsigned char>(byte)); };
-    const auto addLast = [&add](char32_t bits) { add(0x80U | (bits & 0x3FU)); };
-    if (character < 0x80) {
-        add(character);
-    } else if (character < 0x800) {
-        add(0xC0U | (character >> 6U));
-        addLast(character);
-    } else if (character < 0x10000) {
-        add(0xE0U | (character >> 12U));
-        addLast(character >> 6U);
-        addLast(character);
-    } else {
-        add(0xF0U | (character >> 18U));
-        addLast(character >> 12U);
-        addLast(character >> 6U);
-        addLast(character);
-    }
-}
-
 struct range {
     char32_t first;
     char32_t last;
@@ -116,16 +83,38 @@ bool isControl(char32_t c)
 
 } // namespace
 
-std::string asUtf8(std::string bytes)
+std::size_t endOfUtf8(std::string_view text)
 {
-    if (isUtf8(bytes)) {
-        return bytes;
+    std::size_t end = 0;
+    while (end < text.size()) {
+        const std::size_t length = decodeFirst(text.substr(end)).length;
+        if (length == 0) {
+            break;
+        }
+        end += length;
     }
-    std::string converted;
-    for (const char byte : bytes) {
-        append(converted, static_cast<unsigned char>(byte));
+    return end;
+}
+
+void appendUtf8(std::string& utf8, char32_t character)
+{
+    const auto add = [&utf8](char32_t byte) { utf8 += static_cast<char>(static_cast<unsigned char>(byte)); };
+    const auto addLast = [&add](char32_t bits) { add(0x80U | (bits & 0x3FU)); };
+    if (character < 0x80) {
+        add(character);
+    } else if (character < 0x800) {
+        add(0xC0U | (character >> 6U));
+        addLast(character);
+    } else if (character < 0x10000) {
+        add(0xE0U | (character >> 12U));
+        addLast(character >> 6U);
+        addLast(character);
+    } else {
+        add(0xF0U | (character >> 18U));
+        addLast(character >> 12U);
+        addLast(character >> 6U);
+        addLast(character);
     }
-    return converted;
 }
 
 bstr_pointer toBstr(std::string_view utf8)
@@ -157,7 +146,7 @@ std::string toUtf8(OLECHAR* bstr)
         if (unit >= 0xD800 && unit < 0xDC00) {
             leading = unit - 0xD7C0;
         } else {
-            append(utf8, leading == 0 ? unit : (leading << 10U) | (unit & 0x3FFU));
+            appendUtf8(utf8, leading == 0 ? unit : (leading << 10U) | (unit & 0x3FFU));
             leading = 0;
         }
     }

@@ -7,6 +7,7 @@
 
 #include "korvelmathtools/KORVELMathTools.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -14,8 +15,11 @@
 namespace report
 {
 
-/** The text itself when it is UTF-8, otherwise its bytes taken for Latin-1, as older spreadsheets save. */
-std::string asUtf8(std::string bytes);
+/** How many of the first bytes are UTF-8. */
+std::size_t endOfUtf8(std::string_view text);
+
+/** Appends a character to a text in UTF-8. */
+void appendUtf8(std::string& utf8, char32_t character);
 
 /** Frees a BSTR. */
 struct bstr_free {
