@@ -39,7 +39,7 @@ def blocks(page):
 def declared_counts(module):
     """How many arguments each declared function has."""
     text = re.sub(r" _\n\s*", " ", module)
-    found = re.findall(r"^Public Declare PtrSafe (?:Function|Sub) (\w+) Lib \"[^\"]*\"(?: Alias \"[^\"]*\")? \((.*)\)", text,
+    found = re.findall(r"^Public Declare PtrSafe (?:Function|Sub) (\w+) Lib \"KORVELMathTools.dll\"(?: Alias \"[^\"]*\")? \((.*)\)", text,
                        re.MULTILINE)
     return {name: len([p for p in parameters.split(",") if p.strip()]) for name, parameters in found}
 

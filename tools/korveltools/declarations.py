@@ -69,6 +69,11 @@ class Parameter:
     text: list = field(default_factory=list)
 
     @property
+    def described(self):
+        """The direction and the text."""
+        return ", ".join(filter(None, (self.direction, one_line(self.text))))
+
+    @property
     def nullable(self):
         return re.search(r"\b(may be null|[Nn]ull:)", one_line(self.text)) is not None
 
@@ -117,6 +122,12 @@ class Function:
     def prototype(self):
         parameters = ", ".join(spell(p.type, p.name) for p in self.parameters)
         return f"{spell(self.result, self.name)}({parameters or 'void'});"
+
+    @property
+    def outcome(self):
+        """What it returns and raises, a line each."""
+        return [f"returns {one_line(tag.text)}" for tag in self.doc.tagged("return")] + [
+            f"raises {tag.name} {one_line(tag.text)}".rstrip() for tag in self.doc.tagged("throws")]
 
 
 @dataclass

@@ -1,6 +1,6 @@
 """The committed files that are made from the flat headers and from VERSION, as {path below the root: content}."""
 
-from . import calc_files, core_list, flat_headers, python_module, reference_page, released, vba_module
+from . import calc_files, core_list, flat_headers, python_module, records, reference_page, released, vba_module
 
 
 def names_of(headers):
@@ -49,6 +49,7 @@ def version_header(version):
 def make(root):
     """All made files, and the problems found in the headers, which make the files worthless."""
     headers, common, problems = flat_headers.read_all(root)
+    layouts = records.read_records(root, problems)
     if problems:
         return {}, problems
 
@@ -58,7 +59,7 @@ def make(root):
     made = {
         "exports/flat.txt": flat_list(headers),
         "bindings/KORVELMathTools.def": module_definition(headers),
-        "bindings/vba/KORVELMathTools.bas": vba_module.make(headers, problem),
+        "bindings/vba/KORVELMathTools.bas": vba_module.make(headers, layouts, records.read_missing(root), problem),
         "bindings/python/korvelmathtools/_declarations.py":
             python_module.make(headers, version_of(root), released.abi(root)),
         "docs/reference.md": reference_page.make(headers, common.title),

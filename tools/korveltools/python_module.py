@@ -28,12 +28,7 @@ def rooms_of(parameter):
 def description(function):
     lines = [one_line([function.prototype]), ""]
     lines += [line.strip() for line in function.doc.text]
-    lines += ["", *[f"{p.name}: {p.direction + ', ' if p.direction else ''}{one_line(p.text)}" for p in function.parameters]]
-    for tag in function.doc.tagged("return"):
-        lines.append(f"returns {one_line(tag.text)}")
-    for tag in function.doc.tagged("throws"):
-        lines.append(f"raises {tag.name} {one_line(tag.text)}".rstrip())
-    return lines
+    return [*lines, "", *[f"{p.name}: {p.described}" for p in function.parameters], *function.outcome]
 
 
 def entry(function):

@@ -3,6 +3,7 @@
 import re
 import textwrap
 
+from . import vba_records
 from .declarations import one_line
 
 LIBRARY = "KORVELMathTools.dll"
@@ -55,8 +56,8 @@ Option Explicit
 '   one text                         StrPtr(x)
 '   a host array of String           VarPtr(holder) + 8, where holder is a Variant that holds the array (ReDim holder(1
 '                                    To 9) As String): as an array parameter its texts would arrive in 8-bit characters
-'   chunked tables                   the address of the array variable that holds the column records
-'   records                          VarPtr(record)
+'   chunked tables                   VarPtr(table), where table is a HostarrayTable, below
+'   records                          VarPtr(record), of one of the types below
 ' ByVal x As String                  a short label in 8-bit characters.
 '
 ' KORVEL_NULL stands for an array, block or record that is absent, where the function allows that.
@@ -78,8 +79,7 @@ def unique_name(name, taken):
     return result
 
 
-def declare_parameter(parameter, taken):
-    name = unique_name(parameter.name, taken)
+def declare_parameter(parameter, name):
     if parameter.type == "SAFEARRAY**":
         element = parameter.host_element
         return f"ByVal {name} As LongPtr" if element == "String" else f"ByRef {name}() As {element}"
@@ -97,24 +97,28 @@ def first_sentence(text):
     return paragraph[: end.end()] if end else paragraph
 
 
-def comment(function):
-    sentences = [first_sentence(function.doc.text)]
-    for parameter in function.parameters:
-        if parameter.nullable and parameter.plain_type in BY_REFERENCE:
-            sentences.append(f"{parameter.name} ({BY_REFERENCE[parameter.plain_type]}) may be null.")
-    return textwrap.wrap(" ".join(sentences), WIDTH, initial_indent="' ", subsequent_indent="' ")
+def comment(function, names):
+    """The lines above a declaration: what it does, then each argument and the result."""
+    lines = textwrap.wrap(first_sentence(function.doc.text), WIDTH, initial_indent="' ", subsequent_indent="' ")
+    told = []
+    for parameter, name in zip(function.parameters, names):
+        absent = parameter.nullable and parameter.plain_type in BY_REFERENCE
+        kind = f" ({BY_REFERENCE[parameter.plain_type]}, or ByVal KORVEL_NULL)" if absent else ""
+        told.append(f"{name}{kind}: {parameter.described}")
+    for line in [*told, *function.outcome]:
+        lines += textwrap.wrap(line, WIDTH, initial_indent="'   ", subsequent_indent="'       ")
+    return lines
 
 
-def declaration(function, taken):
-    """The lines of one `Declare` statement."""
+def declaration(function, names, taken):
+    """The lines of one `Declare` statement, its arguments having these names."""
     if len(function.parameters) > MOST_PARAMETERS:
         raise CannotDeclare(f"more than {MOST_PARAMETERS} parameters, which Visual Basic cannot declare")
     kind = "Sub" if function.result == "void" else "Function"
     result = "" if function.result == "void" else f" As {BY_VALUE[function.result]}"
     name = unique_name(function.name, taken)
     alias = "" if name == function.name else f' Alias "{function.name}"'
-    inside = set()
-    parameters = [declare_parameter(p, inside) for p in function.parameters]
+    parameters = [declare_parameter(p, inside) for p, inside in zip(function.parameters, names)]
     opening = f'Public Declare PtrSafe {kind} {name} Lib "{LIBRARY}"{alias} ('
     if not parameters:
         return [f"{opening}){result}"]
@@ -135,17 +139,19 @@ def declaration(function, taken):
     return lines
 
 
-def make(headers, problem):
+def make(headers, records, missing, problem):
     """The whole module; `problem(header, function, message)` is told of what cannot be declared."""
-    taken = {"korvel_null"}
-    lines = PREAMBLE.splitlines()
+    lines = [*PREAMBLE.splitlines(), *vba_records.make(records, missing)]
+    taken = {name.lower() for name in re.findall(r"^Public (?:\w+ )*?(\w+)(?: As| Lib|$)", "\n".join(lines), re.MULTILINE)}
     for header in headers:
         if not header.functions:
             continue
         lines += ["", f"' ---- {header.name}"]
         for function in header.functions:
+            inside = set()
+            names = [unique_name(p.name, inside) for p in function.parameters]
             try:
-                lines += ["", *comment(function), *declaration(function, taken)]
+                lines += ["", *comment(function, names), *declaration(function, names, taken)]
             except CannotDeclare as error:
                 problem(header, function, str(error))
     return "".join(f"{line}\r\n" for line in lines)
