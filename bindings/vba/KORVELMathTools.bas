@@ -202,8 +202,8 @@ Public Declare PtrSafe Function Cpp_M_DuplicateMVDblTriang_ST Lib "KORVELMathToo
 '   labels: out, k by k texts: the letters of each level, letter c in column c. With more than 256
 '       levels there are 256 columns. When the first mean in the order is missing, column 1 stays
 '       empty
-'   groupCount: out, one integer: how many columns are taken; 257 when there was no room for the
-'       last letter
+'   groupCount: out, one integer: how many columns are taken, 1 where there is no level; 257 when
+'       there was no room for the last letter
 '   success: out, one flag: -1, or 0 when there were too many letters
 '   descending: not 0: from the largest mean down; 0: from the smallest one up
 '   returns 0

@@ -33,7 +33,11 @@ class MadeFiles(Tree):
         self.assertEqual(
             self.declarations(),
             [
-                "' Sums a vector, e.g. of weights. flags (Integer) may be null.",
+                "' Sums a vector, e.g. of weights.",
+                "'   x: in, n numbers",
+                "'   n: their number",
+                "'   flags (Integer, or ByVal KORVEL_NULL): in, n flags; Null: none is set",
+                "'   returns the sum",
                 'Public Declare PtrSafe Function VB_Sum Lib "KORVELMathTools.dll" ( _',
                 "    ByRef x As Double, ByVal n As Long, ByRef flags As Any) As Double",
             ],
@@ -43,11 +47,11 @@ class MadeFiles(Tree):
         for text in ("n flags. Null: none is", "n flags; may be null", "n flags; null: none is"):
             self.functions(SUM.replace("n flags;\n *              Null: none is set", text))
             self.make()
-            self.assertIn("flags (Integer) may be null", self.declarations()[0])
+            self.assertIn("ByRef flags As Any", self.declarations()[-1])
             self.assertIn("`flags` [in, may be null]", self.read("docs/reference.md"))
         self.functions(SUM.replace("n flags;\n *              Null: none is set", "n flags; not null unless n is 0"))
         self.make()
-        self.assertNotIn("may be null", self.declarations()[0])
+        self.assertIn("ByRef flags As Integer", self.declarations()[-1])
         self.assertIn("`flags` [in, not null]", self.read("docs/reference.md"))
 
     def test_declares_every_type(self):
@@ -79,7 +83,7 @@ KORVEL_FLAT void VB_All(short int a, const int* b, short int* c, OLECHAR** d, co
         )
         self.make()
         self.assertEqual(
-            " ".join(line.strip(" _") for line in self.declarations()[1:]),
+            " ".join(line.strip(" _") for line in self.declarations() if not line.startswith("'")),
             'Public Declare PtrSafe Sub VB_All Lib "KORVELMathTools.dll" ( ByVal a As Integer, ByRef b As Long, '
             "ByRef c As Integer, ByVal d As LongPtr, ByVal e As LongPtr, ByRef f() As Double, ByRef g() As Boolean, "
             "ByVal h As LongPtr, ByVal i As LongPtr, ByVal j As LongPtr, ByVal k As LongPtr, ByVal l As LongPtr, "
@@ -107,6 +111,10 @@ KORVEL_FLAT void openValue(void);
             self.declarations(),
             [
                 "' Names.",
+                "'   nextValue: a word of the language",
+                "'   k: a name",
+                "'   K2: the same name, cases being the same",
+                "'   returns a block",
                 'Public Declare PtrSafe Function OpenValue Lib "KORVELMathTools.dll" Alias "Open" ( _',
                 "    ByVal nextValue As Long, ByVal k As Long, ByVal K2 As Long) As LongPtr",
                 "",
@@ -121,10 +129,38 @@ KORVEL_FLAT void openValue(void);
         declared = ",\n    ".join(f"int {name}" for name in names)
         self.functions(f"/**\n * Many.\n *\n{described} */\nKORVEL_FLAT void VB_Many({declared});\n")
 
+    def test_visual_basic_records(self):
+        self.functions(SUM)
+        self.make()
+        module = self.read("bindings/vba/KORVELMathTools.bas").replace("\r\n", "\n")
+        self.assertIn("Public Const KORVEL_MISSING_DBL As Double = -1.5E+308\n", module)
+        self.assertIn("Public Const KORVEL_MISSING_LNG As Long = -7 - 1\n", module)
+        for type_ in (
+            "Public Type ST_Vect\n    Count As Long    ' Its cells.\n    Label As String    ' Its name.\n"
+            "    Vect() As Double    ' The column.\nEnd Type\n",
+            "    Vect() As String    ' The column.\nEnd Type\n",
+            "Public Type ST_MVectStr\n    nbrows() As Long    ' int: row counts.\n"
+            "    Vectors() As ST_VectStr    ' ST_Vect records.\nEnd Type\n",
+            "Public Type ST_QualiInfo\n    SumW As Double    ' Sum.\n    withSort As Integer    ' -1: sorted.\n"
+            "    CatNames As ST_MVectStr    ' Texts.\n    CatFreq As ST_MVect    ' double.\nEnd Type\n",
+        ):
+            self.assertIn(type_, module)
+
+    def test_says_which_records_cannot_be_read(self):
+        self.functions(SUM)
+        self.write(
+            "include/korvelmathtools/containers/caller_records.h",
+            "/** One. */\ntypedef struct One {\n    long Count; /**< Its cells. */\n} One;\ntypedef struct Two {\n} Two;\n",
+        )
+        code, errors = self.run_tool("generate")
+        self.assertEqual(code, 1)
+        self.assertEqual([error.split("caller_records.h:")[1] for error in errors],
+                         ["3: One: cannot read this field", "1: a record that cannot be read"])
+
     def test_keeps_to_the_limits_of_visual_basic(self):
         self.many_parameters(40)
         self.make()
-        lines = self.declarations()[1:]
+        lines = [line for line in self.declarations() if not line.startswith("'")]
         self.assertLessEqual(len(lines), 25)
         self.assertTrue(all(line.endswith(" _") for line in lines[:-1]))
         self.assertLessEqual(max(map(len, lines)), 1023)

@@ -38,6 +38,34 @@ COMMON = """\
 #endif
 """
 
+RECORDS = """\
+/** One labelled column, 24 bytes. */
+typedef struct ST_Vect {
+    int Count;       /**< Its cells. */
+    BSTR Label;      /**< Its name. */
+    SAFEARRAY* Vect; /**< The column. */
+} ST_Vect;
+
+/** A table. */
+typedef struct ST_MVect {
+    SAFEARRAY* nbrows;  /**< `int`: row counts. */
+    SAFEARRAY* Vectors; /**< `ST_Vect` records. */
+} ST_MVect;
+
+/** Categories. */
+typedef struct ST_QualiInfo {
+    double SumW;        /**< Sum. */
+    short int withSort; /**< -1: sorted. */
+    ST_MVect CatNames;  /**< Texts. */
+    ST_MVect CatFreq;   /**< `double`. */
+} ST_QualiInfo;
+"""
+
+MISSING = """\
+#define KORVEL_MISSING_DBL (-1.5e308)
+#define KORVEL_MISSING_LNG (-7 - 1)
+"""
+
 OPENING = """\
 /**
  * @file
@@ -95,6 +123,8 @@ class Tree(unittest.TestCase):
         self.addCleanup(shutil.rmtree, self.root)
         self.write("include/korvelmathtools/KORVELMathTools.h", UMBRELLA)
         self.write("include/korvelmathtools/frames/types.h", COMMON)
+        self.write("include/korvelmathtools/containers/caller_records.h", RECORDS)
+        self.write("include/korvelmathtools/containers/missing_values.h", MISSING)
         self.write("VERSION", "1.20.3\n")
 
     def write(self, name, text):
