@@ -115,7 +115,7 @@ class VisualBasic(unittest.TestCase):
         for module, right, wrong in (("KORVELMathTools", "    ByRef x As Double, ", "    ByRef x Az Double, "),
                                      ("KORVELMathTools", "End Type", "End Typ"),
                                      ("Sample", "record.nbcols = columns", "record.nbcolumns columns ="),
-                                     ("Sample", "    Dim first As Long\r\n", "")):
+                                     ("Sample", "        Next i\r\n", "")):
             text = "\r\n".join(MODULES[module].splitlines()) + "\r\n"
             self.assertIn(right, text)
             ask = self.office.library({**MODULES, module: text.replace(right, wrong, 1)})
