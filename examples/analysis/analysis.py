@@ -4,49 +4,16 @@
     analysis.py [--exact] FILE    a table like examples/data/airquality.csv; --exact prints hexadecimal numbers, to the bit
 """
 
-import csv
 import itertools
 import sys
 
 import numpy
 
+import csv_table
 import korvelmathtools as kmt
 
 NUMBERS = ("Ozone", "Solar.R", "Wind", "Temp")
 GROUP = "Month"
-
-
-class BadTable(Exception):
-    """What is wrong with the file, in a few words."""
-
-
-def read(path):
-    """The columns of numbers as a table in which missing cells are NaN, and the texts of the column of groups."""
-    with open(path, newline="", encoding="utf-8") as file:
-        header, *rows = list(csv.reader(file)) or [[]]
-    for name in (*NUMBERS, GROUP):
-        if name not in header:
-            raise BadTable(f"no column {name}")
-    if not rows:
-        raise BadTable("no rows")
-    for line, row in enumerate(rows, start=2):
-        if len(row) != len(header):
-            raise BadTable(f"line {line} has {len(row)} cells, not {len(header)}")
-    places = [header.index(name) for name in NUMBERS]
-    numbers = [[number(row[place], line) for place in places] for line, row in enumerate(rows, start=2)]
-    return numpy.array(numbers), [row[header.index(GROUP)] for row in rows]
-
-
-def number(cell, line):
-    if cell in ("", "NA"):
-        return numpy.nan
-    try:
-        value = float(cell)
-    except ValueError:
-        value = numpy.nan
-    if not numpy.isfinite(value):
-        raise BadTable(f"line {line}: {cell} is not a number")
-    return value
 
 
 def analyse(table, groups):
@@ -83,7 +50,7 @@ def analyse(table, groups):
         yield f"correlation of {NUMBERS[i]} and {NUMBERS[j]}", correlations[i, j]
     eigen = kmt.VB_M_Eigen(correlations, sortFlag=True)
     if eigen.result != 0:
-        raise BadTable("no eigenvalues: too few complete rows, or a column is constant")
+        raise csv_table.BadTable("no eigenvalues: too few complete rows, or a column is constant")
     for k, value in enumerate(eigen.values, start=1):
         yield f"eigenvalue {k}", value
 
@@ -109,11 +76,12 @@ def main(words):
     if len(files) != 1:
         sys.exit("usage: analysis.py [--exact] FILE")
     try:
-        numbers, groups = read(files[0])
-        for name, value in analyse(kmt.from_nan(numbers), groups):
+        columns = csv_table.read(files[0], NUMBERS, [GROUP])
+        table = kmt.from_nan(numpy.column_stack([columns[name] for name in NUMBERS]))
+        for name, value in analyse(table, columns[GROUP]):
             print(f"{name:32}", float(value).hex() if options else f"{value:12.6g}")
-    except (BadTable, OSError, UnicodeError) as problem:
-        sys.exit(f"analysis: {files[0]}: {getattr(problem, 'strerror', None) or problem}")
+    except csv_table.BadTable as problem:
+        sys.exit(f"analysis: {files[0]}: {problem}")
 
 
 if __name__ == "__main__":

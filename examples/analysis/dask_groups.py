@@ -14,12 +14,12 @@ of its random source. Each part seeds that source by its own number, so its draw
 on what that worker has done before.
 """
 
-import csv
 import sys
 
 import numpy
 from distributed import Client, LocalCluster
 
+import csv_table
 import korvelmathtools as kmt
 
 WORKERS = 2
@@ -27,29 +27,12 @@ RESAMPLES = 200
 SEED = 20260101  # of all parts together
 
 
-class BadTable(Exception):
-    """What is wrong with the file, in a few words."""
-
-
 def read(path, group, number):
     """The numbers of each group, NaN where one is missing; the groups in order of their first row."""
-    with open(path, newline="", encoding="utf-8") as file:
-        header, *rows = list(csv.reader(file)) or [[]]
-    for name in (group, number):
-        if name not in header:
-            raise BadTable(f"no column {name}")
-    if not rows:
-        raise BadTable("no rows")
+    columns = csv_table.read(path, [number], [group])
     groups = {}
-    for line, row in enumerate(rows, start=2):
-        if len(row) != len(header):
-            raise BadTable(f"line {line} has {len(row)} cells, not {len(header)}")
-        cell = row[header.index(number)]
-        try:
-            value = numpy.nan if cell in ("", "NA") else float(cell)
-        except ValueError:
-            raise BadTable(f"line {line}: {cell} is not a number") from None
-        groups.setdefault(row[header.index(group)], []).append(value)
+    for name, value in zip(columns[group], columns[number]):
+        groups.setdefault(name, []).append(value)
     return groups
 
 
@@ -112,8 +95,8 @@ def main(words):
         sys.exit("usage: dask_groups.py [--scheduler=ADDRESS] [--alone] [--exact] FILE GROUP NUMBER")
     try:
         groups = read(*arguments)
-    except (BadTable, OSError, UnicodeError) as problem:
-        sys.exit(f"dask_groups: {arguments[0]}: {getattr(problem, 'strerror', None) or problem}")
+    except csv_table.BadTable as problem:
+        sys.exit(f"dask_groups: {arguments[0]}: {problem}")
     try:
         summaries = summarise_alone(groups) if "--alone" in options else summarise_by(options.get("--scheduler"), groups)
     except (OSError, ValueError) as problem:

@@ -82,19 +82,17 @@ class Workers(unittest.TestCase):
             self.assertLess(0.1 * summary[2] / len(numbers) ** 0.5, summary[4])
             self.assertLess(summary[4], 3 * summary[2] / len(numbers) ** 0.5)
 
-    def run_program(self, *words):
+    def run_program(self, *words, **settings):
         done = subprocess.run([sys.executable, PROGRAM, *words], stdout=subprocess.PIPE, stderr=subprocess.PIPE,
-                              encoding="utf-8", check=False, timeout=120,
-                              env=dict(os.environ, DASK_DISTRIBUTED__COMM__TIMEOUTS__CONNECT="1s"))
+                              encoding="utf-8", check=False, timeout=240, env=dict(os.environ, **settings))
         return done.returncode, done.stdout, done.stderr
 
     def test_the_program(self):
-        shown = [self.run_program("--exact", *options, *CHICKS)
-                 for options in ([], ["--alone"], [f"--scheduler={self.cluster.scheduler_address}"])]
-        code, out, err = shown[0]
-        self.assertEqual((code, err), (0, ""))
-        self.assertEqual([line.split()[1:] for line in out.splitlines()[1:]], self.alone)
-        self.assertEqual(shown, [shown[0]] * 3)
+        # A cluster on a busy machine may complain on the error stream of how slow it is.
+        for options in ([], [f"--scheduler={self.cluster.scheduler_address}"]):
+            code, out, err = self.run_program("--exact", *options, *CHICKS)
+            self.assertEqual(code, 0, err)
+            self.assertEqual([line.split()[1:] for line in out.splitlines()[1:]], self.alone)
         code, out, err = self.run_program("--alone", *CHICKS)
         self.assertEqual((code, err), (0, ""))
         self.assertRegex(out.splitlines()[3], "^soybean +14 +246.429 +54.1291 +248 +[0-9.]+$")
@@ -109,12 +107,13 @@ class Workers(unittest.TestCase):
         self.refused("usage: .*", *CHICKS[:2])
         self.refused("dask_groups: nowhere.csv: No such file or directory", "nowhere.csv", "feed", "weight")
         self.refused(r"dask_groups: .*chickwts\.csv: no column mass", *CHICKS[:2], "mass")
-        code, out, err = self.run_program("--scheduler=tcp://127.0.0.1:1", *CHICKS)
+        code, out, err = self.run_program("--scheduler=tcp://127.0.0.1:1", *CHICKS,
+                                          DASK_DISTRIBUTED__COMM__TIMEOUTS__CONNECT="1s")
         self.assertEqual((code, out), (1, ""))
         self.assertRegex(err, "^dask_groups: tcp://127.0.0.1:1: Timed out .*\n$")
         with tempfile.TemporaryDirectory() as folder:
             file = Path(folder) / "table.csv"
-            for text, message in (("", "no column feed"), ("feed,weight\n", "no rows"),
+            for text, message in (("", "no column weight"), ("feed,weight\n", "no rows"),
                                   ("feed,weight\na\n", "line 2 has 1 cells, not 2"),
                                   ("feed,weight\na,b\n", "line 2: b is not a number")):
                 file.write_text(text, encoding="ascii")
