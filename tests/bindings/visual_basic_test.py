@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """visual_basic_test.py FOLDER: has the modules of Visual Basic read by a Basic, and what in them needs no library run by it.
 That Basic is LibreOffice's, which does not know `PtrSafe` and `LongPtr`, cannot call a library, and reads arrays inside
-records but cannot fill them. A procedure gives nothing when a line of its module cannot be read. FOLDER, which is emptied first, becomes the home of the office.
+records but cannot fill them. A procedure gives nothing when a line of its module cannot be read. FOLDER, which is emptied
+first, becomes the home of the office.
 """
 
 import os

@@ -1,6 +1,6 @@
 """The committed files that are made from the flat headers and from VERSION, as {path below the root: content}."""
 
-from . import calc_files, core_list, flat_headers, python_module, records, reference_page, released, vba_module
+from . import calc_files, core_list, csharp_class, flat_headers, python_module, records, reference_page, released, vba_module
 
 
 def names_of(headers):
@@ -56,10 +56,12 @@ def make(root):
     def problem(header, function, message):
         problems.append(flat_headers.Problem(header.path, function.line, f"{function.name}: {message}"))
 
+    missing = records.read_missing(root)
     made = {
         "exports/flat.txt": flat_list(headers),
         "bindings/KORVELMathTools.def": module_definition(headers),
-        "bindings/vba/KORVELMathTools.bas": vba_module.make(headers, layouts, records.read_missing(root), problem),
+        "bindings/vba/KORVELMathTools.bas": vba_module.make(headers, layouts, missing, problem),
+        "bindings/csharp/KORVELMathTools.cs": csharp_class.make(headers, layouts, missing, version_of(root)),
         "bindings/python/korvelmathtools/_declarations.py":
             python_module.make(headers, version_of(root), released.abi(root)),
         "docs/reference.md": reference_page.make(headers, common.title),

@@ -157,6 +157,111 @@ KORVEL_FLAT void openValue(void);
         self.assertEqual([error.split("caller_records.h:")[1] for error in errors],
                          ["3: One: cannot read this field", "1: a record that cannot be read"])
 
+    def csharp(self, functions):
+        """The C# file made of these functions, without the blanks at the start of its lines."""
+        self.functions(functions)
+        self.make()
+        return [line.strip() for line in self.read("bindings/csharp/KORVELMathTools.cs").splitlines()]
+
+    def part(self, lines, first, last):
+        start = lines.index(first)
+        return lines[start : lines.index(last, start)]
+
+    def test_csharp_methods_and_declarations(self):
+        made = self.csharp(SUM)
+        start = "/// <summary>Sums a vector, e.g. of weights. Adds upwards.</summary>"
+        self.assertEqual(
+            self.part(made, start, "}"),
+            [
+                start,
+                '/// <param name="x">in, n numbers</param>',
+                '/// <param name="n">their number</param>',
+                '/// <param name="flags">in, n flags; Null: none is set</param>',
+                "/// <returns>the sum</returns>",
+                "public static double VB_Sum(double[] x, int n, short[] flags)",
+                "{",
+                'Room.Check("VB_Sum", "x", x, (long)n, 1);',
+                'Room.Check("VB_Sum", "flags", flags, (long)n, 1, true);',
+                "return Native.VB_Sum(x, n, flags);",
+            ],
+        )
+        self.assertEqual(self.part(made, "[DllImport(Library)]", "}")[1:],
+                         ["internal static extern double VB_Sum(double[] x, int n, short[] flags);"])
+        for constant in ("double KORVEL_MISSING_DBL = -1.5e308", "int KORVEL_MISSING_LNG = -7 - 1", 'string Version = "1.20.3"'):
+            self.assertIn(f"public const {constant};", made)
+        self.assertEqual(
+            [line for line in self.part(made, "public struct ST_Vect", "}") if line.startswith("public")],
+            ["public struct ST_Vect", "public int Count;", "public IntPtr Label;", "public IntPtr Vect;"],
+        )
+
+    def test_csharp_types(self):
+        made = self.csharp(
+            """\
+/**
+ * Takes a < b.
+ *
+ * @param in [in] one integer
+ * @param c [out] one flag
+ * @param n [inout] one integer: a count
+ * @param d [inout] 2 by n texts
+ * @param e [in] one text
+ * @param f [in] host array of Double
+ * @param i [in] chunks; may be null
+ * @param k [in] record
+ * @param m [in] one cell
+ * @param label [in] label
+ * @return a text
+ */
+KORVEL_FLAT OLECHAR* VB_All(const int* in, short int* c, int* n, OLECHAR** d, const OLECHAR* e, SAFEARRAY** f,
+                            Hostarray** i, ST_MVect* k, const VARIANT* m, const char* label);
+"""
+        )
+        self.assertIn("/// <summary>Takes a &lt; b.</summary>", made)
+        text = " ".join(made)
+        self.assertIn("public static string VB_All(int @in, out short c, ref int n, string[] d, string e, HostArray f, "
+                      "HostArray i, ref ST_MVect k, IntPtr m, string label)", text)
+        self.assertIn("internal static extern IntPtr VB_All(ref int @in, out short c, ref int n, IntPtr[] d, IntPtr e, "
+                      "IntPtr[] f, IntPtr[] i, ref ST_MVect k, IntPtr m, string label);", text)
+        self.assertIn(
+            'Room.Check("VB_All", "d", d, 2, (long)n); using (var dTexts = new Texts("VB_All", "d", d)) '
+            'using (var eTexts = new Texts("VB_All", "e", new[] { e })) { string answer = Texts.Take(Native.VB_All(ref @in, '
+            "out c, ref n, dTexts.Cells, eTexts.Cells[0], HostArray.Of(f), HostArray.Of(i), ref k, m, label)); "
+            "dTexts.CopyTo(d); return answer; }",
+            text,
+        )
+
+    def test_csharp_rooms(self):
+        made = self.csharp(
+            """\
+/**
+ * Rooms.
+ *
+ * @param n rows
+ * @param p columns; 0 counts as 1
+ * @param counts [in] n integers
+ * @param mode 1 or 2
+ * @param a [in] n by (p + 1) / 2 numbers
+ * @param b [in] max(n, p) by sum(counts) numbers, or n numbers when mode is 2
+ * @param c [in] max(counts) * n numbers
+ * @param k [in] record
+ * @param d [in] k.nbrowsmax by p numbers
+ */
+KORVEL_FLAT void VB_Rooms(int n, int p, const int* counts, int mode, const double* a, const double* b, const double* c,
+                          ST_MVect* k, const double* d);
+"""
+        )
+        one = "(p == 0 ? 1L : p)"
+        self.assertEqual(
+            [line.split(", ", 3)[3] for line in made if line.startswith("Room.Check")],
+            [
+                "(long)n, 1);",
+                f"(long)n, ({one} + 1) / 2);",
+                f"mode == 2 ? (long)n : Math.Max((long)n, {one}), mode == 2 ? 1 : Room.PositiveSum(counts));",
+                "Room.Largest(counts) * (long)n, 1);",
+                f"k.nbrowsmax, {one});",
+            ],
+        )
+
     def test_keeps_to_the_limits_of_visual_basic(self):
         self.many_parameters(40)
         self.make()
@@ -268,6 +373,7 @@ KORVEL_FLAT void openValue(void);
                     "exports/flat.txt",
                     "bindings/KORVELMathTools.def",
                     "bindings/vba/KORVELMathTools.bas",
+                    "bindings/csharp/KORVELMathTools.cs",
                     "bindings/python/korvelmathtools/_declarations.py",
                     "docs/reference.md",
                 )
