@@ -5,35 +5,17 @@
 """
 
 import re
-import shutil
-import subprocess
 import sys
 import unittest
-import zipfile
 from pathlib import Path
 
-from office import Office
+from office import Office, make_extension
 
 ROOT, SCRATCH = map(Path, sys.argv[1:3])
 NOT_AVAILABLE, NOT_A_NUMBER, BAD_ARGUMENT = 32767, 503, 502
 
 
-def make_extension():
-    """The extension as tools/package makes it, and the Python package that is in it."""
-    shutil.rmtree(SCRATCH, ignore_errors=True)
-    SCRATCH.mkdir(parents=True)
-    done = subprocess.run([ROOT / "tools" / "package", "--calc", "--to", SCRATCH / "dist"], stdout=subprocess.PIPE,
-                          stderr=subprocess.STDOUT, encoding="utf-8", check=False)
-    if done.returncode != 0:
-        raise SystemExit(done.stdout)
-    (extension,) = (SCRATCH / "dist").glob("*.oxt")
-    with zipfile.ZipFile(extension) as archive:
-        archive.extractall(SCRATCH / "extension")
-    sys.path.insert(0, str(SCRATCH / "extension" / "pythonpath"))
-    return extension
-
-
-EXTENSION = make_extension()
+EXTENSION = make_extension(ROOT, SCRATCH)
 
 import numpy  # noqa: E402  pylint: disable=wrong-import-position
 
@@ -102,7 +84,8 @@ class InTheOffice(unittest.TestCase):
         cls.office = cls.enterClassContext(Office(EXTENSION))
 
     def opened(self, name, *sheets):
-        path = self.office.place(document_of(SCRATCH / name, sheets))
+        path = self.office.folder / name
+        path.write_text(document_of(sheets), encoding="utf-8")
         document = self.office.open(path)
         self.addCleanup(document.close, True)
         return document

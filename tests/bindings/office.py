@@ -10,20 +10,33 @@ import subprocess
 import sys
 import tempfile
 import time
+import zipfile
 from pathlib import Path
 
-PYTHON = "/usr/bin/python3"  # the one that has Debian's NumPy and UNO
-if os.path.realpath(sys.executable) != os.path.realpath(PYTHON):
-    os.execv(PYTHON, [PYTHON, *sys.argv])
-
-import uno  # pylint: disable=wrong-import-position
-from com.sun.star.beans import PropertyValue  # pylint: disable=wrong-import-position,import-error
-from com.sun.star.connection import NoConnectException  # pylint: disable=wrong-import-position,import-error
-from com.sun.star.lang import DisposedException  # pylint: disable=wrong-import-position,import-error
+import uno
+from com.sun.star.beans import PropertyValue
+from com.sun.star.connection import NoConnectException
+from com.sun.star.lang import DisposedException
 
 NOBODY = 65534
-START_SECONDS = 60
+START_SECONDS = 120
 AS_ROOT = os.geteuid() == 0
+
+
+def make_extension(root, folder):
+    """The extension as tools/package makes it, in a folder that is emptied first. Its Python package can be imported then,
+    and what is beside the workbook."""
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
+    done = subprocess.run([root / "tools" / "package", "--calc", "--to", folder / "dist"], stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, encoding="utf-8", check=False)
+    if done.returncode != 0:
+        raise SystemExit(done.stdout)
+    (extension,) = (folder / "dist").glob("*.oxt")
+    with zipfile.ZipFile(extension) as archive:
+        archive.extractall(folder / "extension")
+    sys.path += [str(folder / "extension" / "pythonpath"), str(root / "examples" / "workbook")]
+    return extension
 
 
 def property_value(name, value):
