@@ -144,7 +144,7 @@ def analysis():
     page = Page("Analysis", ["3cm"] + ["2.35cm"] * 10)
     page.line("Air quality in New York, May to September 1973", style="Title")
     page.tall_rows.append(0)
-    page.line("Every number is computed by a KORVEL function of the sheet Data. Without the extension the cells show #NAME?.",
+    page.line("Every number comes from KORVEL functions of the sheet Data. Without the extension the cells show #NAME?.",
               style="Note", down=2)
     for block in (summaries, months, correlations, regression):
         block(page)
