@@ -24,16 +24,16 @@ public:
     explicit hashed_text(const text& source) : source_(&source), hash_(hashOf(source)) {}
 
     /** An equal text that stands elsewhere. */
-    hashed_text(const text& source, std::uint64_t hash) : source_(&source), hash_(hash) {}
+    hashed_text(const text& source, std::uint32_t hash) : source_(&source), hash_(hash) {}
 
     [[nodiscard]] const text& value() const { return *source_; }
-    [[nodiscard]] std::uint64_t hash() const { return hash_; }
+    [[nodiscard]] std::uint32_t hash() const { return hash_; }
 
 private:
     static constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15u;
 
     /** Four units at a time; the last four overlap those before them. */
-    static std::uint64_t hashOf(const text& source)
+    static std::uint32_t hashOf(const text& source)
     {
         const char16_t* const units = source.data();
         const std::size_t count = source.size();
@@ -42,12 +42,12 @@ private:
             for (std::size_t k = 0; k + 4 < count; k += 4) {
                 state = mixed(state, fourUnits(units + k));
             }
-            return mixed(state, fourUnits(units + (count - 4)));
+            return spread(mixed(state, fourUnits(units + (count - 4))));
         }
         for (std::size_t k = 0; k < count; ++k) {
             state = state << 16 ^ state >> 48 ^ units[k];
         }
-        return mixed(state, 0);
+        return spread(mixed(state, 0));
     }
 
     static std::uint64_t fourUnits(const char16_t* first)
@@ -59,16 +59,24 @@ private:
 
     static std::uint64_t mixed(std::uint64_t state, std::uint64_t units)
     {
-        state = (state ^ units) * multiplier;
-        return state ^ state >> 32;
+        return folded((state ^ units) * multiplier);
     }
 
+    /** A product carries differences upwards only, and an index looks at the lowest bits. The last unit of
+     * four reaches them by a second fold. */
+    static std::uint32_t spread(std::uint64_t state)
+    {
+        return static_cast<std::uint32_t>(folded(state * multiplier));
+    }
+
+    static std::uint64_t folded(std::uint64_t state) { return state ^ state >> 32; }
+
     const text* source_;
-    std::uint64_t hash_;
+    std::uint32_t hash_;
 };
 
-/** Finds the position that was last put under a text. The texts stand elsewhere and must outlive the index.
- */
+/** Finds the position that was last put under a text. The texts stand elsewhere, outlive the index and do not
+ * change. */
 class text_index
 {
 public:
@@ -82,10 +90,10 @@ public:
     void put(const hashed_text& key, int position)
     {
         entry& found = places_[placeOf(key)];
-        if (found.key == nullptr) {
-            found = {&key.value(), key.hash(), position};
+        if (found.units == nullptr) {
+            found = {key.value().data(), key.value().size(), key.hash(), position};
             ++used_;
-            if (2 * used_ > places_.size()) {
+            if (fewestPlaces * used_ > places_.size()) {
                 grow();
             }
         } else {
@@ -113,17 +121,19 @@ public:
 
 private:
     struct entry {
-        const text* key = nullptr;
-        std::uint64_t hash = 0;
+        const char16_t* units = nullptr; ///< Of the key; null in an empty place.
+        std::size_t count = 0;
+        std::uint32_t hash = 0;
         int position = -1;
     };
 
-    static constexpr std::size_t smallest = 64; ///< As every size, a power of two.
+    static constexpr std::size_t smallest = 64;    ///< As every size, a power of two.
+    static constexpr std::size_t fewestPlaces = 3; ///< For each text. Few texts then share a way.
 
     /** The comparison of the standard library looks at one unit after the other. */
-    static bool areEqual(const text& a, const text& b)
+    static bool areEqual(const entry& a, const text& b)
     {
-        return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+        return a.count == b.size() && std::memcmp(a.units, b.data(), a.count * sizeof(char16_t)) == 0;
     }
 
     /** Where the text stands, or the empty place where it belongs. */
@@ -131,8 +141,8 @@ private:
     {
         const std::size_t last = places_.size() - 1;
         std::size_t k = static_cast<std::size_t>(key.hash()) & last;
-        while (places_[k].key != nullptr &&
-               (places_[k].hash != key.hash() || !areEqual(*places_[k].key, key.value()))) {
+        while (places_[k].units != nullptr &&
+               (places_[k].hash != key.hash() || !areEqual(places_[k], key.value()))) {
             k = (k + 1) & last;
         }
         return k;
@@ -143,9 +153,9 @@ private:
         std::vector<entry> larger(2 * places_.size());
         larger.swap(places_);
         for (const entry& old : larger) {
-            if (old.key != nullptr) {
+            if (old.units != nullptr) {
                 std::size_t k = static_cast<std::size_t>(old.hash) & (places_.size() - 1);
-                while (places_[k].key != nullptr) {
+                while (places_[k].units != nullptr) {
                     k = (k + 1) & (places_.size() - 1);
                 }
                 places_[k] = old;

@@ -77,7 +77,8 @@ KORVEL_API void M_ReplaceStrByCodesBinary(matrix<text>* data, int n, int p, shor
  * @param codes     labelled table of two columns: the texts to look for, and what replaces them; of equal
  * ones the first counts
  * @param codeCount number of texts to look for; below 1 the result is left alone
- * @param result    receives the texts, `n` by `p`; one that is not looked for stays
+ * @param result    receives the texts, `n` by `p`; one that is not looked for stays. It may be `data`, not
+ * `codes`
  */
 KORVEL_API void M_RecodeDataWithCodes_ST(cST_MVect<text>& data, int n, int p, cST_MVect<text>& codes,
                                          int codeCount, cST_MVect<text>& result);
