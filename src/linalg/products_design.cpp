@@ -1,7 +1,6 @@
 #include "linalg/products_design.h"
 
 #include "containers/map_cells.h"
-#include "linalg/clear_result.h"
 #include "linalg/every_product.h"
 #include "platform/counts.h"
 #include "statistics/stand_ins.h"
@@ -158,7 +157,7 @@ void M_ProductDesignAB2(matrix<double>* A, int n, int& colsA, matrix<double>* B,
 void M_ProductHorizAB(matrix<double>* A, int n, int colsA, matrix<double>* B, int colsB, matrix<double>*& C,
                       int)
 {
-    korvel::shapeResult(*C, n, productOfCounts(colsA, colsB));
+    C->Redim(std::max(n, 0), productOfCounts(colsA, colsB));
     multiplyColumns(*A, n, colsA, *B, colsB, *C, [](double a, double b) { return a * b; });
 }
 

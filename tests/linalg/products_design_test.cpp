@@ -187,9 +187,12 @@ TEST(HorizontalProduct, IsThePlainOne)
         matrix<double>* C = &made;
         M_ProductHorizAB(&A, n, colsA, &B, colsB, C, 77);
         EXPECT_EQ(C, &made);
-        if (expected.nbrows != n || expected.nbcols != colsA * colsB) {
-            expected.Redim(n, colsA * colsB, 0.0);
+        if (colsA * colsB == 0) {
+            EXPECT_EQ(made.nbrows, n);
+            EXPECT_EQ(made.nbcols, 1);
+            return;
         }
+        expected.Redim(n, colsA * colsB);
         plainHorizontal(
             A, n, colsA, B, colsB, [](double a, double b) { return a * b; },
             [&](int r, int c, double x) { expected.setElement(r, c, x); });
@@ -300,6 +303,15 @@ TEST(HorizontalProduct, GivesItsResultTheShape)
     matrix<double>* D = &lent;
     M_ProductHorizAB(&A, 3, 1, &B, 2, D, 0);
     EXPECT_EQ(lent.nbcols, 2);
+    std::fill(memory.begin(), memory.end(), 9.0);
+    M_ProductHorizAB(&A, 2, 1, &B, 1, D, 0);
+    EXPECT_EQ(lent.nbrows, 3);
+    EXPECT_EQ(memory, (columns{10, 200, 9, 9, 9, 9}));
+    // Without columns nothing is stored in the one column that a table has at least.
+    matrix<double> made(2, 1, 7.0);
+    matrix<double>* E = &made;
+    M_ProductHorizAB(&A, 2, 1, &B, 0, E, 0);
+    EXPECT_EQ(cellsOf(made), (columns{7, 7}));
 }
 
 TEST(HorizontalProduct, TakesNegativeCountsForNone)

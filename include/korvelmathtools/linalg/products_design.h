@@ -50,7 +50,8 @@ KORVEL_API void M_ProductDesignAB2(matrix<double>* A, int n, int& colsA, matrix<
  * @param colsA columns of A
  * @param B     `n` by `colsB`
  * @param colsB columns of B
- * @param C     resized to `n` by `colsA * colsB` and filled; neither A nor B
+ * @param C     resized to `n` by `colsA * colsB` and filled; neither A nor B. Memory of the caller of another
+ *              size keeps it, and its other cells. Without columns nothing is stored
  * @param extra not read
  * @throws std::bad_alloc when memory is short; nothing is then written
  */
