@@ -1,8 +1,10 @@
 /*
  * How ozone goes with the weather, each month counting alike, by the flat functions.
  *
- *     analysis_c [--exact] FILE    a table like examples/data/airquality.csv, without quotes; --exact prints
- *                                  hexadecimal numbers, to the bit
+ *     analysis_c [--exact] FILE
+ *
+ * FILE is a table like examples/data/airquality.csv, without quotes. --exact prints hexadecimal numbers, to
+ * the bit.
  *
  * To build it: cc analysis.c $(pkg-config --cflags --libs korvelmathtools), or the CMakeLists.txt beside it.
  */

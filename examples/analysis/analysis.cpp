@@ -1,9 +1,10 @@
 // How ozone goes with the weather, each month counting alike: the analysis of analysis.c in a program that
 // links with the core routines and holds its data in their tables.
 //
-//     analysis_cpp [--exact] FILE    a table like examples/data/airquality.csv, without quotes; --exact
-//     prints
-//                                    hexadecimal numbers, to the bit
+//     analysis_cpp [--exact] FILE
+//
+// FILE is a table like examples/data/airquality.csv, without quotes. --exact prints hexadecimal numbers, to
+// the bit.
 #include <korvelmathtools/containers/matrix.h>
 #include <korvelmathtools/fitting/least_squares.h>
 #include <korvelmathtools/linalg/symmetric_eigen.h>

@@ -9,9 +9,9 @@
 Shows for each group of the texts in the column GROUP how many numbers there are in the column NUMBER, their mean, deviation and
 median, and the standard error of the median from resamples (the bootstrap of Efron, The Annals of Statistics 7, 1979).
 
-A group is a part of the work, and a part is all that a worker needs: the library keeps nothing between calls but the state
-of its random source. Each part seeds that source by its own number, so its draws do not depend on which worker takes it, nor
-on what that worker has done before.
+A group is a part of the work, and a part is all that a worker needs: the library keeps nothing between calls but its random
+source. Each part chooses the generator and seeds it by the part's own number, so its draws do not depend on which worker
+takes it, nor on what that worker has done before.
 """
 
 import sys
@@ -24,6 +24,7 @@ import korvelmathtools as kmt
 
 WORKERS = 2
 RESAMPLES = 200
+MERSENNE_TWISTER = 1
 SEED = 20260101  # of all parts together
 
 
@@ -51,6 +52,7 @@ def summarise(part, numbers):
     ones, none = numpy.ones(len(kept)), numpy.zeros(len(kept), dtype=numpy.int16)
     moments = kmt.VB_V_MeanStdev(kept, iMissing=none, w=ones, bUnbiased=True, bFreq=True)
     median = kmt.VB_V_QuantileM(kept, iMissing=none, q=0.5)
+    kmt.Cpp_set_rand_algo(MERSENNE_TWISTER)
     draws = kmt.VB_M_GenerateRandom01(rows=len(kept), cols=RESAMPLES, seed=seed_of(part), flag=True).out
     resamples = kept[numpy.minimum((draws * len(kept)).astype(int), len(kept) - 1)]
     medians = numpy.array([kmt.VB_V_QuantileM(resample, iMissing=none, q=0.5) for resample in resamples.T])
