@@ -10,6 +10,7 @@ from .vba_module import first_sentence
 
 FOLDER = "bindings/calc"
 INSIDE = f"{FOLDER}/extension"
+PLATFORM = "linux_x86_64"  # tools/calc_extension puts that of the libraries in its place
 IDENTIFIER = "org.korvelmathtools.calc"
 PREFIX = "KORVEL"
 MADE = "Made by tools/generate from functions.txt and the C headers: edit those instead."
@@ -28,9 +29,10 @@ KINDS = {
     "flag": "TRUE or FALSE.",
     "text": "A text.",
 }
-# What a C caller has to know and a cell does not.
-FOR_C_ONLY = re.compile(r"\b(null|may be|in place|sorted along|changed|column after column|weights|whether|how it is|"
-                        r"not tested|see above|receives)\b")
+# What a C caller has to know and a cell does not; and, of arrays, what becomes of the caller's own.
+FOR_C_ONLY = re.compile(r"\b([Nn]ull|NUL|how it is|[Nn]o(?:t|thing is) (?:tested|drawn))\b")
+OF_C_ARRAYS = re.compile(r"\b(may be|in place|sorted|changed|[Bb]ecomes|replaced|column after column|weights|read|from\.\.to|"
+                         r"identifier)\b")
 PAGE = """\
 # Worksheet functions
 
@@ -70,12 +72,23 @@ def parameter_behind(entry, argument):
 
 def said_of(parameter, kind):
     """What the header says of a parameter that a reader of a sheet can use."""
-    text = one_line(parameter.text) if parameter else ""
+    if parameter is None or (kind in calc_table.CELLS and parameter.type.endswith("*")):
+        return ""
+    text = one_line(parameter.text).replace("`", "")
     if kind in calc_table.RANGES:
         text = ROOM.sub("", text, count=1)
     text = re.sub(r"(?:^|; |, )(true (?:only when -1|unless 0)|from 1; 0 stands for 1)", "", text)
-    text = re.sub(r"(?:^|; )(?:-1|not 0): ", lambda found: found[0][:2].replace("-1", "").replace("no", "") + "TRUE: ", text)
-    return sentence(" ".join(part for part in re.split(r"(?<=;) ", text) if not FOR_C_ONLY.search(part)))
+    if kind == "flag":
+        text = re.sub(r"^0: (.*; )any other value: ", r"FALSE: \1TRUE: ", text)
+        text = re.sub(r"(^|; )(?:-1|not 0): ", r"\1TRUE: ", text)
+    parts = re.split(r"(?<=[;.]) ", text)
+    if kind in calc_table.RANGES:
+        parts = [part for part in parts if not OF_C_ARRAYS.search(part)]
+    return sentence(" ".join(part for part in parts if not FOR_C_ONLY.search(part)))
+
+
+def shown_number(number):
+    return f"{number:d}" if isinstance(number, int) else f"{number:g}"
 
 
 def help_of(entry, argument):
@@ -83,11 +96,12 @@ def help_of(entry, argument):
     if argument.kind != "weights":
         pieces.append(said_of(parameter_behind(entry, argument), argument.kind))
     if argument.limits and argument.kind in calc_table.NUMBERS:
-        pieces.append("From {:g} to {:g}.".format(*argument.limits))
+        limits = "rom {} to {}".format(*map(shown_number, argument.limits))
+        pieces += [] if limits in pieces[-1] else [f"F{limits}."]
     elif argument.limits:
         pieces.append(f"At most {argument.limits[0]} rows.")
     if argument.optional and argument.kind != "weights":
-        shown = str(argument.default).upper() if isinstance(argument.default, bool) else f"{argument.default:g}"
+        shown = str(argument.default).upper() if isinstance(argument.default, bool) else shown_number(argument.default)
         pieces.append(f"{shown} when it is left out.")
     return " ".join(piece for piece in pieces if piece)
 
@@ -99,9 +113,9 @@ def main_step(entry):
 def purpose(entry):
     """What the function does, by the doc comment of the routine behind it; of several results the one that is shown."""
     step = main_step(entry)
-    text = sentence(first_sentence(step.function.doc.text).replace("`", ""))
+    text = entry.text or sentence(first_sentence(step.function.doc.text).replace("`", ""))
     shown = next((p for p in step.made if entry.answer == f"{calc_table.UNNAMED}.{p.name}"), None)
-    if shown is not None and not entry.is_table:
+    if shown is not None and not entry.is_table and not entry.text:
         text += f" Shows {one_line(ROOM.sub('', one_line(shown.text), count=1).split(';')[:1]).split(':')[1].strip()}."
     return text + (" An array formula." if entry.is_table else "")
 
@@ -224,6 +238,7 @@ def about(version):
 <description xmlns="http://openoffice.org/extensions/description/2006" xmlns:xlink="http://www.w3.org/1999/xlink">
   <identifier value="{IDENTIFIER}"/>
   <version value="{version}"/>
+  <platform value="{PLATFORM}"/>
   <display-name><name lang="en">KORVELMathTools: statistics in cells</name></display-name>
 </description>
 """

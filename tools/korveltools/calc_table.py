@@ -49,6 +49,7 @@ class Entry:
     line: int
     section: str
     arguments: list
+    text: str = ""
     steps: list = field(default_factory=list)
     failures: list = field(default_factory=list)
     answer: str = ""
@@ -188,6 +189,8 @@ class Reader:
             self.begin(text)
         elif not self.entries or self.entries[-1].answer:
             self.fail("a step that belongs to no function")
+        elif text.startswith("    says: ") and not self.entries[-1].steps:
+            self.entries[-1].text = text.removeprefix("    says: ")
         elif text.startswith("    fails if "):
             entry = self.entries[-1]
             condition, _, message = text.removeprefix("    fails if ").partition(": ")

@@ -7,7 +7,7 @@ from .reference_page import escape
 from .vba_module import first_sentence
 
 # Pages for callers, below docs/; those for people who change the library stay out.
-PAGES = ("guide/*.md", "names.md", "windows.md", "licences.md")
+PAGES = ("guide/*.md", "worksheet.md", "names.md", "windows.md", "licences.md")
 REFERENCE = "reference.md"
 
 LINK = re.compile(r"\[([^\[\]]+)\]\(([^()\s]+)\)")

@@ -56,6 +56,7 @@ MEAN(x: vector, q: number[0, 1], weights: weights = 1, trim: flag = false)
     VB_Mean(x=x, w=weights, q=q, bTrim=trim)
     -> result
 SOLVED(a: square[10], start: integer[1, 9] = 3)
+    says: What solves <it>.
     VB_Solve(a=a, seed=one(start))
     fails if result < 0: the table is singular
     -> beside(column(result_), a)
@@ -93,10 +94,10 @@ class AddIn(Tree):
         self.make()
         shown = self.read(MADE + "CalcAddIn.xcu")
         self.assertIn(">Mean of a vector. Err:502: an argument does not fit.", shown)
-        self.assertIn("An array formula. Err:502: an argument does not fit. #N/A: a result is missing. "
+        self.assertIn(">What solves &lt;it&gt;. An array formula. Err:502: an argument does not fit. #N/A: a result is missing. "
                       "#NUM!: the table is singular; the result is no finite number.", shown)
         self.assertIn(">A number. What is added. From 0 to 1.<", shown)
-        self.assertIn(">A whole number. The seed. From 1 to 9. 3 when it is left out.<".replace(" The seed.", ""), shown)
+        self.assertIn(">A whole number. From 1 to 9. 3 when it is left out.<", shown)
         self.assertIn(">TRUE or FALSE. FALSE when it is left out.<", shown)
         self.assertIn(">A number. Where.<", shown)
         self.assertIn("At most 10 rows.", shown)
@@ -147,7 +148,7 @@ class AddIn(Tree):
                 ("q=q, bTrim", "p=q, bTrim", 6, "VB_Mean has no parameter p"),
                 ("w=weights, ", "", 6, "VB_Mean: w is not given"),
                 ("q=q, bTrim", "q=quantile, bTrim", 6, "'quantile' has no meaning here"),
-                ("one(start)", "two(start)", 9, "'two(start)' has no meaning here"),
+                ("one(start)", "two(start)", 10, "'two(start)' has no meaning here"),
                 ("x: vector,", "x: vectors,", 5, "argument x has no kind that is known here"),
                 ("number[0, 1]", "number[1]", 5, "argument q has no kind that is known here"),
                 ("SOLVED(", "MEAN(", 8, "MEAN is there already"),
@@ -155,8 +156,8 @@ class AddIn(Tree):
                  "cannot read 'MEAN(x: vector, q: number[0, 1], weights: weights = 1, trim: flag = false'"),
                 ("    -> result\nSOLVED", "SOLVED", 7, "MEAN has no answer"),
                 ("    -> result\nSOLVED", "    -> results\nSOLVED", 7, "'results' has no meaning here"),
-                ("found.middle", "found.centre", 14, "'found.centre' has no meaning here"),
-                ("    fails if", "    -> result\n    fails if", 11, "a step that belongs to no function"),
+                ("found.middle", "found.centre", 15, "'found.centre' has no meaning here"),
+                ("    fails if", "    -> result\n    fails if", 12, "a step that belongs to no function"),
         ):
             with self.subTest(message):
                 self.assertEqual(TABLE.count(old), 1)

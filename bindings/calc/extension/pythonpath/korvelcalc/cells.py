@@ -252,6 +252,23 @@ def within(value, most):
     return int(value)
 
 
+def mostColumns(array):
+    """How many columns a result of as many rows may have."""
+    return min(MOST_COLUMNS, MOST_CELLS // len(array))
+
+
+def withRoom(a, b):
+    """The first table, when there is room for a table of all products of a cell of each."""
+    refuse_unless(a.size * b.size <= MOST_CELLS, "the result is too large")
+    return a
+
+
+def power(degree, array):
+    """The degree, when a regression on the powers of all columns has room."""
+    refuse_unless(degree * columns(array) <= MOST_COLUMNS, "too many terms")
+    return degree
+
+
 def least(a, b):
     return min(a, b)
 
@@ -317,7 +334,7 @@ def shown(value):
 def answer(value):
     """A result as the office takes it: one cell, or a tuple of rows."""
     if isinstance(value, numpy.ndarray) and value.ndim == 2:
-        refuse_unless(value.size > 0, "the result has no cell")
+        refuse_unless(0 < value.size <= MOST_CELLS, "the result has no cell, or too many")
         return tuple(tuple(shown(cell_value) for cell_value in line) for line in value.tolist())
     if isinstance(value, numpy.ndarray):
         value = value.item()

@@ -610,9 +610,9 @@ def INNERPRODUCT(a, b):
 
 
 def KRONECKER(a, b):
-    a = cells.full(a, 30)
-    b = cells.full(b, 30)
-    done = cells.call(kmt.Cpp_KroneckerTensorProduct, a=a, b=b)
+    a = cells.full(a)
+    b = cells.full(b)
+    done = cells.call(kmt.Cpp_KroneckerTensorProduct, a=cells.withRoom(a, b), b=b)
     return done.c
 
 
@@ -744,7 +744,7 @@ def REGRESSION(y, x, weights=None, degree=None, noConstant=None):
     noConstant = cells.flag(noConstant, left_out=False)
     weights = cells.weights(weights, y)
     kept = cells.complete(y, x)
-    done = cells.call(kmt.RunOLSBasic2, y=cells.keep(y, kept), x=cells.keep(x, kept), weights=cells.keep(weights, kept), degree=degree, interactions=False, noConstant=noConstant, tolerance=1e-09)
+    done = cells.call(kmt.RunOLSBasic2, y=cells.keep(y, kept), x=cells.keep(x, kept), weights=cells.keep(weights, kept), degree=cells.power(degree, x), interactions=False, noConstant=noConstant, tolerance=1e-09)
     return cells.beside(cells.column(done.coefficients), cells.column(done.standardErrors))
 
 
@@ -755,7 +755,7 @@ def FITTED(y, x, weights=None, degree=None, noConstant=None):
     noConstant = cells.flag(noConstant, left_out=False)
     weights = cells.weights(weights, y)
     kept = cells.complete(y, x)
-    done = cells.call(kmt.RunOLSBasic, y=cells.keep(y, kept), x=cells.keep(x, kept), weights=cells.keep(weights, kept), degree=degree, interactions=False, noConstant=noConstant, tolerance=1e-09)
+    done = cells.call(kmt.RunOLSBasic, y=cells.keep(y, kept), x=cells.keep(x, kept), weights=cells.keep(weights, kept), degree=cells.power(degree, x), interactions=False, noConstant=noConstant, tolerance=1e-09)
     return cells.column(cells.spread(done.fitted, kept))
 
 
@@ -766,7 +766,7 @@ def UNEXPLAINED(y, x, weights=None, degree=None, noConstant=None):
     noConstant = cells.flag(noConstant, left_out=False)
     weights = cells.weights(weights, y)
     kept = cells.complete(y, x)
-    done = cells.call(kmt.RunOLSBasic3, y=cells.keep(y, kept), x=cells.keep(x, kept), weights=cells.keep(weights, kept), degree=degree, interactions=False, noConstant=noConstant, tolerance=1e-09)
+    done = cells.call(kmt.RunOLSBasic3, y=cells.keep(y, kept), x=cells.keep(x, kept), weights=cells.keep(weights, kept), degree=cells.power(degree, x), interactions=False, noConstant=noConstant, tolerance=1e-09)
     return cells.last(done.sweptMatrix)
 
 
@@ -864,11 +864,11 @@ def CATEGORYCOUNTS(data):
 
 
 def DISJUNCTIVE(data, coding=None, first=None):
-    data = cells.labels(data, 20000)
+    data = cells.labels(data)
     coding = cells.integer(coding, 0, 3, left_out=0)
     first = cells.integer(first, 0, 2, left_out=2)
     found = cells.call(kmt.VB_M_InfoQuali2, data=data, width=cells.distinctTexts(data), weights=cells.ones(cells.rows(data)), sort=True)
-    done = cells.call(kmt.VB_BuildDisjunctiveTable, data=data, totalColumns=cells.within(found.total, 1000), categoryCounts=found.categoryCounts, categories=found.categories, frequencies=found.frequencies, coding=coding, firstCategoryOption=first)
+    done = cells.call(kmt.VB_BuildDisjunctiveTable, data=data, totalColumns=cells.within(found.total, cells.mostColumns(data)), categoryCounts=found.categoryCounts, categories=found.categories, frequencies=found.frequencies, coding=coding, firstCategoryOption=first)
     return done[1]
 
 
@@ -934,7 +934,7 @@ def LOGCOMBINATIONS(n, k):
 
 def RANDOM(rows, columns, seed):
     rows = cells.integer(rows, 1, 10000)
-    columns = cells.integer(columns, 1, 1000)
+    columns = cells.integer(columns, 1, 400)
     seed = cells.integer(seed, 1, 2147483398)
     its_seed = cells.one(seed)
     done = cells.call(kmt.VB_M_GenerateRandom01, rows=rows, cols=columns, seed=its_seed, flag=True)
