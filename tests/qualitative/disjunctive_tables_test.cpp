@@ -140,6 +140,10 @@ TEST(DisjunctiveTable, OfRecordsHasLabels)
     }
     BuildDisjunctiveTableWithCLabels_ST(data, info, result, 3, 2, 1);
     EXPECT_EQ(textsOf(result.CLabels), (std::vector<text>{u"a", u"b", u"p"})) << "only -1 sets the flag";
+    cST_MVect<double> wide(2, 4);
+    wide.CLabels[3] = u"old";
+    BuildDisjunctiveTableWithCLabels_ST(data, info, wide, 3, 2, -1);
+    EXPECT_EQ(wide.CLabels[3], u"old") << "a column that is not needed";
     cST_MVect<double> narrow(2, 1);
     BuildDisjunctiveTable_ST(data, info, narrow, 0, 0);
     EXPECT_EQ(narrow.Vectors[0].Vect[1], 1.0) << "columns that are not there are left out";
@@ -210,8 +214,9 @@ TEST(DisjunctiveTable, OfRecordsIsThatOfThePlainLoop)
                 }
             }
         }
+        // The statistics may be of more variables than the table has.
         const matrix<text> names = randomTexts(cells, p, width, 4);
-        const matrix<int> counts = cells.integers(p, 0, width);
+        const matrix<int> counts = cells.integers(p + 1, 0, width);
         matrix<double> sums(p, width, 0.0);
         fillRandomly(cells, sums);
         cST_QualiInfo info;

@@ -102,6 +102,8 @@ TEST(LeadingNumber, IsTheNearestDouble)
                   {u"-0", -0.0},
                   {u"0." + text(400, u'0') + u"1", 0.0},
                   {u"0." + text(400, u'0') + u"1e500", 1e99},
+                  {u"0." + text(400, u'0') + u"1e50", 0.0},
+                  {u"1" + text(400, u'0') + u"e-50", infinite},
                   {u"1e400", infinite},
                   {u"-1e99999999999999999999", -infinite},
                   {u"1e-99999999999999999999", 0.0},
