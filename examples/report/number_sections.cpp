@@ -1,6 +1,6 @@
+#include "pictures.h"
 #include "sections.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -29,24 +29,6 @@ int quartileDecimals(const number_column& column)
 std::string shownRow(const extreme& found)
 {
     return found.row == 0 ? std::string(noFigure) : shown(found.row);
-}
-
-constexpr std::size_t mostGroups = 20;
-
-// The groups to be shown, in their order: those of most rows when there are many.
-std::vector<const row_group*> shownGroups(const grouping& groups)
-{
-    std::vector<const row_group*> largest;
-    for (const row_group& group : groups.groups) {
-        largest.push_back(&group);
-    }
-    if (largest.size() > mostGroups) {
-        std::ranges::stable_sort(
-            largest, [](const row_group* a, const row_group* b) { return a->rows.size() > b->rows.size(); });
-        largest.resize(mostGroups);
-        std::ranges::sort(largest);
-    }
-    return largest;
 }
 
 } // namespace
@@ -116,7 +98,7 @@ section quartiles(const data_set& data, const findings& found)
                    shown(figures.upperQuartile, decimals), shown(figures.max.value, column.decimals),
                    shownRow(figures.max)});
     }
-    section result{"Range and quartiles", {table}, {}, {}};
+    section result{"Range and quartiles", {table}, {}, distributionPictures(data, found)};
     result.explain(noFigure, "the column has no numbers.");
     result.explain(tooLarge, overflowNote);
     return result;
@@ -143,9 +125,9 @@ section shape(const data_set& data, const findings& found)
                    shown(figures.harmonicMean, meanDecimals(column))});
     }
     section result{"Shape", {table}, {}, {}};
-    result.explain(noFigure,
-                   "a skewness needs three numbers that are not all equal, a kurtosis four; a geometric or"
-                   " harmonic mean needs all numbers above 0.");
+    result.explain(noFigure, "a skewness needs three numbers that are not all equal, a kurtosis four, a "
+                             "geometric s.d. two; a geometric or"
+                             " harmonic mean needs all numbers above 0.");
     result.explain(tooLarge, overflowNote);
     return result;
 }
@@ -165,18 +147,15 @@ section groups(const data_set& data, const findings& found)
     for (const char* title : {"mean", "st.dev.", "25 %", "median", "75 %"}) {
         headings.push_back({title, alignment::point});
     }
-    const std::vector<const row_group*> largest = shownGroups(*data.groups);
     text_table table(headings);
-    for (const number_column& column : data.numberColumns) {
-        if (column.name == data.groups->column) {
-            continue;
-        }
+    for (std::size_t j = 0; j < data.numberColumns.size(); ++j) {
+        const number_column& column = data.numberColumns[j];
         std::string name = shownName(column.name);
-        for (const row_group* group : largest) {
-            const distribution figures =
-                distributionOf(keptOf(data, column.values, group->rows), found.areCounts);
-            std::vector<std::string> cells{name, shownName(group->name), shown(figures.count),
-                                           shown(static_cast<int>(group->rows.size()) - figures.count)};
+        for (std::size_t g = 0; g < found.byGroup[j].size(); ++g) {
+            const row_group& group = *found.groupsShown[g];
+            const distribution& figures = found.byGroup[j][g];
+            std::vector<std::string> cells{name, shownName(group.name), shown(figures.count),
+                                           shown(static_cast<int>(group.rows.size()) - figures.count)};
             if (data.isWeighted()) {
                 cells.push_back(shownWeight(figures.weight));
             }
@@ -189,10 +168,10 @@ section groups(const data_set& data, const findings& found)
             name.clear();
         }
     }
-    section result{"Groups by " + shownName(data.groups->column), {table}, {}, {}};
+    section result{"Groups by " + shownName(data.groups->column), {table}, {}, groupPictures(data, found)};
     result.explain(noFigure, "a mean and quartiles need one number in the group, a standard deviation two.");
     result.explain(tooLarge, overflowNote);
-    if (largest.size() < data.groups->groups.size()) {
+    if (found.groupsShown.size() < data.groups->groups.size()) {
         result.notes.push_back("The " + std::to_string(mostGroups) + " largest of " +
                                std::to_string(data.groups->groups.size()) + " groups are shown.");
     }

@@ -9,12 +9,14 @@ const char* pageStyle()
 :root {
   color-scheme: light dark;
   --ground: #ffffff; --card: #f6f8fa; --ink: #1c2430; --soft: #56616e; --line: #d3dae1;
-  --bar: #2f6db3; --mark: #b4530a; --positive: #b4530a; --negative: #2f6db3; --on-strong: #ffffff;
+  --bar: #2f6db3; --mark: #b4530a; --positive: #b4530a; --negative: #2f6db3;
+  --on-strong: #ffffff; --on-middle: #1c2430;
 }
 @media screen and (prefers-color-scheme: dark) {
   :root {
     --ground: #14181d; --card: #1c2229; --ink: #e6eaef; --soft: #a3adb8; --line: #39434e;
-    --bar: #6aa7e8; --mark: #f0a35e; --positive: #f0a35e; --negative: #6aa7e8; --on-strong: #14181d;
+    --bar: #6aa7e8; --mark: #f0a35e; --positive: #f0a35e; --negative: #6aa7e8;
+    --on-strong: #14181d; --on-middle: #14181d;
   }
 }
 * { box-sizing: border-box; }
@@ -39,12 +41,34 @@ tbody .figure { font-family: ui-monospace, "DejaVu Sans Mono", Menlo, Consolas, 
 figure { margin: 0; padding: 0.6rem; background: var(--card); border: 1px solid var(--line); border-radius: 6px;
   max-width: 100%; }
 svg { display: block; max-width: 100%; height: auto; font: 12px system-ui, sans-serif; }
+svg text { fill: var(--ink); }
+svg text.minor { fill: var(--soft); font-size: 11px; }
+svg text.heading { font-size: 13px; font-weight: 600; }
+svg text.number { font-size: 11px; }
+svg text.strong { fill: var(--on-strong); }
+svg text.middle { fill: var(--on-middle); }
+svg text.name { font-weight: 600; paint-order: stroke; stroke: var(--card); stroke-width: 3px; }
+.bar { fill: var(--bar); }
+.axis { stroke: var(--soft); }
+.grid { stroke: var(--line); }
+.whisker { stroke: var(--ink); }
+.box { fill: var(--line); stroke: var(--ink); }
+.median { stroke: var(--mark); stroke-width: 2.5px; }
+.dot { fill: var(--bar); fill-opacity: 0.6; }
+.ring { fill: none; stroke: var(--soft); stroke-dasharray: 4 4; }
+.arrow { stroke: var(--mark); stroke-width: 1.6px; }
+.tip { fill: var(--mark); }
+.positive { fill: var(--positive); }
+.negative { fill: var(--negative); }
+.undefined { fill: none; stroke: var(--line); }
 @media print {
   body { font-size: 10pt; }
   main { max-width: none; padding: 0; }
   nav { display: none; }
   table { font-size: 8pt; }
   .scroll { overflow: visible; }
+  .pictures { display: block; orphans: 1; widows: 1; }
+  figure { display: inline-block; margin: 0 0.4rem 0.6rem 0; vertical-align: top; }
   h2, thead { break-after: avoid; }
   tr, figure { break-inside: avoid; }
   tbody tr:nth-child(even), figure, svg { print-color-adjust: exact; -webkit-print-color-adjust: exact; }

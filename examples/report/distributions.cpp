@@ -1,5 +1,7 @@
 #include "findings.h"
 
+#include "scales.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -35,28 +37,22 @@ void findWhiskers(const kept_values& kept, distribution& found)
         return value < found.lowerQuartile - reach || value > found.upperQuartile + reach ? flatTrue
                                                                                           : flatFalse;
     });
+    for (std::size_t k = 0; k < outside.size(); ++k) {
+        if (outside[k] != 0) {
+            found.outside.push_back(kept.values[k]);
+        }
+    }
     VB_V_MinMax(kept.values.data(), kept.count(), &found.lowerWhisker, &found.upperWhisker, outside.data());
 }
 
-// 1, 2 or 5 times a power of ten: the least such number that is not below the one given.
-double roundStep(double least)
-{
-    const double power = std::pow(10.0, std::floor(std::log10(least)));
-    for (const double factor : {1.0, 2.0, 5.0}) {
-        if (factor * power >= least) {
-            return factor * power;
-        }
-    }
-    return 10.0 * power;
-}
-
-// The width by Freedman and Diaconis, 2 IQR / n^(1/3), kept to as many intervals as a picture shows well.
+// About half the width by Freedman and Diaconis, 2 IQR / n^(1/3), since rounding up widens it; and kept to as
+// many intervals as a picture shows well.
 double widthFor(const distribution& spread)
 {
-    constexpr double fewest = 6;
-    constexpr double most = 30;
+    constexpr double fewest = 12;
+    constexpr double most = 40;
     const double range = spread.max.value - spread.min.value;
-    const double width = 2.0 * (spread.upperQuartile - spread.lowerQuartile) / std::cbrt(spread.count);
+    const double width = (spread.upperQuartile - spread.lowerQuartile) / std::cbrt(spread.count);
     return roundStep(std::clamp(width, range / most, range / fewest));
 }
 

@@ -60,6 +60,7 @@ struct distribution {
     double upperQuartile = missingNumber;
     double lowerWhisker = missingNumber; ///< The smallest value within 1.5 times the range of the quartiles.
     double upperWhisker = missingNumber;
+    std::vector<double> outside; ///< The values beyond the whiskers, in the order of the rows.
 };
 
 distribution distributionOf(const kept_values& kept, short int areCounts);
@@ -162,6 +163,9 @@ struct regression_figures {
  */
 regression_figures regressionOf(const data_set& data, const std::string& response);
 
+/** The most groups that are shown. */
+inline constexpr std::size_t mostGroups = 20;
+
 /** All that is found. */
 struct findings {
     short int areCounts = flatTrue;
@@ -170,7 +174,10 @@ struct findings {
     std::vector<histogram> histograms;
     correlation_figures correlations;
     components parts;
-    std::vector<inventory> inventories; ///< One for each column of texts.
+    std::vector<inventory> inventories;             ///< One for each column of texts.
+    std::vector<const row_group*> groupsShown;      ///< The largest groups, in their order.
+    std::vector<std::vector<distribution>> byGroup; ///< For each column of numbers one for each of these; the
+                                                    ///< column that tells the groups has none.
     std::optional<regression_figures> regression;
 };
 

@@ -1,3 +1,4 @@
+#include "pictures.h"
 #include "sections.h"
 
 #include <cstddef>
@@ -50,7 +51,7 @@ section correlations(const data_set& data, const findings& found)
     section result{"Correlations, over the rows that neither column misses",
                    {triangle(data, found.correlations.pairwise, found.correlations.rows)},
                    {},
-                   {}};
+                   {heatMap(data, found.correlations.pairwise)}};
     result.explain(noFigure, undefinedNote);
     result.explain(tooLarge, undefinedNote);
     return result;

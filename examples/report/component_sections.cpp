@@ -1,3 +1,4 @@
+#include "pictures.h"
 #include "sections.h"
 
 #include <cstddef>
@@ -17,6 +18,9 @@ constexpr int shareDecimals = 1;
 
 section componentShares(const data_set&, const findings& found)
 {
+    if (found.parts.variances.empty()) {
+        return {};
+    }
     text_table table({{"component", alignment::point},
                       {"variance", alignment::point},
                       {"% of all", alignment::point},
@@ -27,8 +31,10 @@ section componentShares(const data_set&, const findings& found)
         table.add({shown(static_cast<int>(k) + 1), rounded(found.parts.variances[k], decimals),
                    rounded(found.parts.percents[k], shareDecimals), rounded(sum, shareDecimals)});
     }
-    return {
-        "Principal components of the correlations, over the rows without missing numbers", {table}, {}, {}};
+    return {"Principal components of the correlations, over the rows without missing numbers",
+            {table},
+            {},
+            {screePlot(found.parts)}};
 }
 
 section componentLoadings(const data_set&, const findings& found)
@@ -46,7 +52,11 @@ section componentLoadings(const data_set&, const findings& found)
         }
         table.add(cells);
     }
-    return {"Loadings of the components that make up 90 %", {table}, {}, {}};
+    section result{"Loadings of the components that make up 90 %", {table}, {}, {}};
+    if (found.parts.pointCount > 0) {
+        result.pictures.push_back(biplot(found.parts));
+    }
+    return result;
 }
 
 } // namespace report
