@@ -85,7 +85,7 @@ std::string distributionPicture(const data_set& data, const number_column& colum
 
     const double most = *std::ranges::max_element(bars.weights);
     const scale upwards(0.0, most, bottom, top);
-    const std::vector<double> counts = upwards.ticks(wantedCounts);
+    const std::vector<double> counts = upwards.ticks(wantedCounts, data.isWeighted() ? 0.0 : 1.0);
     const std::vector<std::string> countTexts = shownTicks(counts);
     double left = 0.0;
     for (const std::string& text : countTexts) {

@@ -37,7 +37,7 @@ tbody tr:nth-child(even) { background: var(--card); }
 .figure { text-align: right; }
 tbody .figure { font-family: ui-monospace, "DejaVu Sans Mono", Menlo, Consolas, monospace; }
 .note { color: var(--soft); margin: 0.3rem 0; max-width: 60rem; }
-.pictures { display: flex; flex-wrap: wrap; gap: 1rem; margin-top: 0.8rem; }
+.pictures { display: flex; flex-wrap: wrap; align-items: flex-start; gap: 1rem; margin-top: 0.8rem; }
 figure { margin: 0; padding: 0.6rem; background: var(--card); border: 1px solid var(--line); border-radius: 6px;
   max-width: 100%; }
 svg { display: block; max-width: 100%; height: auto; font: 12px system-ui, sans-serif; }

@@ -24,7 +24,7 @@ struct colour {
 colour colourOf(double correlation)
 {
     if (VB_IsMissingValueDbl(correlation) != 0 || !std::isfinite(correlation)) {
-        return {"cell undefined", 1.0};
+        return {"cell undefined", 0.0};
     }
     return {correlation < 0.0 ? "cell negative" : "cell positive", std::min(std::abs(correlation), 1.0)};
 }

@@ -30,11 +30,11 @@ scale::scale(double low, double high, double begin, double end)
     }
 }
 
-std::vector<double> scale::ticks(int count) const
+std::vector<double> scale::ticks(int count, double leastStep) const
 {
     // What lies on an end but for a rounding error is inside.
     constexpr double rounding = 1e-9;
-    const double step = roundStep((high_ - low_) / count);
+    const double step = roundStep(std::max((high_ - low_) / count, leastStep));
     std::vector<double> found;
     const double last = std::floor(high_ / step + rounding);
     for (double k = std::ceil(low_ / step - rounding); k <= last && found.size() < 100; k += 1.0) {

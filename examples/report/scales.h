@@ -26,8 +26,8 @@ public:
         return begin_ + (number - low_) / (high_ - low_) * (end_ - begin_);
     }
 
-    /** Round numbers inside, about as many as `count`. */
-    [[nodiscard]] std::vector<double> ticks(int count) const;
+    /** Round numbers inside, about as many as `count`, and no closer to each other than `leastStep`. */
+    [[nodiscard]] std::vector<double> ticks(int count, double leastStep = 0.0) const;
 
 private:
     double low_;
