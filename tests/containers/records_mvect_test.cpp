@@ -202,6 +202,25 @@ TEST(RecordTable, CopiesAreDeepAndBelongToNoRecord)
     EXPECT_EQ(columnOf(record, 0).Count, 2);
 }
 
+TEST(RecordTable, CopiesEachElementType)
+{
+    const auto copied = [](auto table, const auto& value) {
+        table.Vectors[1].Vect[2] = value;
+        table.Vectors[1].Count = 2;
+        const auto copy(table);
+        table.Vectors[1].Vect[2] = {};
+        EXPECT_EQ(copy.nbcols, 2);
+        EXPECT_EQ(copy.nbrowsmax, 3);
+        EXPECT_EQ(copy.source, nullptr);
+        EXPECT_EQ(copy.Vectors[1].Count, 2);
+        EXPECT_EQ(copy.Vectors[1].Vect.nbElem, 3u);
+        return copy.Vectors[1].Vect[2] == value;
+    };
+    EXPECT_TRUE(copied(cST_MVect<int>(3, 2), 7));
+    EXPECT_TRUE(copied(cST_MVect<short int>(3, 2), short{-1}));
+    EXPECT_TRUE(copied(cST_MVect<text>(3, 2), text(u"cell")));
+}
+
 TEST(RecordTable, CopiesColumnsWithoutABlock)
 {
     caller_memory caller;

@@ -265,6 +265,22 @@ TEST(ComparisonLetters, LeaveTheRestOfALargerTableEmpty)
     }
 }
 
+TEST(ComparisonLetters, LeaveMeansAndNumbersBehindTheLevels)
+{
+    for (const int column : {0, 1}) {
+        numbers cells{3, 1, 2, 7};
+        matrix<double> means(4, 1, cells.data(), true);
+        matrix<int> significance = tableOf(3, {});
+        matrix<int> order(4, 1, 9);
+        matrix<text> labels(3, 3, text());
+        int groups = 0;
+        short int success = 0;
+        GetCompMatrices(means, 3, column, significance, 0, order, &labels, &groups, &success, 0);
+        EXPECT_EQ(cells, (numbers{1, 2, 3, 7}));
+        EXPECT_EQ(std::vector<int>(order.data, order.data + 4), (std::vector<int>{2, 3, 1, 9}));
+    }
+}
+
 TEST(ComparisonLetters, FindEachOfManyPairs)
 {
     for (const int k : {60, 258}) {

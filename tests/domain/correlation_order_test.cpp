@@ -66,6 +66,17 @@ TEST(CorrelationOrder, ByVarianceLooksAtTheFirstRow)
     alike.reorder(2);
     // That of 0.2 and 0.3 is 0.005, with the 1 it is 0.19.
     EXPECT_EQ(alike.labels, (words{u"b", u"c", u"a"}));
+    correlations equal;
+    equal.cells[3] = 0.5;
+    equal.cells[6] = 0.5;
+    equal.reorder(2);
+    EXPECT_EQ(equal.labels, (words{u"b", u"c", u"a"})) << "the diagonal is missing, not 0";
+    correlations apart;
+    apart.cells[3] = 0.2;
+    apart.cells[6] = 0.8;
+    apart.reorder(2);
+    // 0.18 and 0.1733: each variable counts once.
+    EXPECT_EQ(apart.labels, (words{u"a", u"b", u"c"}));
 }
 
 TEST(CorrelationOrder, ByTheFirstEigenvectorSortsItsCells)
@@ -84,6 +95,11 @@ TEST(CorrelationOrder, ByTheFirstEigenvectorSortsItsCells)
         EXPECT_EQ(x.labels[i], names[order[i]]);
     }
     EXPECT_NE(x.labels, names);
+    correlations other;
+    other.cells = {1, 0.3, 0.6, 0.3, 1, -0.9, 0.6, -0.9, 1};
+    other.reorder(3);
+    // The vector of the largest value is (-0.27, 0.61, -0.74).
+    EXPECT_EQ(other.labels, (words{u"b", u"a", u"c"}));
     correlations incomplete;
     incomplete.cells[3] = missing;
     incomplete.reorder(3);

@@ -89,6 +89,10 @@ TEST(HorizontalFormat, RefusesWhatIsNotInTheWideTable)
         y.subjects[5] = wrong;
         EXPECT_EQ(y.transform(), 2) << wrong;
     }
+    measures next;
+    next.subjects = {1, 1, 1, 2, 2, 2};
+    EXPECT_EQ(next.transform(6, 2, 1), 2) << "the second subject has a row, and is not asked for";
+    EXPECT_EQ(next.cells()[2][1], 0.0);
     EXPECT_EQ(measures().transform(6, 3), 2) << "there is no third variable";
     EXPECT_EQ(measures().transform(6, 2, 2, 4), 2) << "nor a fourth time";
 }
@@ -100,4 +104,16 @@ TEST(HorizontalFormat, TakesSomeVariables)
     EXPECT_EQ(x.cells()[0], (numbers{11, 21}));
     EXPECT_EQ(x.cells()[2], (numbers{13, 23}));
     EXPECT_EQ(x.cells()[3], (numbers{0, 0})) << "the other columns stay";
+}
+
+TEST(HorizontalFormat, LeavesRowsBehindTheLastSubject)
+{
+    measures x;
+    x.wide.Vectors[0].Vect.data[1] = 5.0;
+    x.wide.Vectors[1].Vect.data[1] = missing;
+    x.subjects = {1, 1, 1, 1, 1, 1};
+    x.times = {1, 2, 3, 9, 9, 9};
+    EXPECT_EQ(x.transform(3, 2, 1), 0);
+    EXPECT_EQ(x.cells()[0], (numbers{21, 5}));
+    EXPECT_EQ(x.cells()[1], (numbers{210, missing})) << "nor is it asked for";
 }

@@ -106,9 +106,20 @@ namespace
     std::exit(GetStatusMemory(0) && GetStatusMemory(-1) && !GetStatusMemory(1) ? 0 : 1);
 }
 
+/** Ends the process with 0 if a fifth is added to an amount. */
+[[noreturn]] void lookWhenAGigabyteIsLeft()
+{
+    constexpr std::uint64_t gigabyte = 1 << 30;
+    limitAddressSpace(std::uint64_t{1} << 40);
+    limitAddressSpace((std::uint64_t{1} << 40) - availableAddressSpace() + gigabyte);
+    const auto largest = static_cast<double>(availableAddressSpace()) / 1.2;
+    const bool fits = GetStatusMemory(static_cast<int>(largest * 0.999));
+    std::exit(fits && !GetStatusMemory(static_cast<int>(largest * 1.001)) ? 0 : 1);
+}
+
 } // namespace
 
-TEST(MemoryProbeDeathTest, NothingFitsWhereNothingIsLeft)
+TEST(MemoryProbeDeathTest, ComparesWithWhatALimitLeaves)
 {
 #if defined(KORVEL_TESTS_SEE_LEAKS)
     GTEST_SKIP() << "the sanitizer needs address space of its own";
@@ -117,6 +128,7 @@ TEST(MemoryProbeDeathTest, NothingFitsWhereNothingIsLeft)
         GTEST_SKIP() << "the emulator ignores limits";
     }
     EXPECT_EXIT(lookWhenNothingIsLeft(), ::testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(lookWhenAGigabyteIsLeft(), ::testing::ExitedWithCode(0), "");
 }
 
 #endif

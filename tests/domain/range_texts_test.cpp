@@ -29,12 +29,15 @@ const std::vector<simplified> lists{
     {"AZ and BA are", u"'S'!$BA:$BB,'S'!$AY:$AZ", u"'S'!$AY:$BB"},
     {"overlapping ranges are not merged", u"'S'!$A:$C,'S'!$B:$D", u"'S'!$A:C,'S'!$B:$D"},
     {"equal first columns keep their order", u"'S'!$B:$D,'S'!$B:$C,'S'!$A:$A", u"'S'!$A:$D,'S'!$B:$C"},
+    {"the last range ends where another one goes on", u"'S'!$B:$C,'S'!$D:$E,'S'!$A:$F",
+     u"'S'!$A:F,'S'!$B:$E"},
     {"columns are sorted by number", u"'S'!$AB:$AC,'S'!$Y:$Y,'S'!$B:$B", u"'S'!$B:B,'S'!$Y:Y,'S'!$AB:$AC"},
 };
 
 const std::vector<simplified> unchanged{
     {"a single range", u"'S'!$B:$B", u""},
     {"nothing", u"", u""},
+    {"a single range with more around it", u"see 'S'!x$B:$C", u""},
     {"two sheets", u"'S'!$C:$C,'T'!$B:$B", u""},
     {"the last one of three on another sheet", u"'S'!$C:$C,'S'!$B:$B,'T'!$A:$A", u""},
     {"rows", u"'S'!$2:$5,'S'!$1:$1", u""},

@@ -125,6 +125,12 @@ TEST(TriangularDistribution, TakesTheModeAtAQuantileAsBetween)
     EXPECT_GT(made.b, 9);
 }
 
+TEST(TriangularDistribution, TakesTheModeAtAnUpperQuantileBelowTheLowerOneAsLeftOfBoth)
+{
+    const double s = std::sqrt((1 - 0.8) / (1 - 0.3));
+    EXPECT_SAME_BITS(found(5, 2, 2, 0.3, 0.8).b, (s * 5 - 2) / (s - 1));
+}
+
 TEST(TriangularDistribution, StartsAgainFartherAway)
 {
     // From 5 times the upper quantile the iteration ends below the mode.
@@ -148,12 +154,11 @@ TEST(TriangularDistribution, StopsAfter501StepsInAllAndAStepBelowTheTolerance)
     EXPECT_SAME_BITS(found(-8, -8, -8, 0.05, 0.35).b, iterated(-8, -8, -8, 0.05, 0.35, 501, 1e-12));
     EXPECT_NE(iterated(-8, -8, -8, 0.05, 0.35, 501, 1e-12), iterated(-8, -8, -8, 0.05, 0.35, 500, 1e-12));
     EXPECT_NE(iterated(-8, -8, -8, 0.05, 0.35, 501, 1e-12), iterated(-8, -8, -8, 0.05, 0.35, 502, 1e-12));
-    // The last step but one is of 1e-12 to 2e-12 in the first, and the last one of 5e-13 to 1e-12 in the
-    // second.
-    EXPECT_SAME_BITS(found(-8, -8, -7, 0.10, 0.70).b, iterated(-8, -8, -7, 0.10, 0.70, 501, 1e-12));
-    EXPECT_NE(iterated(-8, -8, -7, 0.10, 0.70, 501, 1e-12), iterated(-8, -8, -7, 0.10, 0.70, 501, 2e-12));
-    EXPECT_SAME_BITS(found(-8, -8, -7, 0.05, 0.70).b, iterated(-8, -8, -7, 0.05, 0.70, 501, 1e-12));
-    EXPECT_NE(iterated(-8, -8, -7, 0.05, 0.70, 501, 1e-12), iterated(-8, -8, -7, 0.05, 0.70, 501, 5e-13));
+    // A step just above the tolerance is not the last one in the first, one just below it is in the second.
+    EXPECT_SAME_BITS(found(-1, -1, 7, 0.25, 0.5).b, iterated(-1, -1, 7, 0.25, 0.5, 501, 1e-12));
+    EXPECT_NE(iterated(-1, -1, 7, 0.25, 0.5, 501, 1e-12), iterated(-1, -1, 7, 0.25, 0.5, 501, 1.005e-12));
+    EXPECT_SAME_BITS(found(-4, -3, 1, 0.25, 0.95).b, iterated(-4, -3, 1, 0.25, 0.95, 501, 1e-12));
+    EXPECT_NE(iterated(-4, -3, 1, 0.25, 0.95, 501, 1e-12), iterated(-4, -3, 1, 0.25, 0.95, 501, 0.995e-12));
 }
 
 TEST(TriangularDistribution, HasFunctionsThatAreZeroAtItsBounds)

@@ -62,3 +62,21 @@ TEST(ApplyOrder, TheResultMayBeTheTable)
     SortApply(&texts, 3, 1, &order, &texts);
     EXPECT_EQ(std::vector<text>(texts.data, texts.data + 3), (std::vector<text>{u"two", u"three", u"one"}));
 }
+
+TEST(ApplyOrder, InPlaceMovesIntegersFlagsAndTexts)
+{
+    matrix<double> order = vectorOf<double>({2, 3, 1});
+    matrix<int> integers = vectorOf<int>({1, 2, 3, 4, 5, 6});
+    integers.nbrows = 3;
+    integers.nbcols = 2;
+    SortApply2(&integers, 3, 2, &order);
+    EXPECT_EQ(std::vector<int>(integers.data, integers.data + 6), (std::vector<int>{2, 3, 1, 5, 6, 4}));
+    matrix<short int> flags = vectorOf<short int>({-1, 0, 7});
+    SortApply2(&flags, 3, 1, &order);
+    EXPECT_EQ(std::vector<short int>(flags.data, flags.data + 3), (std::vector<short int>{0, 7, -1}));
+    matrix<text> texts(3, 1, text(u"one"));
+    texts.data[1] = u"two";
+    texts.data[2] = u"three";
+    SortApply2(&texts, 3, 1, &order);
+    EXPECT_EQ(std::vector<text>(texts.data, texts.data + 3), (std::vector<text>{u"two", u"three", u"one"}));
+}

@@ -40,3 +40,13 @@ TEST(Reverse, InPlaceLeavesAVectorThatDoesNotHoldTheCount)
     V_Reverse2(&x, 4);
     EXPECT_EQ(std::vector<double>(x.data, x.data + 3), (std::vector<double>{1, 2, 3}));
 }
+
+TEST(Reverse, InPlaceTurnsIntegersAndFlags)
+{
+    matrix<int> integers = vectorOf<int>({1, 2, 3, 4});
+    V_Reverse2(&integers, 3);
+    EXPECT_EQ(std::vector<int>(integers.data, integers.data + 4), (std::vector<int>{3, 2, 1, 4}));
+    matrix<short int> flags = vectorOf<short int>({-1, 0, 7, 8});
+    V_Reverse2(&flags, 4);
+    EXPECT_EQ(std::vector<short int>(flags.data, flags.data + 4), (std::vector<short int>{8, 7, 0, -1}));
+}

@@ -42,6 +42,8 @@ TEST(LogBinomial, LeavesFractionsInTheBaseOnly)
                      std::log(5.7 - 2.0 + 1.0) + (std::log(2.0 + (5.7 - 2.0)) - std::log(2.0)));
     // d is 2, not above 8.25: two terms over the base 8.25.
     EXPECT_SAME_BITS(cLogCnk(10.5, 8.25), std::log(9.25) + (std::log(10.25) - std::log(2.0)));
+    // d is 5, not above 5: five terms over the base 5, not over 5.5.
+    EXPECT_NEAR(cLogCnk(10.5, 5.0), std::log(252.0), 1e-14);
     // d is 3, not above 3.5, although it is above its whole part less one.
     EXPECT_SAME_BITS(cLogCnk(6.0, 3.5),
                      std::log(4.5) + (std::log(5.5) - std::log(2.0)) + (std::log(6.5) - std::log(3.0)));

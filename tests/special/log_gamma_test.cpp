@@ -62,6 +62,18 @@ TEST(LogGamma, HasItsOwnCoefficients)
     EXPECT_NEAR(GammaLn(-1.5), 0.86004701537653478084, 1e-13);
 }
 
+TEST(LogGamma, AddsItsTermsInOrder)
+{
+    for (double x = -6.5; x < 40.0; x += 0.0078125) {
+        const double s = 0.9999999999995183 + 676.5203681218835 / x - 1259.139216722289 / (x + 1) +
+                         771.3234287757674 / (x + 2) - 176.6150291498386 / (x + 3) +
+                         12.50734324009056 / (x + 4) - 0.1385710331296526 / (x + 5) +
+                         9.934937113930748e-6 / (x + 6) + 1.659470187408462e-7 / (x + 7);
+        const double sum = (x - 0.5) * std::log(x + 6.5) + std::log(s) + 0.9189385332046727 - (x + 6.5);
+        EXPECT_SAME_BITS(GammaLn(x), x == 1.0 ? 0.0 : sum);
+    }
+}
+
 TEST(LogGammaCorrection, IsThatOfFortyDigits)
 {
     const value values[] = {

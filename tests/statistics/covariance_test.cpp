@@ -6,8 +6,10 @@
 #include "support/random_tables.h"
 #include "support/special_values.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -289,4 +291,29 @@ TEST(Covariance, ResultsBehindReferencesAreResized)
     EXPECT_TRUE(sameBits(sds.data[0], std::sqrt(2.0 / 3.0)));
     M_CovCorr(from, 3, 0, toOut, 0, nullptr, nullptr, 0, 0, 0);
     EXPECT_EQ(out.nbrows, 0);
+}
+
+TEST(Covariance, OfALabelledTableIsThatOfATable)
+{
+    sample t = tableOf({{1, 2, gone, 7}, {2, 1, 5, 3}, {0, -4, 1, 1}});
+    t.flags[3] = -1;
+    cST_MVect<double> x(4, 3);
+    cST_MVect<double> out(3, 3);
+    for (std::size_t j = 0; j < 3; ++j) {
+        std::copy_n(t.x.data + 4 * j, 4, x.Vectors[j].Vect.data);
+    }
+    for (const short int corr : {short{0}, short{1}}) {
+        covariance_flags how;
+        how.corr = corr;
+        t.covCorr(how);
+        EXPECT_EQ(M_CovCorr_ST(x, 4, 3, out, corr, t.flags.data(), &t.w, how.how.unbiased, how.how.freq,
+                               how.undefinedIsZero),
+                  0);
+        for (int j = 0; j < 3; ++j) {
+            for (int i = 0; i < 3; ++i) {
+                EXPECT_SAME_BITS(out.Vectors[static_cast<std::size_t>(j)].Vect.data[i], t.cell(i, j));
+            }
+        }
+    }
+    EXPECT_NE(t.cell(0, 1), 0.0);
 }

@@ -33,3 +33,32 @@ TEST(Dedupe, PutsKeptRowsFirstWhereADroppedOneHasTheLeastIdentifier)
                                                                                  5, 9, 2, 4, //
                                                                                  1, 1, 0, 0}));
 }
+
+TEST(GroupBy, ReducesEachRunOfKeysToARow)
+{
+    // The key, a quantity, and a quality.
+    std::vector<double> cells{2, 1, 2, 2, 10, 4, 30, 5, 1, 0, 3, 3};
+    matrix<double> x(4, 3, cells.data(), true);
+    matrix<int> kinds(3, 1, 0);
+    kinds.data[2] = 5;
+    const auto grouped = [&](int method) {
+        matrix<double> out(4, 3, 0.0);
+        int groups = -1;
+        M_GroupBy(&x, 4, 3, &kinds, 1, method, groups, &out);
+        EXPECT_EQ(groups, 2);
+        EXPECT_EQ(out.getElement(0, 0), 1.0);
+        EXPECT_EQ(out.getElement(1, 0), 2.0);
+        EXPECT_EQ(out.getElement(0, 2), 0.0);
+        EXPECT_EQ(out.getElement(1, 2), 3.0) << "the mode";
+        EXPECT_EQ(out.getElement(0, 1), method == 7 ? 0.0 : 4.0);
+        return out.getElement(1, 1);
+    };
+    const std::vector<double> expected{45, 15, 10, 10, 5, 5, 30, 25};
+    for (int method = 0; method < 8; ++method) {
+        EXPECT_EQ(grouped(method), expected[static_cast<std::size_t>(method)]) << method;
+    }
+    matrix<double> out(4, 3, 0.0);
+    int groups = -1;
+    M_GroupBy(&x, 0, 3, &kinds, 1, 0, groups, &out);
+    EXPECT_EQ(groups, 0);
+}

@@ -5,6 +5,8 @@
 #include "support/near_tables.h"
 #include "support/special_values.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -114,4 +116,26 @@ TEST(WeightedSums, SparseTables)
     EXPECT_TRUE(sameBits(out.getElement(2, 3), 0.0)) << "missing in the first table";
     M_Sums1As2B(&A, 3, 4, &A, 1.0, 1.0, &A);
     EXPECT_TRUE(sameBits(A.getElement(1, 0), 8.0)) << "the result may be one of the tables";
+}
+
+TEST(WeightedSums, LabelledTables)
+{
+    cST_MVect<double> A(2, 2);
+    cST_MVect<double> B(2, 2);
+    cST_MVect<double> out(2, 2);
+    const double left[] = {1, gone, 3, 4};
+    const double right[] = {10, 20, 30, gone};
+    for (std::size_t j = 0; j < 2; ++j) {
+        std::copy_n(left + 2 * j, 2, A.Vectors[j].Vect.data);
+        std::copy_n(right + 2 * j, 2, B.Vectors[j].Vect.data);
+        std::fill_n(out.Vectors[j].Vect.data, 2, 9.0);
+    }
+    M_Sums1As2B_ST(A, 2, 2, B, 2.0, 0.5, out);
+    EXPECT_EQ(out.Vectors[0].Vect.data[0], 7.0);
+    EXPECT_EQ(out.Vectors[0].Vect.data[1], 0.0);
+    EXPECT_EQ(out.Vectors[1].Vect.data[0], 21.0);
+    EXPECT_EQ(out.Vectors[1].Vect.data[1], 0.0);
+    M_Sums1As2B_ST(A, 2, 1, B, 1.0, 1.0, B);
+    EXPECT_EQ(B.Vectors[0].Vect.data[0], 11.0) << "the result may be one of the tables";
+    EXPECT_EQ(B.Vectors[1].Vect.data[0], 30.0) << "only the columns that are asked for";
 }

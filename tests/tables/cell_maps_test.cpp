@@ -4,6 +4,7 @@
 #include "reference/table_maps.h"
 #include "tables/map_twins.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -18,6 +19,14 @@ TEST(CellMaps, SquareRootsAreThePlainLoop)
             given.input(), [&](table& out) { M_SquareRootAij(&x, given.rows, given.cols, &out); },
             [&](table& out) { plain::squareRoots(x, given.rows, given.cols, out); });
     });
+}
+
+TEST(CellMaps, SquareRootsInPlace)
+{
+    std::vector<double> cells{4, -1, MISSING_DBL, 9, 2, 16};
+    matrix<double> x(3, 2, cells.data(), true);
+    M_SquareRootAij2(&x, 2, 2);
+    EXPECT_EQ(cells, (std::vector<double>{2, MISSING_DBL, MISSING_DBL, 3, std::sqrt(2.0), 16}));
 }
 
 TEST(CellMaps, TheFirstColumnIsSubtractedBeyondTheTableToo)

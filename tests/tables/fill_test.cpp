@@ -39,3 +39,29 @@ TEST(Fill, NumberingPastTheEndReachesTheSpareSlot)
     EXPECT_EQ(z.data[0], u"1");
     EXPECT_EQ(z.oobValue, u"12");
 }
+
+TEST(Fill, FlagsAreSet)
+{
+    std::vector<short int> flags{1, 2, 3};
+    EXPECT_EQ(InitVectorToTrue(flags.data(), 2), 0);
+    EXPECT_EQ(flags, (std::vector<short int>{-1, -1, 3}));
+    EXPECT_EQ(InitVectorToFalse(flags.data(), 1), 0);
+    EXPECT_EQ(flags, (std::vector<short int>{0, -1, 3}));
+    for (const int none : {0, -1}) {
+        EXPECT_EQ(InitVectorToTrue(nullptr, none), 0);
+        EXPECT_EQ(InitVectorToFalse(nullptr, none), 0);
+    }
+}
+
+TEST(Fill, CellsThatEqualANumberAreFlagged)
+{
+    std::vector<int> cells{1, MISSING_LNG, 1, 3, 1, 2};
+    matrix<int> x(3, 2, cells.data(), true);
+    matrix<short int> flags(3, 2, short{7});
+    M_SetBooleanIfLng(&x, 3, 2, 1, &flags);
+    EXPECT_EQ(std::vector<short int>(flags.data, flags.data + 6),
+              (std::vector<short int>{-1, 0, -1, 0, -1, 0}));
+    M_SetBooleanIfLng(&x, 2, 1, MISSING_LNG, &flags);
+    EXPECT_EQ(std::vector<short int>(flags.data, flags.data + 6),
+              (std::vector<short int>{0, -1, -1, 0, -1, 0}));
+}

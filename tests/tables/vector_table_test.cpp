@@ -48,3 +48,17 @@ TEST(VectorTable, TheDiagonalBecomesAVector)
     M_DiagToVect(x, -1, 3, v);
     EXPECT_EQ(v.nbElem, 0u);
 }
+
+TEST(VectorTable, TextsAreLaidOutByRow)
+{
+    matrix<text> x(2, 3, text());
+    for (int k = 0; k < 6; ++k) {
+        x.data[k] = text(1, static_cast<char16_t>(u'a' + k));
+    }
+    matrix<text> v(6, 1, text());
+    M_CopyTabletoVectorByRow(&x, 2, 3, &v);
+    EXPECT_EQ(std::vector<text>(v.data, v.data + 6), (std::vector<text>{u"a", u"c", u"e", u"b", u"d", u"f"}));
+    matrix<text> back(2, 3, text());
+    M_CopyVectortoTableByRow(&v, 2, 3, &back);
+    EXPECT_EQ(std::vector<text>(back.data, back.data + 6), std::vector<text>(x.data, x.data + 6));
+}

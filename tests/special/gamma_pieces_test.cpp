@@ -1,0 +1,123 @@
+// Beside the gamma function of the C library in its longest type, and, where that loses digits, formulas of
+// it.
+#include "special/gamma_pieces.h"
+
+#include <cfloat>
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace korvel;
+
+/** In units of epsilon, relative to the truth. Bounds are about twice what was seen. */
+double errorOf(double found, long double truth)
+{
+    return static_cast<double>(std::fabs((static_cast<long double>(found) - truth) / truth)) / DBL_EPSILON;
+}
+
+template <class Found, class Truth>
+double largestError(double from, double to, Found found, Truth truth)
+{
+    constexpr int places = 1001;
+    double largest = 0.0;
+    for (int k = 0; k <= places; ++k) {
+        const double x = from + (to - from) * k / places;
+        largest = std::fmax(largest, errorOf(found(x), truth(static_cast<long double>(x))));
+    }
+    return largest;
+}
+
+long double logBeta(long double a, long double b)
+{
+    return std::lgamma(a) + std::lgamma(b) - std::lgamma(a + b);
+}
+
+/** The correction of the Stirling series by its own terms, for a of at least 8. */
+long double stirling(long double a)
+{
+    const long double t = 1.0L / (a * a);
+    const long double terms[] = {1.0L / 12,    -1.0L / 360,       1.0L / 1260,
+                                 -1.0L / 1680, 1.0L / 1188,       -691.0L / 360360,
+                                 1.0L / 156,   -3617.0L / 122400, 43867.0L / 244188};
+    long double sum = 0.0L;
+    for (int k = 8; k >= 0; --k) {
+        sum = terms[k] + t * sum;
+    }
+    return sum / a;
+}
+
+} // namespace
+
+TEST(GammaPieces, ReciprocalsKeepTheirDigitsNearTheirZeros)
+{
+    const auto excess = [](long double a) { return std::expm1(-std::lgamma(1.0L + a)); };
+    EXPECT_EQ(reciprocalGammaExcess(0.0), 0.0);
+    EXPECT_EQ(reciprocalGammaExcess(1.0), 0.0);
+    EXPECT_LT(largestError(-0.5, -0.001, reciprocalGammaExcess, excess), 14.0);
+    EXPECT_LT(largestError(0.001, 0.5, reciprocalGammaExcess, excess), 4.0);
+    EXPECT_LT(largestError(0.501, 0.999, reciprocalGammaExcess, excess), 20.0);
+    EXPECT_LT(largestError(1.001, 1.5, reciprocalGammaExcess, excess), 6.0);
+}
+
+TEST(GammaPieces, LogarithmsKeepTheirDigitsNearTheirZeros)
+{
+    const auto logGamma = [](long double a) { return std::lgamma(1.0L + a); };
+    EXPECT_LT(largestError(-0.2, -0.001, logGammaOf1Plus, logGamma), 20.0);
+    EXPECT_LT(largestError(0.001, 0.599, logGammaOf1Plus, logGamma), 4.0);
+    EXPECT_LT(largestError(0.6, 0.999, logGammaOf1Plus, logGamma), 4.0);
+    EXPECT_LT(largestError(1.001, 1.25, logGammaOf1Plus, logGamma), 4.0);
+}
+
+TEST(GammaPieces, QuotientsAndCorrectionsOfLargeArguments)
+{
+    for (const double b : {8.0, 11.5, 40.0, 700.0}) {
+        for (const double a : {0.001, 0.5, 1.0, 3.7, 8.0}) {
+            const long double truth = std::lgamma(static_cast<long double>(b)) -
+                                      std::lgamma(static_cast<long double>(a) + static_cast<long double>(b));
+            EXPECT_LT(errorOf(logGammaQuotient(a, b), truth), 20.0) << a << ' ' << b;
+        }
+        for (const double a : {8.0, 9.0, 30.0, 5000.0}) {
+            const long double truth = stirling(a) + stirling(b) - stirling(static_cast<long double>(a) + b);
+            EXPECT_LT(errorOf(betaCorrection(a, b), truth), 1000.0) << a << ' ' << b;
+            EXPECT_LT(errorOf(expOfNegatedCorrection(a, b), std::exp(-truth)), 8.0) << a << ' ' << b;
+        }
+    }
+}
+
+TEST(GammaPieces, DigammaHasItsRecurrenceAndKnownValues)
+{
+    // mpmath, 40 digits.
+    EXPECT_LT(errorOf(digamma(1.0), -0.57721566490153286061L), 4.0);
+    EXPECT_LT(errorOf(digamma(0.5), -1.9635100260214234794L), 20.0);
+    EXPECT_LT(errorOf(digamma(0.25), -4.2274535333762654081L), 4.0);
+    EXPECT_LT(errorOf(digamma(3.0), 0.92278433509846713939L), 10.0);
+    EXPECT_LT(errorOf(digamma(10.0), 2.2517525890667211077L), 4.0);
+    EXPECT_LT(errorOf(digamma(1e6), 13.815510057964191016L), 4.0);
+    EXPECT_LT(errorOf(digamma(1e-10), -10000000000.577215665L), 4.0);
+    for (double x = 0.03; x < 12.0; x += 0.37) {
+        EXPECT_NEAR(digamma(x + 1.0) - digamma(x), 1.0 / x, 3e-15 * (1.0 / x + 3.0)) << x;
+    }
+}
+
+TEST(GammaPieces, ReciprocalsOfTheBetaFunctionInParts)
+{
+    const double arguments[] = {1e-12, 0.01, 0.3, 0.9,  1.0,  1.2,   1.7,   2.0,    2.3, 5.5,
+                                7.9,   8.0,  8.1, 12.0, 40.5, 300.0, 999.0, 1001.0, 1e5};
+    for (const double a : arguments) {
+        for (const double b : arguments) {
+            const reciprocal_beta parts = reciprocalBeta(a, b);
+            const auto found = std::log(static_cast<long double>(parts.lesser)) +
+                               std::log(static_cast<long double>(parts.factor)) - parts.logarithm;
+            const long double truth = -logBeta(a, b);
+            // The truth is a difference of logarithms, each of which is rounded.
+            const auto rounding = 1e-18 * std::lgamma(a + b);
+            EXPECT_NEAR(static_cast<double>(found - truth), 0.0,
+                        5e-15 * (1.0 + static_cast<double>(std::fabs(truth))) + rounding)
+                << a << ' ' << b;
+            EXPECT_EQ(parts.lesser, std::fmin(1.0, std::fmin(a, b)));
+            EXPECT_EQ(parts.logarithm == 0.0, a <= 1.0 && b <= 1.0) << a << ' ' << b;
+        }
+    }
+}
