@@ -1,6 +1,7 @@
 """The committed files that are made from the flat headers and from VERSION, as {path below the root: content}."""
 
-from . import calc_files, core_list, csharp_class, flat_headers, python_module, records, reference_page, released, vba_module
+from . import (calc_files, core_list, csharp_class, flat_headers, python_module, r_package, records, reference_page, released,
+               vba_module)
 
 
 def names_of(headers):
@@ -68,5 +69,6 @@ def make(root):
         f"{flat_headers.HEADERS}/platform/version.h": version_header(version_of(root)),
         core_list.NAME: core_list.in_order(core_list.read(root)),
     }
+    made |= r_package.make(headers, version_of(root))
     made |= calc_files.make(root, headers, version_of(root), problems)
     return made, problems

@@ -262,6 +262,73 @@ KORVEL_FLAT void VB_Rooms(int n, int p, const int* counts, int mode, const doubl
             ],
         )
 
+    def test_r_package(self):
+        self.functions(SUM)
+        self.make()
+        package = "bindings/r/korvelmathtools/"
+        self.assertIn("\nVersion: 1.20.3\n", self.read(f"{package}DESCRIPTION"))
+        self.assertEqual(
+            self.read(f"{package}R/declarations.R").splitlines()[2:],
+            [
+                ".functions <- list(",
+                'VB_Sum = list("d", list(',
+                '    .p("x", "D", FALSE, FALSE, FALSE, 0, NULL, list(quote(n), 1)),',
+                '    .p("n", "i", FALSE, FALSE, FALSE, 0, NULL),',
+                '    .p("flags", "S", FALSE, FALSE, TRUE, 0, NULL, list(quote(n), 1))',
+                "))",
+                ")",
+            ],
+        )
+        self.assertEqual(
+            self.read(f"{package}src/calls.c").splitlines()[3:],
+            [
+                "static void call_VB_Sum(const korvel_slot* a, korvel_slot* r)",
+                "{",
+                "    r->number = VB_Sum(a[0].numbers, a[1].integer, a[2].flags);",
+                "}",
+                "",
+                "const korvel_function korvel_functions[] = {",
+                '    {"VB_Sum", "DiS", "d", call_VB_Sum},',
+                "};",
+                "",
+                "const size_t korvel_function_count = 1;",
+            ],
+        )
+
+    def test_r_knows_what_is_written_and_other_rooms(self):
+        self.functions(
+            """\
+/**
+ * 50 % of {a}.
+ *
+ * @param n rows; 0 counts as 1
+ * @param mode 1 or 2
+ * @param a [inout] n by 2 * n numbers, or n numbers when mode is 2
+ * @param b [out] one integer
+ * @param c [in] host array of Boolean
+ */
+KORVEL_FLAT void VB_Rooms(int n, int mode, double* a, int* b, SAFEARRAY** c);
+"""
+        )
+        self.make()
+        package = "bindings/r/korvelmathtools/"
+        self.assertEqual(
+            [line.strip() for line in self.read(f"{package}R/declarations.R").splitlines()[4:-2]],
+            [
+                '.p("n", "i", FALSE, FALSE, FALSE, 1, NULL),',
+                '.p("mode", "i", FALSE, FALSE, FALSE, 0, NULL),',
+                '.p("a", "D", TRUE, FALSE, FALSE, 0, NULL, list(quote(n), quote(2 * n)), list(quote(n), 1, "mode", 2)),',
+                '.p("b", "I", TRUE, TRUE, FALSE, 0, NULL, list(1, 1)),',
+                '.p("c", "A", FALSE, FALSE, FALSE, 0, "Boolean")',
+            ],
+        )
+        self.assertIn("    VB_Rooms(a[0].integer, a[1].integer, a[2].numbers, a[3].integers, a[4].array);\n    (void)r;\n",
+                      self.read(f"{package}src/calls.c"))
+        page = self.read(f"{package}man/sample.Rd")
+        self.assertIn("\\alias{VB_Rooms}\n\\title{samples}\n", page)
+        self.assertIn("\\section{VB_Rooms}{\n\\code{VB_Rooms(n, mode, a, b, c)}\n\n50 \\% of \\{a\\}.\n", page)
+        self.assertIn("\\item{b}{out, one integer}\n", page)
+
     def test_keeps_to_the_limits_of_visual_basic(self):
         self.many_parameters(40)
         self.make()
@@ -376,6 +443,9 @@ KORVEL_FLAT void VB_Rooms(int n, int p, const int* counts, int mode, const doubl
                     "bindings/csharp/KORVELMathTools.cs",
                     "bindings/python/korvelmathtools/_declarations.py",
                     "docs/reference.md",
+                    "bindings/r/korvelmathtools/R/declarations.R",
+                    "bindings/r/korvelmathtools/src/calls.c",
+                    "bindings/r/korvelmathtools/man/sample.Rd",
                 )
             ],
         )
