@@ -22,7 +22,7 @@ static BSTR made_text(SEXP raw)
 {
     BSTR const text = SysAllocStringLen((const OLECHAR*)RAW(raw), (UINT)(XLENGTH(raw) / 2));
     if (text == NULL) {
-        Rf_error("memory is short");
+        Rf_errorcall(R_NilValue, "memory is short");
     }
     return text;
 }
@@ -234,7 +234,7 @@ static korvel_slot slot_of(char kind, SEXP x, block** made)
         slot.table = labelled_table(x, made);
         break;
     default:
-        Rf_error("an argument that R cannot make");
+        Rf_errorcall(R_NilValue, "an argument that R cannot make");
     }
     return slot;
 }
@@ -295,7 +295,7 @@ static SEXP korvel_call(SEXP name, SEXP arguments, SEXP written)
         CHAR(STRING_ELT(name, 0)), korvel_functions, korvel_function_count, sizeof(korvel_function), by_name);
     R_xlen_t const count = XLENGTH(arguments);
     if (function == NULL || count != (R_xlen_t)strlen(function->kinds) || count > most_arguments) {
-        Rf_error("%s: another number of arguments", CHAR(STRING_ELT(name, 0)));
+        Rf_errorcall(R_NilValue, "%s: another number of arguments", CHAR(STRING_ELT(name, 0)));
     }
     korvel_slot slots[most_arguments];
     korvel_slot result;
@@ -319,7 +319,7 @@ static SEXP korvel_call(SEXP name, SEXP arguments, SEXP written)
     }
     free_texts(made);
     if (!done) {
-        Rf_error("%s: memory is short, or a count is below 0", function->name);
+        Rf_errorcall(R_NilValue, "%s: memory is short, or a count is below 0", function->name);
     }
     UNPROTECT(1);
     return answer;
