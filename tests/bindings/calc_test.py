@@ -4,7 +4,10 @@
     calc_test.py ROOT FOLDER    the source tree, and a folder of its own, which is emptied first
 """
 
+import platform
 import re
+import shutil
+import subprocess
 import sys
 import unittest
 from pathlib import Path
@@ -76,6 +79,38 @@ def wanted(value):
     if value <= kmt.MISSING:
         return "error", NOT_AVAILABLE
     return ("number", value.hex()) if numpy.isfinite(value) else ("error", NOT_A_NUMBER)
+
+
+class Extension(unittest.TestCase):
+    def test_contents(self):
+        inside = SCRATCH / "extension"
+        listed = re.findall(r'full-path="([^"]*)"', (inside / "META-INF" / "manifest.xml").read_text(encoding="ascii"))
+        self.assertEqual(len(listed), 3)
+        for name in (*listed, "licences.md", "pythonpath/korvelcalc/cells.py", "pythonpath/korvelmathtools/_declarations.py"):
+            self.assertTrue((inside / name).is_file(), name)
+        self.assertTrue(kmt.LIBRARY_PATH.startswith(str(inside)))
+        about = (inside / "description.xml").read_text(encoding="ascii")
+        self.assertIn(f'<version value="{kmt.__version__}"/>', about)
+        self.assertIn(f'<platform value="linux_{platform.machine()}"/>', about)
+
+    def test_each_archive_of_the_same_sources_is_the_same(self):
+        folder = SCRATCH / "extension" / "pythonpath" / "korvelmathtools"
+        (library,) = folder.glob("libKORVELMathTools.so.*")
+        libraries = SCRATCH / "libraries"
+        libraries.mkdir()
+        shutil.copy(library, libraries / f"{library.name}.0")
+        made = []
+        for name in ("first.oxt", "second.oxt"):
+            subprocess.run([ROOT / "tools" / "calc_extension", libraries, SCRATCH / name], check=True)
+            made.append((SCRATCH / name).read_bytes())
+        self.assertEqual(*made)
+
+    def test_without_libraries_there_is_none(self):
+        done = subprocess.run([ROOT / "tools" / "calc_extension", ROOT / "docs", SCRATCH / "none.oxt"],
+                              stderr=subprocess.PIPE, encoding="utf-8", check=False)
+        self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1))
+        self.assertIn("no libraries in", done.stderr)
+        self.assertFalse((SCRATCH / "none.oxt").exists())
 
 
 class InTheOffice(unittest.TestCase):
@@ -201,6 +236,12 @@ class InTheOffice(unittest.TestCase):
         data, _ = sheet_of_data()
         cells = Shown(self.opened("hostile.fods", data, hostile, sheet).Sheets.getByName("Cases"), len(formulas), 1).cells
         self.assertEqual([text for (kind, text), (cell,) in zip(formulas, cells) if kind == "errors" and cell is not None], [])
+        found = {text: cell for (_, text), (cell,) in zip(formulas, cells)}
+        numbers = numpy.array([((i * 7919) % rows) / 8 for i in range(rows)])
+        self.assertEqual(found[formula("MAXIMUM", "here", {"here": ranges["long"]})], kmt.VB_V_Max(numbers))
+        self.assertEqual(found[formula("COUNTMISSING", "here", {"here": ranges["empty"]})], 40.0)
+        self.assertEqual(found[formula("COUNTMISSING", "here", {"here": ranges["wide"]})], float(rows))
+        self.assertIsNone(found[formula("DISTANCES", "here", {"here": ranges["long"]})])
         self.assertTrue(self.office.is_running())
 
 

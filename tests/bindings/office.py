@@ -53,7 +53,8 @@ class Office:
     """Runs from `with` to its end. Files for it stand in `folder`, which it may read and write."""
 
     def __init__(self, extension):
-        self.folder = Path(tempfile.mkdtemp(prefix="korvel-office."))
+        # Root's own folder for such files may be closed to the other user.
+        self.folder = Path(tempfile.mkdtemp(prefix="korvel-office.", dir="/tmp" if AS_ROOT else None))
         self.extension = extension
         self.process = self.context = self.desktop = None
 
