@@ -10,7 +10,7 @@
 Each function takes its arguments in the order of the C declaration or by name; `help(kmt.VB_V_Sum)` describes them.
 What follows from the others may be left out: a count that an array shows, an array that may be absent, and an array that
 is only written, which is then made. The answer is the result of the function, or, when arrays were made, a named tuple of
-the result and of them.
+the result and of them. A name that Python or the tuple has already gets an underscore: `from_`, `result_`.
 
 Tables are column-major: an array in Fortran order is handed over as it stands, any other that is only read is copied. An
 array that is changed must have the right type and order. A missing number is `MISSING`, not a NaN: `from_nan` and `to_nan`
