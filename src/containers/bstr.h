@@ -9,12 +9,16 @@
 #include "platform/automation.h"
 
 #include <cstdint>
+#include <string_view>
 
 namespace korvel
 {
 
 /** The characters of a BSTR up to its first NUL; empty for a null pointer or a BSTR of no bytes. */
 [[nodiscard]] text readBstr(BSTR source);
+
+/** The same characters where they stand, for as long as the BSTR is. */
+[[nodiscard]] std::u16string_view viewBstr(BSTR source);
 
 /** Whether `readBstr(source)` equals `value`, without making the text. */
 [[nodiscard]] bool readsAs(BSTR source, const text& value);

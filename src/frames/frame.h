@@ -8,6 +8,7 @@
 #define KORVEL_FRAMES_FRAME_H
 
 #include "containers/bstr.h"
+#include "containers/caller_texts.h"
 #include "containers/host_chunks.h"
 #include "containers/matrix.h"
 #include "containers/records.h"
@@ -133,6 +134,13 @@ void copyOut(const matrix<T>& result, T* array)
 [[nodiscard]] inline matrix<text> readTexts(OLECHAR* const* block, int rows, int cols = 1)
 {
     return cols > 0 ? matrix<text>(rows, cols, readOnly(block), 0, 0) : withoutCells<text>(rows);
+}
+
+/** What would be such a copy, for core routines that read the caller's texts where they stand. */
+[[nodiscard]] inline caller_texts insteadOfTexts(OLECHAR* const* block, int rows, int cols = 1)
+{
+    refuseImpossible(rows, cols);
+    return {block, rows};
 }
 
 /** Writes texts back over the caller's block; a BSTR that reads the same stays untouched. */

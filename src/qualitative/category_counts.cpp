@@ -1,6 +1,7 @@
 #include "qualitative/category_counts.h"
 
 #include "containers/views.h"
+#include "qualitative/caller_categories.h"
 #include "qualitative/category_order.h"
 #include "qualitative/category_slots.h"
 #include "qualitative/text_index.h"
@@ -29,12 +30,11 @@ int countTexts(int n, const Column& column)
         column);
 }
 
-} // namespace
-
-int GetMaxCat(matrix<text> const& data, int n, int p, matrix<int>& categoryCounts)
+template <class View>
+int countColumns(const View& data, int n, int p, matrix<int>& categoryCounts)
 {
-    const std::vector<int> counts = korvel::forEachVariable<int>(
-        p, [&](int j) { return countTexts(n, korvel::reading(data).column(j, n)); });
+    const std::vector<int> counts =
+        korvel::forEachVariable<int>(p, [&](int j) { return countTexts(n, data.column(j, n)); });
     int largest = 0;
     for (int j = 0; j < p; ++j) {
         const int count = counts[static_cast<std::size_t>(j)];
@@ -42,6 +42,18 @@ int GetMaxCat(matrix<text> const& data, int n, int p, matrix<int>& categoryCount
         largest = std::max(largest, count);
     }
     return largest;
+}
+
+} // namespace
+
+int GetMaxCat(matrix<text> const& data, int n, int p, matrix<int>& categoryCounts)
+{
+    return countColumns(korvel::reading(data), n, p, categoryCounts);
+}
+
+int korvel::largestCategoryCount(const korvel::caller_texts& data, int n, int p, matrix<int>& categoryCounts)
+{
+    return countColumns(data, n, p, categoryCounts);
 }
 
 int GetMaxCat(matrix<text> const& column, int n, int& categoryCount)

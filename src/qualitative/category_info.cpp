@@ -1,6 +1,7 @@
 #include "qualitative/category_info.h"
 
 #include "containers/views.h"
+#include "qualitative/caller_categories.h"
 #include "qualitative/category_list.h"
 #include "qualitative/category_order.h"
 #include "qualitative/category_slots.h"
@@ -79,8 +80,8 @@ constexpr korvel::unit_weights oneEach{};
  * found
  * @param frequencies the first ones decide on the mode
  */
-template <class SlotsOf, class First, class... More>
-void inventory(const matrix<text>& data, int n, int p, int width, matrix<text>& modes,
+template <class View, class SlotsOf, class First, class... More>
+void inventory(const View& data, int n, int p, int width, matrix<text>& modes,
                matrix<double>& modeFrequencies, matrix<text>& categories, int& total, short int sort,
                SlotsOf slotsOf, const First& frequencies, const More&... more)
 {
@@ -104,8 +105,7 @@ void inventory(const matrix<text>& data, int n, int p, int width, matrix<text>& 
                 addTo(row_slots<double>(table.sums, j), k, started, table.weights[i]);
             });
         };
-        const int count =
-            slotsOf(j, listVariable(n, korvel::reading(data).column(j, n), names, index, tally));
+        const int count = slotsOf(j, listVariable(n, data.column(j, n), names, index, tally));
         if (count > 0) {
             const int mode = positionOfMode(sums, count);
             korvel::storeChecked(modes, j, names.get(mode));
@@ -125,6 +125,31 @@ void inventory(const matrix<text>& data, int n, int p, int width, matrix<text>& 
             forTables([&](const auto& table) { korvel::permute(order, row_slots<double>(table.sums, j)); });
         }
     }
+}
+
+template <class View>
+void ofAnyNumber(const View& data, int n, int p, int width, matrix<int>& categoryCounts, matrix<text>& modes,
+                 matrix<double>& modeFrequencies, matrix<text>& categories, matrix<double>& frequencies,
+                 const matrix<double>& weights, int& total, short int sort)
+{
+    categoryCounts.Redim(p, 1, 0);
+    const auto allFound = [&](int j, int found) {
+        korvel::storeChecked(categoryCounts, j, found);
+        return found;
+    };
+    inventory(data, n, p, width, modes, modeFrequencies, categories, total, sort, allFound,
+              frequency_table{frequencies, weights});
+}
+
+template <class View>
+void ofFixedNumber(const View& data, int n, int p, int width, int count, matrix<text>& modes,
+                   matrix<double>& modeFrequencies, matrix<text>& categories, matrix<double>& frequencies,
+                   matrix<double>& weightedFrequencies, const matrix<double>& weights, int& total,
+                   short int sort)
+{
+    inventory(
+        data, n, p, width, modes, modeFrequencies, categories, total, sort, [&](int, int) { return count; },
+        frequency_table{frequencies, oneEach}, frequency_table{weightedFrequencies, weights});
 }
 
 } // namespace
@@ -147,13 +172,8 @@ void M_InfoQuali2(matrix<text> const& data, int n, int p, int width, matrix<int>
                   matrix<text>& modes, matrix<double>& modeFrequencies, matrix<text>& categories,
                   matrix<double>& frequencies, matrix<double>& weights, int* total, short int sort)
 {
-    categoryCounts.Redim(p, 1, 0);
-    const auto allFound = [&](int j, int found) {
-        korvel::storeChecked(categoryCounts, j, found);
-        return found;
-    };
-    inventory(data, n, p, width, modes, modeFrequencies, categories, *total, sort, allFound,
-              frequency_table{frequencies, std::as_const(weights)});
+    ofAnyNumber(korvel::reading(data), n, p, width, categoryCounts, modes, modeFrequencies, categories,
+                frequencies, weights, *total, sort);
 }
 
 void M_InfoQuali2(matrix<text> const& data, int n, int variable, int& categoryCount, text& mode,
@@ -182,7 +202,24 @@ void M_InfoQuali3(matrix<text>& data, int n, int p, int width, int count, matrix
                   matrix<double>& modeFrequencies, matrix<text>& categories, matrix<double>& frequencies,
                   matrix<double>& weightedFrequencies, matrix<double> weights, int* total, short int sort)
 {
-    inventory(
-        data, n, p, width, modes, modeFrequencies, categories, *total, sort, [&](int, int) { return count; },
-        frequency_table{frequencies, oneEach}, frequency_table{weightedFrequencies, std::as_const(weights)});
+    ofFixedNumber(korvel::reading(data), n, p, width, count, modes, modeFrequencies, categories, frequencies,
+                  weightedFrequencies, weights, *total, sort);
+}
+
+void korvel::infoQuali2(const caller_texts& data, int n, int p, int width, matrix<int>& categoryCounts,
+                        matrix<text>& modes, matrix<double>& modeFrequencies, matrix<text>& categories,
+                        matrix<double>& frequencies, const matrix<double>& weights, int* total,
+                        short int sort)
+{
+    ofAnyNumber(data, n, p, width, categoryCounts, modes, modeFrequencies, categories, frequencies, weights,
+                *total, sort);
+}
+
+void korvel::infoQuali3(const caller_texts& data, int n, int p, int width, int count, matrix<text>& modes,
+                        matrix<double>& modeFrequencies, matrix<text>& categories,
+                        matrix<double>& frequencies, matrix<double>& weightedFrequencies,
+                        const matrix<double>& weights, int* total, short int sort)
+{
+    ofFixedNumber(data, n, p, width, count, modes, modeFrequencies, categories, frequencies,
+                  weightedFrequencies, weights, *total, sort);
 }

@@ -33,10 +33,9 @@ public:
     }
 
     /** Puts a text into the next slot, and gives its position. */
-    int add(const text& name) { return add(hashed_text(name)); }
     int add(const hashed_text& name)
     {
-        slots_.set(size_, name.value());
+        slots_.set(size_, text(name.value()));
         if (size_ < room_) {
             index_->put(stored(name), size_);
         }
@@ -51,7 +50,7 @@ private:
     }
 
     /** Slots outside all read what was stored last. */
-    [[nodiscard]] int search(const text& cell) const
+    [[nodiscard]] int search(std::u16string_view cell) const
     {
         int k = size_ - 1;
         while (k >= 0 && slots_.get(k) != cell) {

@@ -47,7 +47,8 @@ public:
             if (!isLong) {
                 return cell;
             }
-            longName = prefix + cell.value();
+            longName = prefix;
+            longName += cell.value();
             return korvel::hashed_text(longName);
         };
         index_.clear();

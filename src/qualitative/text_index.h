@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 #include <vector>
 
 namespace korvel
@@ -21,19 +22,19 @@ namespace korvel
 class hashed_text
 {
 public:
-    explicit hashed_text(const text& source) : source_(&source), hash_(hashOf(source)) {}
+    explicit hashed_text(std::u16string_view source) : source_(source), hash_(hashOf(source)) {}
 
     /** An equal text that stands elsewhere. */
-    hashed_text(const text& source, std::uint32_t hash) : source_(&source), hash_(hash) {}
+    hashed_text(std::u16string_view source, std::uint32_t hash) : source_(source), hash_(hash) {}
 
-    [[nodiscard]] const text& value() const { return *source_; }
+    [[nodiscard]] std::u16string_view value() const { return source_; }
     [[nodiscard]] std::uint32_t hash() const { return hash_; }
 
 private:
     static constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15u;
 
     /** Four units at a time; the last four overlap those before them. */
-    static std::uint32_t hashOf(const text& source)
+    static std::uint32_t hashOf(std::u16string_view source)
     {
         const char16_t* const units = source.data();
         const std::size_t count = source.size();
@@ -71,7 +72,7 @@ private:
 
     static std::uint64_t folded(std::uint64_t state) { return state ^ state >> 32; }
 
-    const text* source_;
+    std::u16string_view source_;
     std::uint32_t hash_;
 };
 
@@ -84,7 +85,7 @@ public:
 
     /** The position of an equal text; -1 when there is none. */
     [[nodiscard]] int find(const hashed_text& key) const { return places_[placeOf(key)].position; }
-    [[nodiscard]] int find(const text& key) const { return find(hashed_text(key)); }
+    [[nodiscard]] int find(std::u16string_view key) const { return find(hashed_text(key)); }
 
     /** Puts a position under a text. A text that is there already has that position from now on. */
     void put(const hashed_text& key, int position)
@@ -100,10 +101,10 @@ public:
             found.position = position;
         }
     }
-    void put(const text& key, int position) { put(hashed_text(key), position); }
+    void put(std::u16string_view key, int position) { put(hashed_text(key), position); }
 
     /** The position under the text, which is `position` from now on when there was none. */
-    int findOrPut(const text& key, int position)
+    int findOrPut(std::u16string_view key, int position)
     {
         const hashed_text hashed(key);
         const int found = find(hashed);
@@ -131,7 +132,7 @@ private:
     static constexpr std::size_t fewestPlaces = 3; ///< For each text. Few texts then share a way.
 
     /** The comparison of the standard library looks at one unit after the other. */
-    static bool areEqual(const entry& a, const text& b)
+    static bool areEqual(const entry& a, std::u16string_view b)
     {
         return a.count == b.size() && std::memcmp(a.units, b.data(), a.count * sizeof(char16_t)) == 0;
     }

@@ -34,6 +34,26 @@ TEST_F(Bstr, ReadsUpToTheFirstNul)
     EXPECT_EQ(readBstr(block[5]), u"\xD83D\xDE00\u00E9");
 }
 
+TEST_F(Bstr, IsViewedUpToTheFirstNulWhereverThatIs)
+{
+    for (std::size_t length = 0; length <= 13; ++length) {
+        for (std::size_t nul = 0; nul <= length; ++nul) {
+            // The highest and lowest characters stand beside the NUL.
+            text content(length, u'\x8000');
+            for (std::size_t k = 0; k < length; ++k) {
+                content[k] = k == nul           ? u'\0'
+                             : k % 2 == nul % 2 ? u'\xFFFF'
+                             : k > nul          ? u'\x0001'
+                                                : u'\x8000';
+            }
+            bstr_block block{content};
+            EXPECT_EQ(viewBstr(block[0]), content.substr(0, nul)) << length << ", " << nul;
+            EXPECT_EQ(readBstr(block[0]), content.substr(0, nul)) << length << ", " << nul;
+        }
+    }
+    EXPECT_EQ(viewBstr(nullptr), u"");
+}
+
 TEST_F(Bstr, ComparesWithWhatItReads)
 {
     bstr_block block{null, u"", u"abc", text(u"a\0b", 3), text(u"\0b", 2)};

@@ -170,6 +170,16 @@ TEST(IsBinary, OfTwoGivenValues)
     EXPECT_EQ(isOneOf({MISSING_DBL, 1}, 1, 0, -1), 0);
 }
 
+TEST(IsBinary, ReadsTheSpareSlotBehindTheVector)
+{
+    matrix<double> x = vectorOf(doubles{0, 1});
+    x.oobValue = 1.0;
+    EXPECT_EQ(V_IsBinary(x, 4, 0), -1);
+    x.oobValue = 5.0;
+    EXPECT_EQ(V_IsBinary(x, 4, 0), 0);
+    EXPECT_EQ(V_IsBinaryXY(&x, 4, 0, 1, 0), 0);
+}
+
 TEST(IsBinary, OfEveryColumnByItsOwnCount)
 {
     cST_MVect<double> table(3, 2);
@@ -182,6 +192,11 @@ TEST(IsBinary, OfEveryColumnByItsOwnCount)
     EXPECT_EQ(M_IsBinary_ST(table, 0), 0);
     table.nbcols = 1;
     EXPECT_EQ(M_IsBinary_ST(table, 0), -1);
+    table.nbcols = 2;
+    table.Vectors[1].Count = 2;
+    table.Vectors[0].Vect[0] = 1.0;
+    table.Vectors[0].Vect[1] = 2.0;
+    EXPECT_EQ(M_IsBinary_ST(table, 0), 0) << "the first one alone fails";
     EXPECT_EQ(M_IsBinary_ST(*std::make_unique<cST_MVect<double>>(), 0), -1);
 }
 
@@ -190,6 +205,7 @@ TEST(ConvertBinary, CodesTheSmallerValueAsZero)
     EXPECT_EQ(converted({5, 2, 5, 2}), (doubles{1, 0, 1, 0}));
     EXPECT_EQ(converted({2, 5, 2 + eps, 7}), (doubles{0, 1, 0, 7})) << "other values stay";
     EXPECT_EQ(converted({5, 5}), (doubles{1, 1})) << "a constant positive vector";
+    EXPECT_EQ(converted({0.5, 0.5}), (doubles{1, 1}));
     EXPECT_EQ(converted({-5, -5}), (doubles{0, 0}));
     EXPECT_EQ(converted({0, 0}), (doubles{0, 0}));
     EXPECT_EQ(converted({MISSING_DBL, 3, MISSING_DBL, 1}), (doubles{MISSING_DBL, 1, MISSING_DBL, 0}));
@@ -215,4 +231,13 @@ TEST(ConvertBinary, PutsTheComplementBehindEachColumn)
     M_ConvertBinarytoDisjTable(&x, 2, 2, &result);
     EXPECT_EQ((doubles{result.data, result.data + 8}),
               (doubles{1, 0, 0, 1, 0.25, MISSING_DBL, 0.75, 1 - MISSING_DBL}));
+}
+
+TEST(ConvertBinary, ReachesOnlyTheCellsThatAreAskedFor)
+{
+    matrix<double> x(3, 2, 0.25);
+    matrix<double> result(3, 4, 77.0);
+    M_ConvertBinarytoDisjTable(&x, 2, 1, &result);
+    EXPECT_EQ((doubles{result.data, result.data + 12}),
+              (doubles{0.25, 0.25, 77, 0.75, 0.75, 77, 77, 77, 77, 77, 77, 77}));
 }

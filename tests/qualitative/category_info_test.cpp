@@ -216,6 +216,7 @@ TEST(CategoryInfo, OfAFixedNumberLooksAtSoManySlots)
     M_InfoQuali3(words, 2, 1, 3, 0, modes, modeFrequencies, names, rows, sums, weights, &total, -1);
     EXPECT_EQ(rowOf(names, 0), (texts{u"b", u"a", u""}));
     EXPECT_EQ(modes[0], u"");
+    EXPECT_EQ(modeFrequencies[0], 0.0);
     EXPECT_EQ(total, 0);
 }
 

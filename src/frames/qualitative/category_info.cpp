@@ -1,7 +1,7 @@
 #include "frames/qualitative/category_info.h"
 
 #include "frames/frame.h"
-#include "qualitative/category_info.h"
+#include "qualitative/caller_categories.h"
 
 using namespace korvel;
 
@@ -9,14 +9,14 @@ int VB_M_InfoQuali(OLECHAR* const* data, int n, int p, OLECHAR** modes, double* 
                    int* categoryCounts, OLECHAR** categories, double* frequencies, const double* weights,
                    int* total, short int sort)
 {
-    auto cells = frame::readTexts(data, n, p);
+    const auto cells = frame::insteadOfTexts(data, n, p);
     auto modeTexts = frame::filling(modes, p);
     auto modeNumbers = frame::filling(modeFrequencies, p);
     auto counts = frame::filling(categoryCounts, p);
     auto names = frame::filling(categories, p, n);
     auto sums = frame::filling(frequencies, p, n);
-    auto rowWeights = frame::borrow(weights, n);
-    M_InfoQuali(&cells, n, p, &modeTexts, &modeNumbers, &counts, &names, &sums, &rowWeights, total, sort);
+    const auto rowWeights = frame::borrow(weights, n);
+    infoQuali2(cells, n, p, n, counts, modeTexts, modeNumbers, names, sums, rowWeights, total, sort);
     frame::bringBack(modeTexts, modes);
     frame::bringBack(names, categories);
     return 0;
@@ -34,14 +34,14 @@ int VB_M_InfoQuali2(OLECHAR* const* data, int n, int p, int width, int* category
                     double* modeFrequencies, OLECHAR** categories, double* frequencies, const double* weights,
                     int* total, short int sort)
 {
-    auto cells = frame::readTexts(data, n, p);
+    const auto cells = frame::insteadOfTexts(data, n, p);
     auto counts = frame::filling(categoryCounts, p);
     auto modeTexts = frame::filling(modes, p);
     auto modeNumbers = frame::filling(modeFrequencies, p);
     auto names = frame::filling(categories, p, width);
     auto sums = frame::filling(frequencies, p, width);
-    auto rowWeights = frame::borrow(weights, n);
-    M_InfoQuali2(cells, n, p, width, counts, modeTexts, modeNumbers, names, sums, rowWeights, total, sort);
+    const auto rowWeights = frame::borrow(weights, n);
+    infoQuali2(cells, n, p, width, counts, modeTexts, modeNumbers, names, sums, rowWeights, total, sort);
     frame::bringBack(modeTexts, modes);
     frame::bringBack(names, categories);
     return 0;
@@ -51,14 +51,14 @@ int Cpp_M_InfoQuali3(OLECHAR* const* data, int n, int p, int width, int count, O
                      double* modeFrequencies, OLECHAR** categories, double* frequencies,
                      double* weightedFrequencies, const double* weights, int* total, short int sort)
 {
-    auto cells = frame::readTexts(data, n, p);
+    const auto cells = frame::insteadOfTexts(data, n, p);
     auto modeTexts = frame::filling(modes, p);
     auto modeNumbers = frame::filling(modeFrequencies, p);
     auto names = frame::filling(categories, p, width);
     auto rows = frame::filling(frequencies, p, width);
     auto sums = frame::filling(weightedFrequencies, p, width);
-    M_InfoQuali3(cells, n, p, width, count, modeTexts, modeNumbers, names, rows, sums,
-                 frame::borrow(weights, n), total, sort);
+    infoQuali3(cells, n, p, width, count, modeTexts, modeNumbers, names, rows, sums,
+               frame::borrow(weights, n), total, sort);
     frame::bringBack(modeTexts, modes);
     frame::bringBack(names, categories);
     return 0;

@@ -46,6 +46,27 @@ TEST(FlatCategoryInfo, FillsTablesAsWideAsThereAreRows)
     }
 }
 
+TEST(FlatCategoryInfo, ReadsTextsUpToTheirFirstNul)
+{
+    two_variables x(3);
+    text_block data({u"a", texts::value_type(u"a\0b", 3), u"?", texts::value_type(u"\0b", 2), u"b", u"b"});
+    SysFreeString(data.data()[2]);
+    data.data()[2] = nullptr;
+    VB_M_InfoQuali(data.data(), 3, 2, x.modes.data(), x.modeFrequencies.data(), x.counts.data(),
+                   x.names.data(), x.frequencies.data(), x.weights.data(), &x.total, 0);
+    EXPECT_EQ(x.names.values(), (texts{u"a", u"b", u"", u"", u"", u""}));
+    EXPECT_EQ(valuesOf(x.frequencies), (doubles{3, 6, 0, 0, 0, 0}));
+    EXPECT_EQ(Cpp_GetMaxCat(data.data(), 3, 2, x.counts.data()), 1);
+}
+
+TEST(FlatCategoryInfo, IsListedOverItsOwnTexts)
+{
+    two_variables x(3);
+    VB_M_InfoQuali(x.data.data(), 3, 2, x.modes.data(), x.modeFrequencies.data(), x.counts.data(),
+                   x.data.data(), x.frequencies.data(), x.weights.data(), &x.total, -1);
+    EXPECT_EQ(x.data.values(), (texts{u"9", u"a", u"10", u"b", u"", u""}));
+}
+
 TEST(FlatCategoryInfo, FillsTablesOfAWidth)
 {
     two_variables x(2);
