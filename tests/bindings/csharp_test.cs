@@ -88,6 +88,11 @@ internal static class Test
         MathTools.VB_V_MinMax(new[] { 3, MathTools.KORVEL_MISSING_DBL, -1 }, 3, out smallest, out largest, new short[3]);
         Same("smallest", smallest, -1.0);
         Same("largest", largest, 3.0);
+        double mean, deviation;
+        double[] heights = Cells.FromNullable(new double?[] { 1.62, null, 1.8 });
+        MathTools.VB_V_MeanStdev(heights, 3, out mean, out deviation, new short[3], new[] { 1.0, 1, 1 }, -1, -1);
+        Same("mean", Math.Round(mean, 12), 1.71);
+        Same("deviation", Math.Round(deviation, 12), Math.Round(0.18 / Math.Sqrt(2), 12));
         double[,] a = { { 1, 2 }, { 3, 4 }, { 5, 6 } }, b = { { 0, 1 }, { 1, 2 } };
         var product = new double[6];
         MathTools.VB_M_ProductAB(Cells.ByColumns(a), 3, 2, Cells.ByColumns(b), 2, product);

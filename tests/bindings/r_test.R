@@ -117,6 +117,7 @@ refused("VB_V_SetToValueStr: value must be one text", VB_V_SetToValueStr("a", va
 refused("Cpp_M_IsPositive_ST: x must be a table: a matrix, a data frame or a list of columns, not numeric",
         Cpp_M_IsPositive_ST(1, 1, 1, NULL, FALSE))
 refused("Cpp_M_InfoQuali3_ST: info is a record that R cannot make", Cpp_M_InfoQuali3_ST(list("a"), 1, list()))
+refused("ExtractBSTR: R cannot hold the result", ExtractBSTR("a"))
 refused("VB_M_DuplicateStrSPV: memory is short, or a count is below 0", VB_M_DuplicateStrSPV(list("a"), -1, 1, "b", 1, 1, 1, 1))
 refused("from_na: cells must be numbers or texts, not list", from_na(list()))
 

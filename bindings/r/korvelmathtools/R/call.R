@@ -96,6 +96,7 @@
 .call <- function(name, given) {
     result <- .functions[[name]][[1]]
     parameters <- .functions[[name]][[2]]
+    if (result == "T") stop(name, ": R cannot hold the result", call. = FALSE)
     names(parameters) <- vapply(parameters, `[[`, "", "name")
     failing <- function(p) function(...) stop(name, ": ", p$name, " ", ..., call. = FALSE)
     values <- list()
@@ -152,6 +153,8 @@
 .room_environment <- function(parameters, counts, values) {
     known <- lapply(values, function(x) if (is.list(x)) NULL else as.vector(x))
     for (p in parameters) {
+        # A count that the function changes is an array of one cell.
+        if (length(p$rooms) && identical(p$rooms[[1]], list(1, 1))) known[[p$name]] <- known[[p$name]][1]
         count <- counts[[p$name]]
         if (!is.null(count)) known[[p$name]] <- if (count == 0 && p$kind == "i") p$least else count
         if (p$kind == "M" && !is.null(values[[p$name]]))
