@@ -112,6 +112,7 @@ TEST(DisjunctiveTest, ReadsFlagsFromTheSecondOn)
     EXPECT_EQ(isDisjunctive(4, cells, {0, -1, 0, 0}), (outcome{0, 18})) << "the flagged row is the reference";
     EXPECT_EQ(isDisjunctive(4, cells, {0, -1, -1, 0}), (outcome{-1, 1})) << "the last one of the run";
     EXPECT_EQ(isDisjunctive(4, cells, {0, -1, -1, -1}), (outcome{0, 1})) << "which ends with the table";
+    EXPECT_EQ(isDisjunctive(4, cells, {0, -1, -1, -1, -1}), (outcome{0, 1})) << "whatever stands behind it";
 }
 
 TEST(DisjunctiveTest, WithoutColumnsOrRows)
@@ -204,6 +205,7 @@ TEST(ConvertBinary, CodesTheSmallerValueAsZero)
 {
     EXPECT_EQ(converted({5, 2, 5, 2}), (doubles{1, 0, 1, 0}));
     EXPECT_EQ(converted({2, 5, 2 + eps, 7}), (doubles{0, 1, 0, 7})) << "other values stay";
+    EXPECT_EQ(converted({1, 1 + eps, 3}), (doubles{0, 0, 1})) << "what is the same is no second value";
     EXPECT_EQ(converted({5, 5}), (doubles{1, 1})) << "a constant positive vector";
     EXPECT_EQ(converted({0.5, 0.5}), (doubles{1, 1}));
     EXPECT_EQ(converted({-5, -5}), (doubles{0, 0}));

@@ -66,6 +66,9 @@ TEST(NamesUsedTwice, AreFoundInLaterSlotsOfAnyVariable)
     EXPECT_EQ(isTwice({{u"a", u"b"}, {u"A", u"c"}}), 0);
     EXPECT_EQ(isTwice({{u"", u""}}), 1) << "empty names are equal";
     EXPECT_EQ(isTwice({}), 0);
+    const matrix<text> names = textTable(2, {u"a", u"c", u"b", u"a"});
+    EXPECT_EQ(CheckUniqueCatByVar(names, 2, 2, matrix<int>(2, 1, 2)), 1);
+    EXPECT_EQ(CheckUniqueCatByVar(names, 1, 2, matrix<int>(2, 1, 2)), 0) << "of the first variables only";
 }
 
 TEST(NamesUsedTwice, AreThoseOfThePlainSearch)

@@ -175,7 +175,7 @@ TEST(DisjunctiveTable, IsThatOfThePlainLoop)
         const int width = cells.integer(1, 6);
         matrix<text> data = randomTexts(cells, n, p, 4);
         matrix<text> names = randomTexts(cells, p, width, 4);
-        matrix<int> counts = cells.integers(p, 0, width + (seed % 5 == 0 ? 1 : 0));
+        matrix<int> counts = cells.integers(p + 1, 0, width + (seed % 5 == 0 ? 1 : 0));
         matrix<double> sums(p, width, 0.0);
         fillRandomly(cells, sums);
         const int total = cells.integer(1, 3 * width);
