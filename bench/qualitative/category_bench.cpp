@@ -1,8 +1,11 @@
-// The categories of a million texts with their frequencies, beside a search backwards through the known ones
-// and R's factor() and table(), in one run. The counters are the best time of each in milliseconds, whether
-// the search found the same, and the time of the routine as a share of each other one's. The argument is the
-// number of categories.
+// The categories of a million texts with their frequencies, by the core routine and by the flat function,
+// beside a search backwards through the known ones and R's factor() and table(), in one run. R has each
+// different text once and compares places in memory; the texts of the core and of the caller are a million
+// blocks. The counters are the best time of each in milliseconds, whether all found the same, and the time of
+// the core routine and of the flat function as a share of others. The argument is the number of categories.
 
+#include "containers/bstr.h"
+#include "frames/qualitative/category_info.h"
 #include "qualitative/category_info.h"
 #include "support/peer_script.h"
 #include "support/stop_watch.h"
@@ -77,7 +80,18 @@ void countCategories(benchmark::State& state)
     matrix<double> frequencies;
     int total = 0;
 
+    std::vector<BSTR> callerTexts(rows);
+    std::transform(cells.data, cells.data + rows, callerTexts.begin(), korvel::makeBstr);
+    const auto places = static_cast<std::size_t>(width);
+    std::vector<BSTR> flatNames(places);
+    std::vector<double> flatFrequencies(places);
+    BSTR flatMode = nullptr;
+    double flatModeFrequency = 0;
+    int flatCount = 0;
+    int flatTotal = 0;
+
     stop_watch library;
+    stop_watch flat;
     stop_watch search;
     inventory plain;
     for (auto _ : state) {
@@ -85,11 +99,20 @@ void countCategories(benchmark::State& state)
             M_InfoQuali2(cells, rows, 1, width, counts, modes, modeFrequencies, names, frequencies, weights,
                          &total, 0);
         });
+        flat.time([&] {
+            VB_M_InfoQuali2(callerTexts.data(), rows, 1, width, &flatCount, &flatMode, &flatModeFrequency,
+                            flatNames.data(), flatFrequencies.data(), weights.data, &flatTotal, 0);
+        });
         search.time([&] { plain = searchBackwards(cells.data, weights.data); });
     }
     const bool same = std::equal(plain.names.begin(), plain.names.end(), names.data, names.data + total) &&
                       std::equal(plain.frequencies.begin(), plain.frequencies.end(), frequencies.data,
-                                 frequencies.data + total);
+                                 frequencies.data + total) &&
+                      std::equal(plain.frequencies.begin(), plain.frequencies.end(), flatFrequencies.begin(),
+                                 flatFrequencies.begin() + flatTotal);
+    std::for_each(callerTexts.begin(), callerTexts.end(), SysFreeString);
+    std::for_each(flatNames.begin(), flatNames.end(), SysFreeString);
+    SysFreeString(flatMode);
 
     const cells_file file("codes", codes);
     const auto inR = [&](const char* expression) {
@@ -98,6 +121,7 @@ void countCategories(benchmark::State& state)
     const double factor = inR("factor(x)");
     const double table = inR("table(x)");
     state.counters["ours"] = library.milliseconds();
+    state.counters["flat"] = flat.milliseconds();
     state.counters["search"] = search.milliseconds();
     state.counters["R_factor"] = factor;
     state.counters["R_table"] = table;
@@ -105,6 +129,8 @@ void countCategories(benchmark::State& state)
     state.counters["to_search"] = library.milliseconds() / search.milliseconds();
     state.counters["to_R_factor"] = library.milliseconds() / factor;
     state.counters["to_R_table"] = library.milliseconds() / table;
+    state.counters["flat_to_R_factor"] = flat.milliseconds() / factor;
+    state.counters["flat_to_R_table"] = flat.milliseconds() / table;
 }
 
 } // namespace

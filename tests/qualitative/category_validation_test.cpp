@@ -172,6 +172,11 @@ TEST(CategoryValidation, OfOneVariableInSeveralColumns)
     EXPECT_EQ(column(*result.CatFreq, 0), (doubles{77, 77, 77, 77})) << "another variable";
     EXPECT_EQ(column(*result.CatFreq, 1), (doubles{3, 4, 0, 77})) << "three slots are cleared";
     EXPECT_EQ(column(*result.CatFreqW, 1), (doubles{30, 40, 0, 77}));
+    data.Vectors[2].Vect[0] = u"unknown";
+    M_InfoQualiValid_Plus_ST(2, data, 2, 2, 3, counts, known, result, first, second, &flag);
+    EXPECT_EQ(flag, 0) << "the third column is not looked at";
+    EXPECT_EQ(column(*result.CatFreq, 1), (doubles{1, 3, 0, 77}));
+    data.Vectors[2].Vect[0] = u"b";
 
     counts.Vect[1] = 1;
     M_InfoQualiValid_Plus_ST(2, data, 2, 3, 3, counts, known, result, first, second, &flag);
