@@ -117,6 +117,12 @@ TEST(TriangularDistribution, HasNoRootOfANegativeRatio)
     EXPECT_SAME_BITS(found(0.5, 0.25, 0.75, 0.3, 1.5).b, (s * 0.5 - 0.75) / (s - 1));
 }
 
+TEST(TriangularDistribution, EndsAtAQuantileWithNothingBeyond)
+{
+    EXPECT_SAME_BITS(found(1, 8, 2, 0.0, 0.36).a, 1.0);
+    EXPECT_SAME_BITS(found(3, 1, 5, 0.36, 1.0).b, 5.0);
+}
+
 TEST(TriangularDistribution, TakesTheModeAtAQuantileAsBetween)
 {
     const bounds made = found(4, 4, 9, 0.2, 0.8);

@@ -1,21 +1,12 @@
 #include "ordering/distinct.h"
 
+#include "support/column_tables.h"
 #include "support/random_cells.h"
 
 #include <gtest/gtest.h>
 #include <vector>
 
 using namespace korvel::test;
-
-namespace
-{
-
-std::vector<double> cellsOf(const matrix<double>& x)
-{
-    return {x.data, x.data + x.nbElem};
-}
-
-} // namespace
 
 TEST(Distinct, AreCountedAndLeaveTheVectorAsItIs)
 {

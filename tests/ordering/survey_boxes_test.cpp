@@ -1,5 +1,6 @@
 #include "ordering/survey_boxes.h"
 
+#include "support/column_tables.h"
 #include "support/random_cells.h"
 
 #include <gtest/gtest.h>
@@ -25,11 +26,6 @@ numbers boxesOf(matrix<double>& x, int n, matrix<double>& w, matrix<double>& gro
     numbers b(6, -1.0);
     V_TopBottom3BoxConditional(&x, n, &w, &group, value, &b[0], &b[1], &b[2], &b[3], &b[4], &b[5]);
     return b;
-}
-
-numbers cellsOf(const matrix<double>& x)
-{
-    return {x.data, x.data + x.nbElem};
 }
 
 } // namespace
