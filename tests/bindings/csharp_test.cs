@@ -121,6 +121,10 @@ internal static class Test
 
     private static void Records()
     {
+        SameCells("sizes", new[] { typeof(Hostarray), typeof(ST_Vect), typeof(ST_MVect), typeof(ST_QualiInfo) }.Select(
+            record => Marshal.SizeOf(record)), 16, 24, 40, 208);
+        SameCells("places", new[] { "SumW", "NbCatTotal", "CatFreq", "withRecode", "Codes", "CheckType" }.Select(
+            field => (int)Marshal.OffsetOf(typeof(ST_QualiInfo), field)), 8, 32, 80, 178, 184, 204);
         using (var data = new LabelledTable(new[] { "x", "y" }, new[] { new[] { 1.0, 2, 3, 4 }, new[] { 2.0, 5, 6, 8 } }))
         using (var correlations = new LabelledTable(new[] { "x", "y" }, new[] { new double[2], new double[2] }))
         {

@@ -63,6 +63,16 @@ same("sorted", sorted$x, table[order(table[, 1]), ])
 same("key", sorted$key, c(1, 2, 3))
 same("as it was", table, matrix(c(3, 1, 2, 30, 10, 20), 3))
 
+# What is only read is not copied.
+copies <- function(expression) sum(startsWith(capture.output(expression), "tracemem"))
+invisible(tracemem(table))
+invisible(tracemem(ones))
+same("copies of what is read", copies(VB_M_SumByCols(table)), 0L)
+same("copies of weights", copies(VB_V_Sum(x[, 1], w = ones)), 0L)
+same("copies of what is written", copies(VB_M_Center2(table)), 1L)
+untracemem(table)
+untracemem(ones)
+
 # Missing cells.
 cells <- from_na(matrix(c(1, NA, NaN, 4), 2))
 same("missing", cells, matrix(c(1, MISSING, MISSING, 4), 2))

@@ -14,17 +14,20 @@
 .whole <- function(x, least, most)
     is.numeric(x) && all(is.na(x) & !is.nan(x) | !is.nan(x) & x == trunc(x) & x >= least & x <= most)
 
-# The cells of an argument in the type that the library takes; `fail` tells what is wrong with it.
+# The cells of an argument in the type that the library takes, not copied when they have it; `fail` tells what is wrong.
 .cells <- function(kind, x, fail) {
     wrong <- function() fail("must be ", .wanted[[kind]], ", not ", class(x)[1])
     if (length(dim(x)) > 2) fail("has ", length(dim(x)), " dimensions; vectors and tables have one or two")
     if (is.object(x)) wrong()
     switch(kind,
-        D = if (is.numeric(x) || is.logical(x) && all(is.na(x))) storage.mode(x) <- "double" else wrong(),
+        D = if (!is.double(x)) {
+            if (!is.integer(x) && !(is.logical(x) && all(is.na(x)))) wrong()
+            storage.mode(x) <- "double"
+        },
         I = {
             if (!is.numeric(x)) wrong()
             if (!.whole(x, -2147483647, 2147483647)) fail("has numbers that are no integers of 32 bits")
-            storage.mode(x) <- "integer"
+            if (!is.integer(x)) storage.mode(x) <- "integer"
         },
         S = {
             if (anyNA(x)) fail("has NA")
@@ -79,12 +82,14 @@
     if (is.character(x) && kind != "l") structure(.utf16(x), dim = dim(x)) else x
 }
 
+# What came back, with the shape and the names of what went.
 .raised <- function(like, x) {
     if (is.list(like)) {
         like[] <- Map(.raised, like, x)
         return(like)
     }
-    if (is.list(x)) like[] <- .utf8(x) else like[] <- x
+    if (!is.list(x)) return(x)
+    like[] <- .utf8(x)
     like
 }
 
@@ -151,7 +156,7 @@
 
 # What the expressions of rooms are made of.
 .room_environment <- function(parameters, counts, values) {
-    known <- lapply(values, function(x) if (is.list(x)) NULL else as.vector(x))
+    known <- Filter(function(x) !is.list(x), values)
     for (p in parameters) {
         # A count that the function changes is an array of one cell.
         if (length(p$rooms) && identical(p$rooms[[1]], list(1, 1))) known[[p$name]] <- known[[p$name]][1]
