@@ -158,6 +158,56 @@ const std::vector<overlap_case> cases{
          int nextSeed = 0;
          Cpp_M_ShuffleDbl(x, 3, 3, y, &seed, -1, &nextSeed);
      }},
+    {"VB_M_ProductHorizAB, first", 4, 8,
+     [](double* x, double* y) {
+         double b[] = {91, 92, 93, 94};
+         VB_M_ProductHorizAB(x, 2, 2, b, 2, y, 0);
+     }},
+    {"VB_M_ProductHorizAB, second", 4, 8,
+     [](double* x, double* y) {
+         double a[] = {91, 92, 93, 94};
+         VB_M_ProductHorizAB(a, 2, 2, x, 2, y, 0);
+     }},
+    {"Cpp_KroneckerTensorProduct, first", 4, 8,
+     [](double* x, double* y) {
+         double b[] = {91, 92};
+         Cpp_KroneckerTensorProduct(x, 2, 2, b, 2, 1, y);
+     }},
+    {"Cpp_KroneckerTensorProduct, second", 4, 8,
+     [](double* x, double* y) {
+         double a[] = {91, 92};
+         Cpp_KroneckerTensorProduct(a, 2, 1, x, 2, 2, y);
+     }},
+    {"VB_M_ProductASymV, table", 6, 3,
+     [](double* x, double* y) {
+         double v[] = {91, 92, 93};
+         VB_M_ProductASymV(x, 3, v, y);
+     }},
+    {"VB_M_ProductASymV, vector", 3, 3,
+     [](double* x, double* y) {
+         double s[] = {91, 92, 93, 94, 95, 96};
+         VB_M_ProductASymV(s, 3, x, y);
+     }},
+    {"VB_M_ProductVASym, table", 6, 3,
+     [](double* x, double* y) {
+         double v[] = {91, 92, 93};
+         VB_M_ProductVASym(v, 3, x, y);
+     }},
+    {"VB_M_ProductVASym, vector", 3, 3,
+     [](double* x, double* y) {
+         double s[] = {91, 92, 93, 94, 95, 96};
+         VB_M_ProductVASym(x, 3, s, y);
+     }},
+    {"Cpp_MV_ProductAsymBsym, first", 6, 6,
+     [](double* x, double* y) {
+         double b[] = {91, 92, 93, 94, 95, 96};
+         Cpp_MV_ProductAsymBsym(x, 6, b, y);
+     }},
+    {"Cpp_MV_ProductAsymBsym, second", 6, 6,
+     [](double* x, double* y) {
+         double a[] = {91, 92, 93, 94, 95, 96};
+         Cpp_MV_ProductAsymBsym(a, 6, x, y);
+     }},
 };
 
 } // namespace

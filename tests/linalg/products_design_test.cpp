@@ -4,6 +4,8 @@
 #include "support/column_tables.h"
 #include "support/near_tables.h"
 
+#include <limits>
+
 using namespace korvel::test;
 
 namespace
@@ -174,6 +176,12 @@ TEST(DesignInteractions, LeaveAColumnWithoutNegativeCells)
     // Negative cells without weight are left too.
     const auto weightless = interactions({1, 2, 1, 2}, 2, 2, columnTable(2, {1, 1}), 6, {0, 8});
     EXPECT_EQ(weightless.cells, (columns{1, 2, -1, 1}));
+    // So are those of as little weight as the tolerance.
+    constexpr double eps = std::numeric_limits<double>::epsilon();
+    const auto little = interactions({1, 2, 1, 2}, 2, 2, columnTable(2, {1, 1}), 6, {eps, 8});
+    EXPECT_EQ(little.cells, (columns{1, 2, -1, 1}));
+    const auto more = interactions({1, 2, 1, 2}, 2, 2, columnTable(2, {1, 1}), 6, {2 * eps, 8});
+    EXPECT_EQ(more.cells, (columns{1, 2, -8 / (2 * eps), 1}));
 }
 
 TEST(HorizontalProduct, IsThePlainOne)

@@ -115,6 +115,31 @@ TEST(NearestCorrelation, IsThatOfThePlainSteps)
     }
 }
 
+TEST(NearestCorrelation, StopsWhereTheChangeIsOneMillionthAndNotBefore)
+{
+    // The last change of the first table is 0.9999 millionths, and that of the second one goes on
+    // from 1.0001.
+    for (const double beside : {1.7772, 1.7773}) {
+        const matrix<double> table = bandOf(3, 1, beside);
+        matrix<double> expected(table);
+        EXPECT_EQ(plainRepair(expected, 3), beside == 1.7772 ? 25 : 26);
+        expectSymmetricCells(repaired(table), expected);
+    }
+}
+
+TEST(NearestCorrelation, OverflowsAsThePlainStepsDo)
+{
+    // The first eigenvalue is infinite and so is the projection; infinity times the zeros of the weights is
+    // NaN.
+    const matrix<double> table = bandOf(2, 9.0000000000000045e+307, 9.0000000000000025e+307);
+    const matrix<double> made = repaired(table);
+    EXPECT_SAME_BITS(made.getElement(0, 0), 1.0);
+    EXPECT_SAME_BITS(made.getElement(1, 0), notANumber);
+    matrix<double> expected(table);
+    plainRepair(expected, 2);
+    expectSymmetricCells(made, expected);
+}
+
 TEST(NearestCorrelation, TakesAsManyStepsAsInFiftyDigits)
 {
     for (const nearest_table& reference : readNearestTables()) {
@@ -150,8 +175,14 @@ TEST(NearestCorrelation, OfACorrelationMatrixIsThatMatrix)
             signs.setElement(i, j, (i + j) % 2 == 0 ? 1.0 : -1.0);
         }
     }
+    // Cosines of differences have rank 2; rounding makes the third eigenvalue negative, by more than one unit
+    // of the first one.
+    matrix<double> cosines = bandOf(3, 1, 0.54030230586813977);
+    cosines.setElement(2, 0, -0.41614683654714241);
+    cosines.setElement(0, 2, -0.41614683654714241);
+    EXPECT_LT(smallestEigenvalue(cosines), -4e-16);
     for (const matrix<double>& table :
-         {regular, matrix<double>(3, 3, 1.0), signs, diagonalOfOnes(4), diagonalOfOnes(1)}) {
+         {regular, matrix<double>(3, 3, 1.0), signs, diagonalOfOnes(4), diagonalOfOnes(1), cosines}) {
         expectSymmetricCells(repaired(table), table);
         // The plain steps stop after one pass too, and reach the same but for rounding.
         matrix<double> plain(table);
