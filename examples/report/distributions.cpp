@@ -153,8 +153,12 @@ histogram histogramOf(const kept_values& kept, const distribution& spread, int d
         return found;
     }
     const bool areWhole = decimals == 0;
-    const bool isConstant = !(range > 0.0);
-    found.width = isConstant ? 1.0 : widthFor(spread);
+    // What differs by rounding errors only stands in one interval, wide enough for the digits of the numbers.
+    constexpr double roundingErrors = 1e-12;
+    constexpr double leastRange = 1e-290;
+    const double size = std::max(std::abs(spread.min.value), std::abs(spread.max.value));
+    const bool isConstant = !(range > leastRange && range > roundingErrors * size);
+    found.width = isConstant ? std::max(1.0, roundingErrors * size) : widthFor(spread);
     if (areWhole) {
         found.width = std::max(found.width, 1.0);
     }

@@ -71,6 +71,7 @@ section regression(const data_set&, const findings& found)
                    leavesOut
                        ? "a column that is left out has no figure, and errors need a degree of freedom."
                        : "errors need a degree of freedom, and R-squared a column that is not constant.");
+    result.explain(tooLarge, "a sum on the way to the figure is larger than any number.");
     return result;
 }
 

@@ -38,8 +38,8 @@ text_table triangle(const data_set& data, const std::vector<double>& figures, co
     return table;
 }
 
-constexpr const char* undefinedNote =
-    "a correlation needs two rows, and two columns that are not constant in them.";
+constexpr const char* undefinedNote = "a correlation needs two rows, two columns that are not constant in "
+                                      "them, and sums no larger than any number.";
 
 } // namespace
 

@@ -45,7 +45,9 @@ std::vector<double> scale::ticks(int count, double leastStep) const
 
 std::vector<std::string> shownTicks(const std::vector<double>& ticks)
 {
-    const double step = ticks.size() > 1 ? ticks[1] - ticks[0] : 1.0;
+    const double between = ticks.size() > 1 ? ticks[1] - ticks[0] : 1.0;
+    // Neighbours among numbers of many digits may be equal.
+    const double step = between > 0.0 ? between : 1.0;
     const int decimals = std::max(0, -static_cast<int>(std::floor(std::log10(step) + 1e-9)));
     std::vector<std::string> texts;
     for (const double tick : ticks) {

@@ -262,3 +262,13 @@ case_nothing_but_missing_cells() {
     runs 0 plain/data.csv
     grep -qE '^  a +0 +2 ' out || failed "no line on the empty column"
 }
+# Numbers that differ by less than a rounding error, and ones that are too small to be divided into intervals.
+case_ranges_without_intervals() {
+    local numbers
+    for numbers in '1e300 1e300 1e300' '5e-324 1e-323 0' '10000000000000000 10000000000000002 10000000000000004' '7 7 7'; do
+        printf 'x\n%s\n%s\n%s\n' $numbers >data.csv
+        runs 0 data.csv --html page.html
+        grep -qE '<rect class="bar".*: 3 rows<' page.html || failed "another histogram of $numbers"
+        ! grep -qiE '"-?(nan|inf)' page.html || failed "a shape without a place for $numbers"
+    done
+}
