@@ -81,6 +81,11 @@ same("back", to_na(cells), matrix(c(1, NA, NA, 4), 2))
 same("texts", to_na(from_na(c("a", NA))), c("a", NA))
 same("integers", VB_V_Max2Lng(c(1L, NA, 3L)), 3)
 
+# An argument whose name is that of the function's own result.
+cosines <- ComputeCosines(rbind(c(3, 4), c(0, 2)), result = matrix(0, 2, 2))
+same("own result", cosines$result, 0L)
+same("argument named result", cosines$result_, rbind(c(0.36, 0.64), c(0, 1)), 1e-15)
+
 # Texts.
 words <- c("pear", "apple", "\u03b1\U0001f34e", "", "\u00e9")
 same("sorted texts", VB_SortQVectorStr(words, from = 1, to = 5, bDesc = FALSE)$x,

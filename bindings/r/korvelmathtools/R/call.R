@@ -126,7 +126,9 @@
     written <- which(written & !vapply(arguments, is.null, NA))
     if (!length(written)) return(if (result == "v") invisible(NULL) else first)
     back <- Map(.raised, arguments[written], answer[written + 1])
-    c(if (result != "v") list(result = first), back)
+    if (result == "v") return(back)
+    names(back)[names(back) == "result"] <- "result_"
+    c(list(result = first), back)
 }
 
 # The numbers and counts; a count that is not given is the number of rows, columns or elements of an array.
