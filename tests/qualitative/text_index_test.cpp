@@ -85,6 +85,15 @@ TEST(TextIndex, SpreadsTextsByEachOfTheirUnits)
             EXPECT_GT(placesHit(keys), 800u) << before << " units before, " << behind << " behind";
         }
     }
+    for (std::size_t length = 1; length < 5; ++length) {
+        for (std::size_t place = 0; place < length; ++place) {
+            std::vector<text> keys(1000, text(length, u'x'));
+            for (std::size_t k = 0; k < keys.size(); ++k) {
+                keys[k][place] = static_cast<char16_t>(u' ' + k);
+            }
+            EXPECT_GT(placesHit(keys), 800u) << "unit " << place << " of " << length;
+        }
+    }
     std::vector<text> lengths;
     for (std::size_t k = 1; k <= 1000; ++k) {
         lengths.emplace_back(k, u'x');
