@@ -166,6 +166,12 @@ TEST(Cosines, AreMarkedByRow)
     M_BoldCosines(&positions, 3, &table);
     EXPECT_EQ(table.data[0], 0);
     EXPECT_EQ(table.data[4], 0);
+    // Nor is there a column before the first one, in a table that lies amid other memory.
+    std::vector<int> memory(9, 7);
+    matrix<int> amid(3, 1, memory.data() + 3, true);
+    positions = vectorOf<int>({0, 0, 1});
+    M_BoldCosines(&positions, 3, &amid);
+    EXPECT_EQ(memory, (std::vector<int>{7, 7, 7, 7, 7, -1, 7, 7, 7}));
 }
 
 TEST(Cosines, SizeTheirResult)
