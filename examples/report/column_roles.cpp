@@ -126,7 +126,8 @@ void takeGroups(data_set& data, const std::string& name)
             data, [&](std::size_t i) { return present(dates->days[i]); },
             [&](double days) { return shownDate(days, dates->hasTimes); });
     } else {
-        throw csv_error("has no column " + name);
+        throw csv_error(name == data.weightColumn ? "column " + name + " has the weights already"
+                                                  : "has no column " + name);
     }
     if (found.groups.empty()) {
         throw csv_error("column " + name + " has no groups: all its cells are missing");

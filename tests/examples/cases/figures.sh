@@ -189,6 +189,7 @@ case_no_groups() {
     printf 'x,g,h\n1,,a\n2,,b\n' >data.csv
     refuses data.csv "has no column feed" --by feed
     refuses data.csv "column g has no groups: all its cells are missing" --by g
+    refuses data.csv "column x has the weights already" --by x --weights x
 }
 # A weight of whole numbers is a count: the same figures as of a file in which each row stands that often.
 case_weights_that_are_counts() {

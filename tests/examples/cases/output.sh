@@ -77,6 +77,11 @@ case_page_in_a_place_that_is_none() {
 case_no_page_on_a_part_of_the_files() {
     runs 1 "$shipped/mtcars.csv" nowhere.csv --html page.html
     [ ! -e page.html ] || failed "a page on one of two files"
+    for option in --y --weights --by; do
+        runs 1 "$shipped/mtcars.csv" "$option" speed --html page.html
+        [ ! -s out ] || failed "a report without the column of $option"
+        [ ! -e page.html ] || failed "a page without the column of $option"
+    done
 }
 case_page_through_a_link() {
     ! on_windows || return 0
@@ -94,4 +99,13 @@ case_progress_on_a_terminal_only() {
     script -qec "$(printf '%q ' "${report[@]}" "$shipped/mtcars.csv") >out" terminal >/dev/null || failed "exit code $?"
     grep -q 'mtcars.csv: reading' terminal || failed "no progress: $(cat -v terminal)"
     ! grep -q 'reading' out || failed "progress on the output"
+}
+# Each bar tells the weight in its interval: 0.5 + 1.5, 1, and 2.25 + 0.75.
+case_bars_of_weights() {
+    printf 'x,w,g\n1,0.5,a\n1,1.5,b\n2,1,b\n3,2.25,a\n3,0.75,b\n' >data.csv
+    runs 0 data.csv --weights w --by g --html page.html
+    for bar in '0.5 to 1.5: 2 of' '1.5 to 2.5: 1 of' '2.5 to 3.5: 3 of'; do
+        grep -q "<rect class=\"bar\".*<title>$bar weight</title>" page.html || failed "no bar $bar weight"
+    done
+    grep -q '<title>Box plots of x by g</title><desc>a: quartiles ' page.html || failed "no box plots of the groups"
 }
