@@ -176,6 +176,22 @@ TEST(BetaRatio, OfTinyLogarithmsIsMissingWhereTheRatioIs0)
     EXPECT_EQ(found.w1, 0.0);
 }
 
+TEST(BetaRatio, OfHugeParametersKeepsTheExponentOfItsLogarithm)
+{
+    // Powers of the exponent overflow. The logarithm is 1e36 log(4 x y) up to far smaller terms.
+    const outcome found = ratio(1e36, 1e36, 0.49, 0.51, 1);
+    EXPECT_EQ(found.status, 0);
+    EXPECT_NEAR(found.w / (1e36 * std::log1p(-0.0004)), 1.0, 1e-12);
+    EXPECT_EQ(found.w1, 0.0);
+}
+
+TEST(BetaRatio, OfALongFractionKeepsItsTermsSmall)
+{
+    // The terms of the fraction grow beyond 1e100. mpmath, 60 digits.
+    EXPECT_NEAR(ratio(1443.0, 10578689.0, 0.0001425, 1.0 - 0.0001425).w1, 0.045852400924723900797, 1e-13);
+    EXPECT_NEAR(ratio(693.0, 19847488.0, 3.6875e-05, 1.0 - 3.6875e-05).w1, 0.071651255395210546716, 1e-13);
+}
+
 TEST(BetaRatio, HasClosedForms)
 {
     for (const double x : {1e-300, 1e-8, 0.03, 0.25, 0.5, 0.61, 0.97}) {
