@@ -127,6 +127,7 @@ void inventory(const View& data, int n, int p, int width, matrix<text>& modes,
     }
 }
 
+/** Of each variable as many slots count as it has categories. */
 template <class View>
 void ofAnyNumber(const View& data, int n, int p, int width, matrix<int>& categoryCounts, matrix<text>& modes,
                  matrix<double>& modeFrequencies, matrix<text>& categories, matrix<double>& frequencies,
@@ -141,6 +142,7 @@ void ofAnyNumber(const View& data, int n, int p, int width, matrix<int>& categor
               frequency_table{frequencies, weights});
 }
 
+/** Of each variable `count` slots do; rows and weights are both summed. */
 template <class View>
 void ofFixedNumber(const View& data, int n, int p, int width, int count, matrix<text>& modes,
                    matrix<double>& modeFrequencies, matrix<text>& categories, matrix<double>& frequencies,
