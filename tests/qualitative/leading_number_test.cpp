@@ -76,6 +76,7 @@ TEST(LeadingNumber, IsNoneWithoutADigit)
 TEST(LeadingNumber, MayBeHexadecimalOrAWord)
 {
     expectValues({{u"0x1F", 31.0},
+                  {u"0xAg", 10.0},
                   {u"0X.8p1", 1.0},
                   {u"0x1p-1z", 0.5},
                   {u"0x1p", 1.0},
@@ -88,6 +89,7 @@ TEST(LeadingNumber, MayBeHexadecimalOrAWord)
                   {u"INFINITE", infinite}});
     EXPECT_TRUE(std::isnan(leadingNumber(u"nan")));
     EXPECT_TRUE(std::isnan(leadingNumber(u"NaN(1)")));
+    EXPECT_TRUE(std::isnan(leadingNumber(u"NAN")));
     EXPECT_TRUE(std::isnan(leadingNumber(u"Nantes")));
 }
 
@@ -104,7 +106,7 @@ TEST(LeadingNumber, IsTheNearestDouble)
                   {u"0." + text(400, u'0') + u"1e500", 1e99},
                   {u"0." + text(400, u'0') + u"1e50", 0.0},
                   {u"1" + text(400, u'0') + u"e-50", infinite},
-                  {u"1" + text(200, u'0') + u"e-600", 0.0},
+                  {u"1" + text(700, u'0') + u"e-1100", 0.0},
                   {u"0." + text(499, u'0') + u"1e100", 0.0},
                   {u"0x1" + text(400, u'0') + u"p-500", infinite},
                   {u"1e400", infinite},
