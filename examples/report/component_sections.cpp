@@ -34,7 +34,7 @@ section componentShares(const data_set&, const findings& found)
     return {"Principal components of the correlations, over the rows without missing numbers",
             {table},
             {},
-            {screePlot(found.parts)}};
+            {{screePlot(found.parts), {}}}};
 }
 
 section componentLoadings(const data_set&, const findings& found)
@@ -54,7 +54,7 @@ section componentLoadings(const data_set&, const findings& found)
     }
     section result{"Loadings of the components that make up 90 %", {table}, {}, {}};
     if (found.parts.pointCount > 0) {
-        result.pictures.push_back(biplot(found.parts));
+        result.pictures.push_back({biplot(found.parts), {}});
     }
     return result;
 }

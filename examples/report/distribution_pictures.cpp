@@ -72,6 +72,24 @@ void drawTicks(svg_picture& picture, const scale& across, double y)
     }
 }
 
+// With a digit more than the width of the intervals has.
+std::string shownEdge(const histogram& bars, std::size_t k)
+{
+    const int decimals = std::max(0, 1 - static_cast<int>(std::floor(std::log10(bars.width) + 1e-9)));
+    return rounded(bars.edge(k), decimals);
+}
+
+text_table countsOf(const data_set& data, const histogram& bars)
+{
+    text_table table({{"from", alignment::point},
+                      {"to below", alignment::point},
+                      {data.isWeighted() ? "weight" : "rows", alignment::point}});
+    for (std::size_t k = 0; k < bars.weights.size(); ++k) {
+        table.add({shownEdge(bars, k), shownEdge(bars, k + 1), shownWeight(bars.weights[k])});
+    }
+    return table;
+}
+
 std::string distributionPicture(const data_set& data, const number_column& column,
                                 const distribution& figures, const histogram& bars)
 {
@@ -96,9 +114,7 @@ std::string distributionPicture(const data_set& data, const number_column& colum
     const scale across(bars.edge(0), bars.edge(last), left, width - 16);
 
     const auto interval = [&](std::size_t k) {
-        const int decimals = std::max(0, 1 - static_cast<int>(std::floor(std::log10(bars.width) + 1e-9)));
-        return rounded(bars.edge(k), decimals) + " to " + rounded(bars.edge(k + 1), decimals) + ": " +
-               counted(bars.weights[k], data);
+        return shownEdge(bars, k) + " to " + shownEdge(bars, k + 1) + ": " + counted(bars.weights[k], data);
     };
     std::string description = "Histogram: ";
     for (std::size_t k = 0; k < last; ++k) {
@@ -129,7 +145,7 @@ std::string distributionPicture(const data_set& data, const number_column& colum
 std::string groupPicture(const data_set& data, const number_column& column, const findings& found,
                          const std::vector<distribution>& figures)
 {
-    constexpr double plotWidth = 300;
+    constexpr double plotWidth = 270;
     constexpr double top = 30;
     constexpr double step = 22;
     constexpr double longestName = 170;
@@ -172,25 +188,26 @@ std::string groupPicture(const data_set& data, const number_column& column, cons
 
 } // namespace
 
-std::vector<std::string> distributionPictures(const data_set& data, const findings& found)
+std::vector<picture> distributionPictures(const data_set& data, const findings& found)
 {
-    std::vector<std::string> pictures;
+    std::vector<picture> pictures;
     for (std::size_t j = 0; j < data.numberColumns.size(); ++j) {
         if (!found.histograms[j].weights.empty()) {
-            pictures.push_back(distributionPicture(data, data.numberColumns[j], found.distributions[j],
-                                                   found.histograms[j]));
+            pictures.push_back({distributionPicture(data, data.numberColumns[j], found.distributions[j],
+                                                    found.histograms[j]),
+                                {countsOf(data, found.histograms[j])}});
         }
     }
     return pictures;
 }
 
-std::vector<std::string> groupPictures(const data_set& data, const findings& found)
+std::vector<picture> groupPictures(const data_set& data, const findings& found)
 {
-    std::vector<std::string> pictures;
+    std::vector<picture> pictures;
     for (std::size_t j = 0; j < data.numberColumns.size(); ++j) {
         const distribution& all = found.distributions[j];
         if (!found.byGroup[j].empty() && all.count > 0 && std::isfinite(all.max.value - all.min.value)) {
-            pictures.push_back(groupPicture(data, data.numberColumns[j], found, found.byGroup[j]));
+            pictures.push_back({groupPicture(data, data.numberColumns[j], found, found.byGroup[j]), {}});
         }
     }
     return pictures;

@@ -14,12 +14,18 @@
 namespace report
 {
 
+/** A picture of the page. */
+struct picture {
+    std::string svg;
+    std::vector<text_table> numbers; ///< What it shows that no table of its section does, to be unfolded.
+};
+
 /** Some tables below a title, with notes below them. */
 struct section {
     std::string title;
     std::vector<text_table> tables;
     std::vector<std::string> notes;
-    std::vector<std::string> pictures; ///< In SVG, for the page only.
+    std::vector<picture> pictures; ///< For the page only.
 
     [[nodiscard]] bool empty() const;
 

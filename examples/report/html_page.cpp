@@ -82,8 +82,16 @@ void printSection(const section& section, const std::string& id, std::ostream& o
     }
     if (!section.pictures.empty()) {
         out << "<div class=\"pictures\">\n";
-        for (const std::string& picture : section.pictures) {
-            out << "<figure>" << picture << "</figure>\n";
+        for (const picture& picture : section.pictures) {
+            out << "<figure>" << picture.svg;
+            for (const text_table& table : picture.numbers) {
+                out << "<details><summary>Numbers</summary>";
+                for (const auto& columns : table.parts()) {
+                    printTable(table, columns, out);
+                }
+                out << "</details>";
+            }
+            out << "</figure>\n";
         }
         out << "</div>\n";
     }

@@ -40,6 +40,7 @@ tbody .figure { font-family: ui-monospace, "DejaVu Sans Mono", Menlo, Consolas, 
 .pictures { display: flex; flex-wrap: wrap; align-items: flex-start; gap: 1rem; margin-top: 0.8rem; }
 figure { margin: 0; padding: 0.6rem; background: var(--card); border: 1px solid var(--line); border-radius: 6px;
   max-width: 100%; }
+summary { color: var(--soft); font-size: 0.8rem; cursor: pointer; }
 svg { display: block; max-width: 100%; height: auto; font: 12px system-ui, sans-serif; }
 svg text { fill: var(--ink); }
 svg text.minor { fill: var(--soft); font-size: 11px; }
@@ -64,7 +65,7 @@ svg text.name { font-weight: 600; paint-order: stroke; stroke: var(--card); stro
 @media print {
   body { font-size: 10pt; }
   main { max-width: none; padding: 0; }
-  nav { display: none; }
+  nav, details { display: none; }
   table { font-size: 8pt; }
   .scroll { overflow: visible; }
   .pictures { display: block; orphans: 1; widows: 1; }

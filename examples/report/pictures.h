@@ -6,6 +6,7 @@
 #define KORVEL_EXAMPLES_PICTURES_H
 
 #include "data_set.h"
+#include "document.h"
 #include "findings.h"
 
 #include <string>
@@ -14,11 +15,11 @@
 namespace report
 {
 
-/** The histogram of each column of numbers with its box plot below it. */
-std::vector<std::string> distributionPictures(const data_set& data, const findings& found);
+/** The histogram of each column of numbers with its box plot below it, and its counts. */
+std::vector<picture> distributionPictures(const data_set& data, const findings& found);
 
 /** The box plots of each column of numbers in the groups, one below the other. */
-std::vector<std::string> groupPictures(const data_set& data, const findings& found);
+std::vector<picture> groupPictures(const data_set& data, const findings& found);
 
 /** The correlations of all columns as a table of colours; `figures` is that table, column-major. */
 std::string heatMap(const data_set& data, const std::vector<double>& figures);

@@ -51,7 +51,7 @@ section correlations(const data_set& data, const findings& found)
     section result{"Correlations, over the rows that neither column misses",
                    {triangle(data, found.correlations.pairwise, found.correlations.rows)},
                    {},
-                   {heatMap(data, found.correlations.pairwise)}};
+                   {{heatMap(data, found.correlations.pairwise), {}}}};
     result.explain(noFigure, undefinedNote);
     result.explain(tooLarge, undefinedNote);
     return result;
