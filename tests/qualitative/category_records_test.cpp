@@ -212,6 +212,12 @@ TEST(CategoryRecords, DoNotReachBeyondTheirArrays)
     EXPECT_EQ(x.info.NbCat->data[0], 3);
     EXPECT_EQ(x.info.CatNames->Vectors[0].Vect.nbElem, 1u);
     EXPECT_EQ(x.info.Count, 3);
+
+    labelled y(1, {{u"a", u"b", u"b", u"a"}});
+    y.info.withRecode = -1;
+    y.run(doubles(4, 1.0));
+    EXPECT_EQ(y.names().front(), u"a");
+    EXPECT_EQ(y.codes(), (doubles{0, 1, 1, 0})) << "the spare slot holds the newest category";
 }
 
 TEST(CategoryRecords, AreThoseOfThePlainSearch)
