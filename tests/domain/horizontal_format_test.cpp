@@ -92,8 +92,11 @@ TEST(HorizontalFormat, RefusesWhatIsNotInTheWideTable)
     measures next;
     next.subjects = {1, 1, 1, 2, 2, 2};
     next.times = {1, 2, 3, 1, 2, 3};
+    for (auto& column : next.wide.Vectors) {
+        column.Vect.data[1] = missing;
+    }
     EXPECT_EQ(next.transform(6, 2, 1), 2) << "the second subject has a row, and is not asked for";
-    EXPECT_EQ(next.cells()[0][1], 0.0);
+    EXPECT_EQ(next.cells()[0][1], missing);
     EXPECT_EQ(measures().transform(6, 3), 2) << "there is no third variable";
     EXPECT_EQ(measures().transform(6, 2, 2, 4), 2) << "nor a fourth time";
 }
