@@ -235,6 +235,15 @@ TEST(ComparisonLetters, ComeFromListedPairs)
         }
     }
     EXPECT_EQ(groups, 2);
+    // Of two pairs only, none is significant: the last one is not read.
+    matrix<int> last(3, 1);
+    last.data[2] = 1;
+    auto levels = vectorOf<double>({2, 3, 1});
+    matrix<text> shared(3, 3, text());
+    BuildGroupingForDiffs(values, 2, pairsOf, 2, last, shared, groups, levels, 3, 1, done, 0);
+    EXPECT_EQ(groups, 1);
+    BuildGroupingForDiffs(values, 2, pairsOf, 3, last, shared, groups, levels, 3, 1, done, 0);
+    EXPECT_EQ(groups, 2);
     // Sorted already: nothing moves.
     auto again = vectorOf<double>({3, 2, 1});
     BuildGroupingForDiffs(values, 2, pairsOf, 3, significance, labels, groups, again, 3, 1, done, 1);

@@ -75,6 +75,9 @@ TEST(HorizontalFormat, RefusesAnIncompleteDesign)
     measures empty;
     empty.columns[1][2] = missing;
     EXPECT_EQ(empty.transform(), 2) << "a missing value is not there";
+    measures first;
+    first.columns[0][0] = missing;
+    EXPECT_EQ(first.transform(), 2) << "nor in the first column";
     EXPECT_EQ(measures().transform(0), 2);
     EXPECT_EQ(measures().transform(0, 2, 0), 0) << "without subjects nothing is missing";
 }

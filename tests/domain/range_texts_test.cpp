@@ -31,6 +31,7 @@ const std::vector<simplified> lists{
     {"equal first columns keep their order", u"'S'!$B:$D,'S'!$B:$C,'S'!$A:$A", u"'S'!$A:$D,'S'!$B:$C"},
     {"the last range ends where another one goes on", u"'S'!$B:$C,'S'!$D:$E,'S'!$A:$F",
      u"'S'!$A:F,'S'!$B:$E"},
+    {"a sheet without a name", u"''!$C:$C,''!$B:$B", u"''!$B:$C"},
     {"columns are sorted by number", u"'S'!$AB:$AC,'S'!$Y:$Y,'S'!$B:$B", u"'S'!$B:B,'S'!$Y:Y,'S'!$AB:$AC"},
 };
 
