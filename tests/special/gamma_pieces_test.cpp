@@ -57,12 +57,27 @@ TEST(GammaPieces, LogarithmsKeepTheirDigitsNearTheirZeros)
 
 TEST(GammaPieces, QuotientsAndCorrectionsOfLargeArguments)
 {
+    // mpmath, 40 digits, of these doubles.
+    const struct {
+        double a;
+        double b;
+        long double logarithm;
+    } quotients[]{
+        {0.001, 8.0, -0.002015708043513224641L},    {0.5, 8.0, -1.02410589623558341157L},
+        {1.0, 8.0, -2.07944154167983592825L},       {3.7, 8.0, -8.2482929767009643842L},
+        {8.0, 8.0, -19.3741100227754772659L},       {0.001, 11.5, -0.00239828455149190311061L},
+        {0.5, 11.5, -1.21030736930664451904L},      {1.0, 11.5, -2.44234703536920438139L},
+        {3.7, 11.5, -9.43546251219833615923L},      {8.0, 11.5, -21.5690860323938556715L},
+        {0.001, 40.0, -0.00367634003147996182102L}, {0.5, 40.0, -1.841314808421924927L},
+        {1.0, 40.0, -3.68887945411393630285L},      {3.7, 40.0, -13.7705231913337675906L},
+        {8.0, 40.0, -30.1709623766829093434L},      {0.001, 700.0, -0.00655036659405694729156L},
+        {0.5, 700.0, -3.27536159610831554399L},     {1.0, 700.0, -6.55108033504340467314L},
+        {3.7, 700.0, -24.2461221046596915187L},     {8.0, 700.0, -52.4485005802745966739L},
+    };
+    for (const auto& [a, b, logarithm] : quotients) {
+        EXPECT_LT(relativeError(logGammaQuotient(a, b), logarithm), 8.0) << a << ' ' << b;
+    }
     for (const double b : {8.0, 11.5, 40.0, 700.0}) {
-        for (const double a : {0.001, 0.5, 1.0, 3.7, 8.0}) {
-            const long double truth = std::lgamma(static_cast<long double>(b)) -
-                                      std::lgamma(static_cast<long double>(a) + static_cast<long double>(b));
-            EXPECT_LT(relativeError(logGammaQuotient(a, b), truth), 24.0) << a << ' ' << b;
-        }
         for (const double a : {8.0, 9.0, 30.0, 5000.0}) {
             const long double truth = stirling(a) + stirling(b) - stirling(static_cast<long double>(a) + b);
             EXPECT_LT(relativeError(betaCorrection(a, b), truth), 12.0) << a << ' ' << b;
