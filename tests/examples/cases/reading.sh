@@ -139,7 +139,7 @@ case_grouped_thousands() {
     numbers_are ',' '0,123 12,345' '0.123 12.345'
     numbers_are ';' '1.234,5 7 1.234.567,25' '1234.5 7 1234567.25'
     numbers_are ';' '1_234,5 -12_345' '1234.5 -12345'
-    numbers_are ';' $'1\u202f234,5 1\u00a0234,5 \u22122' '1234.5 1234.5 -2'
+    numbers_are ';' $'1\xe2\x80\xaf234,5 1\xc2\xa0234,5 \xe2\x88\x922' '1234.5 1234.5 -2'
     numbers_are '|' "1'234.5 2" '1234.5 2'
     # What may be read in two ways is read by the file's own way of writing.
     numbers_are ';' '1,234 12,345' '1.234 12.345'
