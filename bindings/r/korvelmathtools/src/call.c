@@ -288,40 +288,65 @@ static int by_name(const void* name, const void* function)
     return strcmp((const char*)name, ((const korvel_function*)function)->name);
 }
 
+/* A call under way. */
+typedef struct call_state {
+    const korvel_function* function;
+    SEXP arguments;
+    SEXP written;
+    block* made;
+    int done;
+} call_state;
+
 /* The result and the arguments, of which those that are written are new. */
-static SEXP korvel_call(SEXP name, SEXP arguments, SEXP written)
+static SEXP answer_of(void* data)
 {
-    const korvel_function* const function = (const korvel_function*)bsearch(
-        CHAR(STRING_ELT(name, 0)), korvel_functions, korvel_function_count, sizeof(korvel_function), by_name);
-    R_xlen_t const count = XLENGTH(arguments);
-    if (function == NULL || count != (R_xlen_t)strlen(function->kinds) || count > most_arguments) {
-        Rf_errorcall(R_NilValue, "%s: another number of arguments", CHAR(STRING_ELT(name, 0)));
-    }
+    call_state* const state = (call_state*)data;
+    const char* const kinds = state->function->kinds;
+    const int* const written = LOGICAL(state->written);
+    R_xlen_t const count = XLENGTH(state->arguments);
     korvel_slot slots[most_arguments];
     korvel_slot result;
-    block* made = NULL;
     memset(&result, 0, sizeof result);
     SEXP answer = PROTECT(Rf_allocVector(VECSXP, count + 1));
     for (R_xlen_t k = 0; k < count; ++k) {
-        SEXP x = VECTOR_ELT(arguments, k);
-        SET_VECTOR_ELT(answer, k + 1, LOGICAL(written)[k] ? Rf_duplicate(x) : x);
-        slots[k] = slot_of(function->kinds[k], VECTOR_ELT(answer, k + 1), &made);
+        SEXP x = VECTOR_ELT(state->arguments, k);
+        SET_VECTOR_ELT(answer, k + 1, written[k] ? Rf_duplicate(x) : x);
+        slots[k] = slot_of(kinds[k], VECTOR_ELT(answer, k + 1), &state->made);
     }
-    int const done = korvel_guarded(function->call, slots, &result);
-    if (done) {
+    state->done = korvel_guarded(state->function->call, slots, &result);
+    if (state->done) {
         for (R_xlen_t k = 0; k < count; ++k) {
             SEXP x = VECTOR_ELT(answer, k + 1);
-            if (LOGICAL(written)[k] && !Rf_isNull(x)) {
-                put_back(function->kinds[k], &slots[k], x);
+            if (written[k] && !Rf_isNull(x)) {
+                put_back(kinds[k], &slots[k], x);
             }
         }
-        SET_VECTOR_ELT(answer, 0, result_of(function->result[0], &result));
-    }
-    free_texts(made);
-    if (!done) {
-        Rf_errorcall(R_NilValue, "%s: memory is short, or a count is below 0", function->name);
+        SET_VECTOR_ELT(answer, 0, result_of(state->function->result[0], &result));
     }
     UNPROTECT(1);
+    return answer;
+}
+
+static void clean_up(void* data)
+{
+    free_texts(((const call_state*)data)->made);
+}
+
+static SEXP korvel_call(SEXP name, SEXP arguments, SEXP written)
+{
+    call_state state = {NULL, arguments, written, NULL, 0};
+    R_xlen_t const count = XLENGTH(arguments);
+    state.function = (const korvel_function*)bsearch(CHAR(STRING_ELT(name, 0)), korvel_functions,
+                                                     korvel_function_count, sizeof(korvel_function), by_name);
+    if (state.function == NULL || count != (R_xlen_t)strlen(state.function->kinds) ||
+        count > most_arguments) {
+        Rf_errorcall(R_NilValue, "%s: another number of arguments", CHAR(STRING_ELT(name, 0)));
+    }
+    /* An error of R leaves the call at once; the texts are freed then, too. */
+    SEXP answer = R_ExecWithCleanup(answer_of, &state, clean_up, &state);
+    if (!state.done) {
+        Rf_errorcall(R_NilValue, "%s: memory is short, or a count is below 0", state.function->name);
+    }
     return answer;
 }
 
