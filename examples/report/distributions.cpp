@@ -12,22 +12,6 @@ namespace report
 namespace
 {
 
-template <class Rows>
-kept_values keptOf(const data_set& data, const double* values, const Rows& rows)
-{
-    kept_values kept;
-    for (const int row : rows) {
-        const auto i = static_cast<std::size_t>(row);
-        if (data.leftOut[i] == 0 && VB_IsMissingValueDbl(values[i]) == 0) {
-            kept.values.push_back(values[i]);
-            kept.weights.push_back(data.weights[i]);
-            kept.rows.push_back(row + 1);
-        }
-    }
-    kept.leftOut.resize(kept.values.size());
-    return kept;
-}
-
 void findWhiskers(const kept_values& kept, distribution& found)
 {
     constexpr double fence = 1.5;
@@ -67,7 +51,17 @@ kept_values keptOf(const data_set& data, const double* values)
 
 kept_values keptOf(const data_set& data, const double* values, const std::vector<int>& rows)
 {
-    return keptOf<std::vector<int>>(data, values, rows);
+    kept_values kept;
+    for (const int row : rows) {
+        const auto i = static_cast<std::size_t>(row);
+        if (data.leftOut[i] == 0 && VB_IsMissingValueDbl(values[i]) == 0) {
+            kept.values.push_back(values[i]);
+            kept.weights.push_back(data.weights[i]);
+            kept.rows.push_back(row + 1);
+        }
+    }
+    kept.leftOut.resize(kept.values.size());
+    return kept;
 }
 
 short int weightsAreCounts(const data_set& data)
