@@ -86,6 +86,7 @@ TEST(CategoryRecordFaults, LeaveNothingBehind)
     std::vector<double> weights{1, 2, 4, 8};
     categories.record.withSort = -1;
     categories.record.withRecode = -1;
+    startOpenMP();
     // A text that cannot be written back stays as it was, and no failure comes out of the writing.
     for (int allowed = 0; allowed < 100; ++allowed) {
         const std::int64_t before = allocationsAlive();

@@ -11,9 +11,16 @@
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <new>
+#include <omp.h>
 
 namespace korvel::test
 {
+
+/** Has OpenMP allocate what its first use needs. Clang's runtime keeps a lock for ever when that fails. */
+inline void startOpenMP()
+{
+    (void)omp_get_max_threads();
+}
 
 /**
  * Runs `action` with no allocation allowed, then with one, and so on, until it goes through. Each failure
@@ -24,6 +31,7 @@ template <class Action>
 int failEachAllocation(Action&& action)
 {
     constexpr int tooMany = 1000;
+    startOpenMP();
     for (int allowed = 0; allowed < tooMany; ++allowed) {
         const automation_watch watch;
         const std::int64_t before = allocationsAlive();

@@ -129,11 +129,12 @@ TEST(CategoryValidation, OfRecordsCountsRowsAndWeights)
     EXPECT_EQ(column(*result.CatFreqW, 1), (doubles{6, 0, 0, 0}));
     EXPECT_EQ(column(*known.CatFreq, 0), (doubles{77, 77, 77, 77}));
     data.Vectors[1].Vect[0] = u"unknown";
-    setNames(result, {{}, {}});
-    M_InfoQualiValid_ST(data, 3, 1, known, result, &flag, weights);
+    cST_QualiInfo ofFirst;
+    setNames(ofFirst, {{}, {}});
+    M_InfoQualiValid_ST(data, 3, 1, known, ofFirst, &flag, weights);
     EXPECT_EQ(flag, 0) << "the second variable is not looked at";
-    EXPECT_EQ(column(*result.CatFreq, 0), (doubles{1, 2, 0, 0}));
-    EXPECT_EQ(column(*result.CatFreq, 1), (doubles{77, 77, 77, 77}));
+    EXPECT_EQ(column(*ofFirst.CatFreq, 0), (doubles{1, 2, 0, 0}));
+    EXPECT_EQ(column(*ofFirst.CatFreq, 1), (doubles{77, 77, 77, 77}));
 }
 
 TEST(CategoryValidation, OfRecordsMayPassUnknownCategoriesOver)
