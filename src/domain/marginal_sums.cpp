@@ -35,13 +35,16 @@ void CheckForMarginalSums(matrix<double>& table, int rows, int cols, matrix<doub
     matrix<double> rowSums(std::max(rows, 0), 1, 0.0);
     korvel::sumByColumns(table, rows, cols, columnSums);
     M_SumByRows(&table, rows, cols, &rowSums);
-    keptCols = 0;
-    for (const run_of_rows& run : kept(columnSums, cols, droppedCols)) {
+    const std::vector<run_of_rows> colsKept = kept(columnSums, cols, droppedCols);
+    int target = 0;
+    for (const run_of_rows& run : colsKept) {
         for (int j = run.first; j < run.first + run.count; ++j) {
-            korvel::copyBlock(reading(table), {0, j}, writing(result), {0, keptCols++}, rows, 1);
+            korvel::copyBlock(reading(table), {0, j}, writing(result), {0, target++}, rows, 1);
         }
     }
+    // What is dropped is taken from the count, and nothing is dropped from one below 0.
+    keptCols = std::min(cols, korvel::rowsOf(colsKept));
     const std::vector<run_of_rows> rowsKept = kept(rowSums, rows, droppedRows);
-    keptRows = korvel::rowsOf(rowsKept);
+    keptRows = std::min(rows, korvel::rowsOf(rowsKept));
     korvel::copyRuns(rowsKept, reading(result), writing(result), keptCols);
 }

@@ -61,6 +61,22 @@ TEST(MarginalSums, OfATableOfZerosLeaveNothing)
     EXPECT_EQ(none.cols, 0);
 }
 
+TEST(MarginalSums, OfANegativeCountTakeNothingFromIt)
+{
+    matrix<double> table(2, 2, 5.0);
+    matrix<double> result(2, 2, 7.0);
+    matrix<int> dropped(2, 1, 0);
+    int keptRows = 9;
+    int keptCols = 9;
+    CheckForMarginalSums(table, 2, -3, result, keptRows, keptCols, dropped, dropped);
+    EXPECT_EQ(keptRows, 0) << "without columns every sum is 0";
+    EXPECT_EQ(keptCols, -3);
+    CheckForMarginalSums(table, -3, 2, result, keptRows, keptCols, dropped, dropped);
+    EXPECT_EQ(keptRows, -3);
+    EXPECT_EQ(keptCols, 0);
+    EXPECT_EQ(numbers(result.data, result.data + 4), numbers(4, 7.0));
+}
+
 TEST(MarginalSums, MustBeAboveTheLimit)
 {
     EXPECT_EQ(checked({1e-12}, 1, 1).cols, 0);

@@ -20,8 +20,8 @@
  * @param result      `rows` by `cols`, sized by the caller: the rows and columns that stay come to its top
  * left corner. Columns behind them stay as they were, and rows below them as copying the columns left them.
  * May be `table`
- * @param keptRows    receives how many rows stay
- * @param keptCols    receives how many columns stay
+ * @param keptRows    receives how many rows stay; a number of rows below 0 as it is
+ * @param keptCols    receives how many columns stay; a number of columns below 0 as it is
  * @param droppedRows `rows` integers, of which those of rows left out become 1; zero-filled by the caller
  * @param droppedCols `cols` integers, likewise for columns
  * @throws std::bad_alloc when memory is short
