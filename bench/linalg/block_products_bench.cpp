@@ -63,25 +63,16 @@ void blockTimesTable(benchmark::State& state)
     besideACopy(state, C, C.nbElem, product, given.least);
 }
 
-void tableTimesBlock(benchmark::State& state)
-{
-    blocks_of_a_kind given = blocksOf(state);
-    matrix<double> A = randomTable(others, order);
-    matrix<double> C(others, order, 0.0);
-    const auto product = [&] {
-        M_BlockProductABck(&A, others, &given.blocks, given.count, &given.sizes, &C);
-    };
-    besideACopy(state, C, C.nbElem, product, given.least);
-}
+using table_times_blocks = void (*)(matrix<double>*, int, matrix3D<matrix<double>>*, int, matrix<int>*,
+                                    matrix<double>*);
 
-void tableTimesTransposedBlock(benchmark::State& state)
+template <table_times_blocks multiply>
+void tableTimes(benchmark::State& state)
 {
     blocks_of_a_kind given = blocksOf(state);
     matrix<double> A = randomTable(others, order);
     matrix<double> C(others, order, 0.0);
-    const auto product = [&] {
-        M_BlockProductATrBck(&A, others, &given.blocks, given.count, &given.sizes, &C);
-    };
+    const auto product = [&] { multiply(&A, others, &given.blocks, given.count, &given.sizes, &C); };
     besideACopy(state, C, C.nbElem, product, given.least);
 }
 
@@ -106,5 +97,5 @@ void denseOnly(benchmark::internal::Benchmark* bench)
 } // namespace
 
 BENCHMARK(blockTimesTable)->Apply(kinds);
-BENCHMARK(tableTimesBlock)->Apply(kinds);
-BENCHMARK(tableTimesTransposedBlock)->Apply(denseOnly);
+BENCHMARK(tableTimes<M_BlockProductABck>)->Name("tableTimesBlock")->Apply(kinds);
+BENCHMARK(tableTimes<M_BlockProductATrBck>)->Name("tableTimesTransposedBlock")->Apply(denseOnly);
